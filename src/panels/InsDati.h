@@ -1,0 +1,68 @@
+// panels/InsDati.h - the main panel: the node's data on seven tabs, the load list of five rows, the commands, the status line.
+// State     insDati: what each control shows; the model follows each change at once. Lives as long as the process.
+// Rule      nothing is validated here; a text counts as its numeric head, 0 for none.
+#pragma once
+#include "drawing/tela.h"
+#include "panels/controlli.h"
+
+struct StatoInsDati {
+  bool aperto = false;
+  std::string titolo;              // "NODO COLONNA - PLINTO - Lavoro: " and the node's name
+  std::string StatoTxt;            // the text that Timer1 will show in Help
+  std::string CartellaDialogo;     // starting folder of the next file dialog; cleared by its first use
+  std::string TitoloCerca;         // title of the search tool
+
+  Controllo SSTab, Help, Versione;
+  Controllo Colonna, Tipi, Piastra, Tirafondi, Sald, Materiali, Soll, Frame1;    // frames
+  Controllo Label1, TraveP, geom[5], geomp[5];
+  Controllo GeoP[2], LatoTxt[5], Label2[5];
+  Controllo Op_Tip[2], Pic_Tipo[3], HFazzTxt[2], Label8[2], ChSI, LSi;
+  Controllo GolaTxt, Label7;
+  Controllo OptionNTir[4], DTf[4 + 1], LDTf[4 + 1], TFLab[6], Label3[6], DimTf;  // DTf, LDTf 1..4
+  Controllo Acc, Cviti, ComboCalcestruzzo, ComboEsposizione, LabNormaProf, LabNormaTir, Label30[5];
+  Controllo PropMatButton, CheckMatBase;
+  Controllo Lsa[5], TxtSN[5], TxtTy[5], TxtTz[5], TxtMt[5], TxtMy[5], TxtMz[5], CasCar[5], ScrollSa;
+  Controllo Label4, Label5, Label13, Label14, Label16, Label18, Label26, Label27;
+  Controllo Singolo, RimuoviSA, RimuoviTSA, Doppi, MaxMin, EsportaSollButt, ImpS3D, CheckMaxMin;
+  Controllo TipoVer[2];
+  Controllo Nodo;                  // the plan of the joint
+  Controllo Verifica, Sav_Nodo, Car_Nodo, Gen_Dis, ApriVis, Opz, Command1, LegendaButt, Chiudi;
+  Tela telaNodo, telaTipo[3];
+};
+inline StatoInsDati insDati;
+extern const Pannello InsDati;
+
+// Start and reset.
+bool CaricaInsDati(const std::string& rigaComando);   // the whole start in its order; false: it ended in a message and fine()
+void AzzeraNodo();                                    // the reset of a node, through the fields
+
+// Fields and model.
+void ScriviTitolo();                                  // caption from nodo.NomeNodo
+void PosizioniTirafondi();                            // NTir, TfZ, TfY from DTf 1..4, the sides and the pattern
+void AggiornaTFLab();                                 // the anchor's read-only labels
+void AggiornaGeomp();                                 // H, B, A, E, R of the section
+void InsDati_LatoTxt_Invio(int indice);
+void RidisegnaNodo();                                 // the plan, unless a step of the running command has failed
+void ImpostaStato(const char* testo);                 // status line after 800 ms
+
+// Load list (panels/lista_soll.cpp).
+void MostraRiga(int i);
+void NascondiRiga(int i);
+void SvuotaRiga(int i);
+void RiempiRiga(int i);
+void AzzeraGruppo(int n);                             // components and class; the name stays
+void CopiaGruppo(int da, int a);
+void RimuoviGruppo(int n);
+void RimuoviDoppi();
+void RiduciMaxMin();
+void AggiornaRighe();
+
+// Node file (panels/file_nodo.cpp); the commands with their dialogs and boxes.
+void InsDati_Sav_Nodo(int);
+void InsDati_Car_Nodo(int);
+
+// Materials (panels/combo_materiali.cpp).
+void RiempiComboMateriali(Controllo& combo, bool metodoTA, const char* ruolo, const std::string& selezione);
+void CambioMetodo();                                  // memories and combos after a real change of TipoVer
+void ControllaMateriali();                            // the loaded names against the tables
+void InsDati_CheckMatBase(int);
