@@ -1,0 +1,60 @@
+// core/eventi.cpp - composition of the event lines.
+#include "core/eventi.h"
+
+#include "core/file.h"
+
+std::string SuUnaRiga(std::string_view testo) {
+  std::string r;
+  r.reserve(testo.size());
+  for (std::size_t k = 0; k < testo.size(); ++k) {
+    const char c = testo[k];
+    if (c == '\r' && k + 1 < testo.size() && testo[k + 1] == '\n') continue;   // CR LF is one end
+    if (c == '\r' || c == '\n') r += "\\n";
+    else r += c;
+  }
+  return r;
+}
+
+const char* NomeIcona(Icona icona) {
+  switch (icona) {
+    case Icona::Critica: return "critica";
+    case Icona::Esclamazione: return "esclamazione";
+    case Icona::Informazione: return "informazione";
+    case Icona::Nessuna: break;
+  }
+  return "nessuna";
+}
+
+static std::string Riquadro(const char* genere, std::string_view testo, std::string_view titolo, Icona icona) {
+  return std::string(genere) + NomeIcona(icona) + " | " + SuUnaRiga(titolo) + " | " + SuUnaRiga(testo);
+}
+
+std::string RigaMessaggio(std::string_view testo, std::string_view titolo, Icona icona) {
+  return Riquadro("[messaggio] ", testo, titolo, icona);
+}
+
+std::string RigaDomanda(std::string_view testo, std::string_view titolo, Icona icona, bool ok) {
+  return Riquadro("[domanda] ", testo, titolo, icona) + (ok ? " -> OK" : " -> Annulla");
+}
+
+std::string RigaFile(const RichiestaFile& r, bool scelto, std::string_view percorso) {
+  return std::string("[file] ") + (r.salva ? "salva" : "apri") + " | " + SuUnaRiga(r.titolo) + " | " + SuUnaRiga(r.filtro) + " | " +
+         SuUnaRiga(r.nomeIniziale) + " -> " + (scelto ? SuUnaRiga(RisolviPercorso(percorso)) : "Annulla");
+}
+
+std::string RigaProgramma(std::string_view comando) { return "[programma] " + SuUnaRiga(comando); }
+std::string RigaAvvia(std::string_view comando) { return "[avvia] " + SuUnaRiga(comando); }
+std::string RigaTasti(std::string_view finestra, std::string_view tasti) {
+  return "[tasti] " + SuUnaRiga(finestra) + " | " + SuUnaRiga(tasti);
+}
+std::string RigaTesto(std::string_view percorso) { return "[testo] " + SuUnaRiga(RisolviPercorso(percorso)); }
+std::string RigaAiuto(std::string_view percorso) { return "[aiuto] " + SuUnaRiga(RisolviPercorso(percorso)); }
+std::string RigaDiario(std::string_view riga) { return "[importazione] " + SuUnaRiga(riga); }
+
+std::string ConEstensione(const RichiestaFile& r, std::string_view percorso) {
+  const std::size_t taglio = percorso.find_last_of("\\/");
+  const std::string_view ultimo = taglio == std::string_view::npos ? percorso : percorso.substr(taglio + 1);
+  std::string p(percorso);
+  if (!r.estensione.empty() && !ultimo.empty() && ultimo.find('.') == std::string_view::npos) p += "." + r.estensione;
+  return p;
+}
