@@ -23,7 +23,7 @@ struct FileLettura {
 bool ApriLettura(FileLettura& f, std::string_view percorso);
 bool FineFile(const FileLettura& f);
 bool LeggiRiga(FileLettura& f, std::string& riga);          // one whole line without its end; a line is cut at 1 MiB
-// One value: leading blanks skipped. A text ends at a comma or the line's end, or at its closing quote if it begins with one;
+// One value: leading blanks skipped. A text ends at a comma or the line's end, or at its closing quote (on the same line) if it begins with one;
 // trailing blanks of an unquoted text stay. A number ends at a comma, a run of blanks (one comma behind is eaten) or the line's end.
 // A numeric text without a number is 0 and no failure; an overflow, also of an integer, is a failed step whose text is consumed.
 bool LeggiValore(FileLettura& f, std::string& v);

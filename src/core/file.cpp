@@ -1,0 +1,220 @@
+// core/file.cpp - paths, the reader of lines and values, text output.
+#include "core/file.h"
+
+#include <algorithm>
+#include <cstring>
+#include <filesystem>
+#include <system_error>
+
+#include "core/aritmetica.h"
+#include "core/numeri.h"
+#include "core/testo.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t MASSIMO_RIGA = 1u << 20;      // a line is cut here
+constexpr std::uintmax_t MASSIMO_FILE = 1u << 28;   // no text file of the suite is larger; one that is counts as unreadable
+
+bool Separa(char c) { return c == '\\' || c == '/'; }
+bool FineRiga(char c) { return c == '\r' || c == '\n'; }
+
+// A system path that stands as it is; false also where the system refuses it (a name too long, a NUL).
+bool Esiste(const std::string& p) {
+  std::error_code e;
+  return p.find('\0') == std::string::npos && fs::exists(fs::symlink_status(p, e)) && !e;
+}
+
+// The entry of a folder that equals nome without regard to case, lowest byte order first; nome itself when there is none.
+std::string ComponenteEsistente(const std::string& cartella, const std::string& nome) {
+  if (Esiste(cartella + nome)) return nome;
+  const std::string minuscolo = Minuscolo(nome);
+  std::string trovato;
+  std::error_code e;
+  fs::directory_iterator voce(cartella.empty() ? "." : cartella, e);
+  for (; !e && voce != fs::directory_iterator(); voce.increment(e)) {
+    std::string candidato = voce->path().filename().string();
+    if (Minuscolo(candidato) == minuscolo && (trovato.empty() || candidato < trovato)) trovato = std::move(candidato);
+  }
+  return trovato.empty() ? nome : trovato;
+}
+
+void SaltaFineRiga(FileLettura& f) {
+  if (f.pos < f.byte.size() && f.byte[f.pos] == '\r') ++f.pos;
+  else if (f.pos < f.byte.size() && f.byte[f.pos] == '\n') {
+    ++f.pos;
+    return;
+  }
+  else return;
+  if (f.pos < f.byte.size() && f.byte[f.pos] == '\n') ++f.pos;
+}
+
+bool PassoFallito() {
+  passi.fallito = true;
+  return false;
+}
+
+bool PuoLeggere(FileLettura& f) { return (f.aperto && !FineFile(f)) || PassoFallito(); }
+
+void SaltaBlank(FileLettura& f) {
+  while (f.pos < f.byte.size() && f.byte[f.pos] == ' ') ++f.pos;
+}
+
+// Behind a value: one comma, or the line's end.
+void SaltaDelimitatore(FileLettura& f) {
+  if (f.pos < f.byte.size() && f.byte[f.pos] == ',') ++f.pos;
+  else SaltaFineRiga(f);
+}
+
+std::string_view TestoNumero(FileLettura& f) {
+  SaltaBlank(f);
+  const std::size_t da = f.pos;
+  while (f.pos < f.byte.size() && f.byte[f.pos] != ',' && f.byte[f.pos] != ' ' && !FineRiga(f.byte[f.pos])) ++f.pos;
+  const std::string_view t = std::string_view(f.byte).substr(da, std::min(f.pos - da, MASSIMO_RIGA));
+  SaltaBlank(f);
+  SaltaDelimitatore(f);
+  return t;
+}
+
+template <class Intero>
+bool LeggiIntero(FileLettura& f, Intero& v) {
+  if (!PuoLeggere(f)) return false;
+  double d = 0;
+  Intero n = 0;
+  if (!Val(TestoNumero(f), d) || !InIntero(d, n)) return PassoFallito();
+  v = n;
+  return true;
+}
+
+bool ScriviByteFile(std::FILE* file, const std::string& byte) {
+  const bool scritto = std::fwrite(byte.data(), 1, byte.size(), file) == byte.size();
+  const bool svuotato = std::fflush(file) == 0;
+  return std::fclose(file) == 0 && scritto && svuotato;
+}
+
+}  // namespace
+
+std::string RisolviPercorso(std::string_view percorso) {
+  std::string sistema;
+  for (std::size_t i = 0; i < percorso.size();) {
+    if (Separa(percorso[i])) {
+      if (sistema.empty() || sistema.back() != '/') sistema += '/';
+      ++i;
+      continue;
+    }
+    std::size_t j = i;
+    while (j < percorso.size() && !Separa(percorso[j])) ++j;
+    sistema += ComponenteEsistente(sistema, std::string(percorso.substr(i, j - i)));
+    i = j;
+  }
+  return sistema;
+}
+
+bool EsisteFile(std::string_view percorso) {
+  std::error_code e;
+  const std::string p = RisolviPercorso(percorso);
+  return Esiste(p) && fs::is_regular_file(p, e) && !e;
+}
+
+bool EliminaFile(std::string_view percorso) {
+  std::error_code e;
+  return EsisteFile(percorso) && fs::remove(RisolviPercorso(percorso), e) && !e;
+}
+
+std::string NomeSenzaEstensione(std::string_view percorso) {
+  const std::size_t p = percorso.find_last_of("\\/");
+  if (p != std::string_view::npos) percorso.remove_prefix(p + 1);
+  return std::string(percorso.substr(0, percorso.find('.')));
+}
+
+bool ApriLettura(FileLettura& f, std::string_view percorso) {
+  f = {};
+  const std::string sistema = RisolviPercorso(percorso);
+  std::error_code e;
+  if (!Esiste(sistema) || !fs::is_regular_file(sistema, e) || fs::file_size(sistema, e) > MASSIMO_FILE || e) return false;
+  std::FILE* file = std::fopen(sistema.c_str(), "rb");
+  if (file == nullptr) return false;
+  char blocco[1 << 16];
+  std::size_t n = 0;
+  while ((n = std::fread(blocco, 1, sizeof blocco, file)) > 0) f.byte.append(blocco, n);
+  f.aperto = std::ferror(file) == 0;
+  std::fclose(file);
+  return f.aperto;
+}
+
+bool FineFile(const FileLettura& f) { return f.pos >= f.byte.size(); }
+
+bool LeggiRiga(FileLettura& f, std::string& riga) {
+  if (!PuoLeggere(f)) return false;
+  const std::size_t da = f.pos;
+  while (f.pos < f.byte.size() && !FineRiga(f.byte[f.pos])) ++f.pos;
+  riga = DaAnsi(std::string_view(f.byte).substr(da, std::min(f.pos - da, MASSIMO_RIGA)));
+  SaltaFineRiga(f);
+  return true;
+}
+
+bool LeggiValore(FileLettura& f, std::string& v) {
+  if (!PuoLeggere(f)) return false;
+  SaltaBlank(f);
+  const bool virgolette = f.pos < f.byte.size() && f.byte[f.pos] == '"';
+  if (virgolette) ++f.pos;
+  const std::size_t da = f.pos;
+  const auto fine = [&](char c) { return FineRiga(c) || c == (virgolette ? '"' : ','); };
+  while (f.pos < f.byte.size() && !fine(f.byte[f.pos])) ++f.pos;
+  v = DaAnsi(std::string_view(f.byte).substr(da, std::min(f.pos - da, MASSIMO_RIGA)));
+  if (virgolette) {
+    if (f.pos < f.byte.size() && f.byte[f.pos] == '"') ++f.pos;
+    SaltaBlank(f);
+  }
+  SaltaDelimitatore(f);
+  return true;
+}
+
+bool LeggiValore(FileLettura& f, double& v) {
+  if (!PuoLeggere(f)) return false;
+  return Val(TestoNumero(f), v) || PassoFallito();
+}
+
+bool LeggiValore(FileLettura& f, std::int16_t& v) { return LeggiIntero(f, v); }
+bool LeggiValore(FileLettura& f, std::int32_t& v) { return LeggiIntero(f, v); }
+
+bool ApriScrittura(FileScrittura& f, std::string_view percorso) {
+  f.testo.clear();
+  const std::string sistema = RisolviPercorso(percorso);
+  if (sistema.empty() || sistema.find('\0') != std::string::npos) return false;
+  f.file = std::fopen(sistema.c_str(), "wb");
+  return f.file != nullptr;
+}
+
+bool ChiudiScrittura(FileScrittura& f) {
+  if (f.file == nullptr) return false;
+  const bool riuscita = ScriviByteFile(f.file, InAnsi(f.testo));
+  f.file = nullptr;
+  f.testo.clear();
+  return riuscita;
+}
+
+bool SostituisciFile(std::string_view percorso, std::string_view testo) {
+  std::string sistema = RisolviPercorso(percorso);
+  if (sistema.empty() || sistema.find('\0') != std::string::npos) return false;
+  std::error_code e;
+  if (fs::is_directory(sistema, e)) return false;
+  if (fs::is_symlink(sistema, e)) {
+    const fs::path vero = fs::canonical(sistema, e);
+    if (e) return false;
+    sistema = vero.string();
+  }
+  const std::string accanto = sistema + ".~nuovo";
+  std::FILE* file = std::fopen(accanto.c_str(), "wb");
+  if (file == nullptr) return false;
+  bool riuscita = ScriviByteFile(file, InAnsi(testo));
+  if (riuscita) {
+    const fs::file_status stato = fs::status(sistema, e);
+    if (!e && fs::exists(stato)) fs::permissions(accanto, stato.permissions(), e);
+    fs::rename(accanto, sistema, e);
+    riuscita = !e;
+  }
+  if (!riuscita) fs::remove(accanto, e);
+  return riuscita;
+}

@@ -1,0 +1,204 @@
+// core/numeri.cpp - numbers as text and back without a locale; roundings in double precision.
+#include "core/numeri.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+#include "model/suite.h"
+
+namespace {
+
+constexpr int CIFRE = 15;          // significant digits of every written number
+constexpr double POTENZE[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+
+bool Cifra(char c) { return c >= '0' && c <= '9'; }
+
+struct Decimali {                  // value = 0.d1 d2 ... dn x 10^esp, no trailing zeros
+  char cifre[24] = {};
+  int n = 0, esp = 0;
+};
+
+// Digits of v > 0, at most 15 significant. The shortest text that gives v back is tried first: with up to 15 digits it is the
+// correctly rounded 15-digit text without its trailing zeros; a longer one is rounded anew from v itself.
+Decimali CifreDi(double v) {
+  char testo[40];
+  Decimali d;
+  for (int prova = 0; prova < 2; ++prova) {
+    const auto esito = prova == 0 ? std::to_chars(testo, testo + sizeof testo, v, std::chars_format::scientific)
+                                  : std::to_chars(testo, testo + sizeof testo, v, std::chars_format::scientific, CIFRE - 1);
+    const char* p = testo;
+    d.n = 0;
+    for (; *p != 'e'; ++p)
+      if (*p != '.') d.cifre[d.n++] = *p;
+    int esp = 0;
+    const char* q = p + 1 + (p[1] == '+' ? 1 : 0);
+    std::from_chars(q, esito.ptr, esp);
+    d.esp = esp + 1;
+    if (d.n <= CIFRE) break;
+  }
+  while (d.n > 1 && d.cifre[d.n - 1] == '0') --d.n;
+  return d;
+}
+
+char* Copia(char* a, const char* da, int n) {
+  std::memcpy(a, da, static_cast<std::size_t>(n));
+  return a + n;
+}
+
+// Below 1E-4 and from 1E15 on: mantissa with its point, E, sign, at least two digits.
+char* FormaEsponente(char* a, const Decimali& d, char mark) {
+  *a++ = d.cifre[0];
+  if (d.n > 1) {
+    *a++ = mark;
+    a = Copia(a, d.cifre + 1, d.n - 1);
+  }
+  int esp = d.esp - 1;
+  *a++ = 'E';
+  *a++ = esp < 0 ? '-' : '+';
+  if (esp < 0) esp = -esp;
+  if (esp < 10) *a++ = '0';
+  return std::to_chars(a, a + 4, esp).ptr;
+}
+
+char* FormaPiana(char* a, const Decimali& d, char mark, bool zeroIniziale) {
+  if (d.esp <= 0) {
+    if (zeroIniziale) *a++ = '0';
+    *a++ = mark;
+    for (int i = d.esp; i < 0; ++i) *a++ = '0';
+    return Copia(a, d.cifre, d.n);
+  }
+  if (d.n <= d.esp) {
+    a = Copia(a, d.cifre, d.n);
+    for (int i = d.n; i < d.esp; ++i) *a++ = '0';
+    return a;
+  }
+  a = Copia(a, d.cifre, d.esp);
+  *a++ = mark;
+  return Copia(a, d.cifre + d.esp, d.n - d.esp);
+}
+
+// The head's extent: sign, digits, one point, digits, exponent with at least one digit. Empty: no number there.
+std::string_view TestaNumerica(std::string_view t) {
+  std::size_t i = 0;
+  while (i < t.size() && t[i] == ' ') ++i;
+  const std::size_t inizio = i;
+  if (i < t.size() && (t[i] == '+' || t[i] == '-')) ++i;
+  bool cifre = false, punto = false;
+  for (; i < t.size(); ++i) {
+    if (Cifra(t[i])) cifre = true;
+    else if (t[i] == '.' && !punto) punto = true;
+    else break;
+  }
+  if (!cifre) return {};
+  std::size_t e = i;
+  if (e < t.size() && (t[e] == 'E' || t[e] == 'e')) {
+    ++e;
+    if (e < t.size() && (t[e] == '+' || t[e] == '-')) ++e;
+    if (e < t.size() && Cifra(t[e])) {
+      while (e < t.size() && Cifra(t[e])) ++e;
+      i = e;
+    }
+  }
+  return t.substr(inizio, i - inizio);
+}
+
+// A number too small for a double reads as 0 or as the platform's denormal; from_chars tells it apart from one too large by
+// neither value nor code, so the sign of the decimal exponent of its first digit decides.
+bool TroppoPiccolo(std::string_view testa) {
+  long esp = 0;
+  const std::size_t e = testa.find_first_of("eE");
+  if (e != std::string_view::npos) {
+    std::string_view x = testa.substr(e + 1);
+    const bool negativo = !x.empty() && x[0] == '-';
+    if (!x.empty() && (x[0] == '+' || x[0] == '-')) x.remove_prefix(1);
+    for (char c : x) esp = esp < 100000000 ? esp * 10 + (c - '0') : esp;
+    if (negativo) esp = -esp;
+  }
+  const std::string_view m = testa.substr(0, e);
+  const std::size_t punto = std::min(m.find('.'), m.size());
+  const std::size_t prima = m.find_first_of("123456789");
+  if (prima == std::string_view::npos) return true;
+  return esp + static_cast<long>(punto) - static_cast<long>(prima) < 0;
+}
+
+template <class Intero>
+bool InInteroDi(double v, Intero& n) {
+  const double r = std::nearbyint(v);
+  if (!(r >= static_cast<double>(std::numeric_limits<Intero>::min()) && r <= static_cast<double>(std::numeric_limits<Intero>::max()))) return false;
+  n = static_cast<Intero>(r);
+  return true;
+}
+
+std::string Testo(double v, char mark, bool zeroIniziale) {
+  char a[32];
+  return std::string(a, static_cast<std::size_t>(ScriviNumero(v, a, mark, zeroIniziale)));
+}
+
+}  // namespace
+
+int ScriviNumero(double v, char* a, char mark, bool zeroIniziale) {
+  if (v == 0) {
+    a[0] = '0';
+    return 1;
+  }
+  char* p = a;
+  if (v < 0) {
+    *p++ = '-';
+    v = -v;
+  }
+  const Decimali d = CifreDi(v);
+  p = (d.esp <= -4 || d.esp > CIFRE) ? FormaEsponente(p, d, mark) : FormaPiana(p, d, mark, zeroIniziale);
+  return static_cast<int>(p - a);
+}
+
+std::string NumeroPiano(double v) { return Testo(v, '.', false); }
+
+std::string NumeroRelazione(double v) { return Testo(v, suite.Decimale, true); }
+
+std::string NumeroFile(double v) {
+  std::string t = NumeroPiano(v);
+  if (t[0] != '-') t.insert(t.begin(), ' ');
+  t += ' ';
+  return t;
+}
+
+bool Val(std::string_view testo, double& v) {
+  std::string_view testa = TestaNumerica(testo);
+  if (testa.empty()) {
+    v = 0;
+    return true;
+  }
+  if (testa[0] == '+') testa.remove_prefix(1);
+  double letto = 0;
+  const auto esito = std::from_chars(testa.data(), testa.data() + testa.size(), letto);
+  if (esito.ec == std::errc::result_out_of_range) {
+    if (!TroppoPiccolo(testa)) return false;
+    letto = 0;
+  }
+  v = letto;
+  return true;
+}
+
+bool ValLocale(std::string_view testo, char mark, double& v) {
+  std::string punto;
+  for (char c : testo) {
+    if (c == mark) punto += '.';
+    else if (c != '.' && c != ',') punto += c;
+  }
+  return Val(punto, v);
+}
+
+bool InIntero(double v, std::int16_t& n) { return InInteroDi(v, n); }
+bool InIntero(double v, std::int32_t& n) { return InInteroDi(v, n); }
+
+double ArrotondaPari(double v, int decimali) {
+  if (decimali <= 0) return std::nearbyint(v);
+  const double p = decimali <= 22 ? POTENZE[decimali] : std::pow(10.0, decimali);
+  return std::nearbyint(v * p) / p;
+}
+
+double Arrotonda1(double v) { return std::floor(v * 10 + 0.5) / 10; }
+double Arrotonda2(double v) { return std::floor(v * 100 + 0.5) / 100; }
