@@ -1,0 +1,14 @@
+// core/diametri.h - the table of anchor diameters and the resistant area of any diameter.
+// State     suite.NumDiam, DiamNome, DiamVal (mm), DiamArea (mm2): rows from 0; filled once at the start.
+//           Rows are expected in ascending order of diameter; nothing checks that.
+// Failure   a missing file leaves the built-in table; a bad one shows its box, the start goes on and NumDiam stays.
+#pragma once
+
+// The 22 built-in rows, M8 to M68, then the rows of DirCustom\QbDiam.txt (name|diameter|area|) over them from the top.
+// A shorter file leaves built-in rows behind the count.
+void LeggiDiametri();
+
+// Resistant area (mm2) of a bar of diameter d (mm): linear in d^2 between two rows, and beyond the first and the last row.
+// Sets ris.FlagDiamEstrapolato outside the table and ris.FlagDiamInterpolato between two rows; clears neither.
+// 0: no row fits, or an empty table. Two neighbouring rows of one diameter are a division by zero: fault raised, 0 returned.
+double AreaResistente(double d);
