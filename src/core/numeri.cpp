@@ -22,11 +22,12 @@ struct Decimali {                  // value = 0.d1 d2 ... dn x 10^esp, no traili
 };
 
 // Digits of v > 0, at most 15 significant. The shortest text that gives v back is tried first: with up to 15 digits it is the
-// correctly rounded 15-digit text without its trailing zeros; a longer one is rounded anew from v itself.
+// correctly rounded 15-digit text without its trailing zeros; a longer one is rounded anew from v itself, and so is a
+// denormal, whose shortest text has fewer digits than were asked for.
 Decimali CifreDi(double v) {
   char testo[40];
   Decimali d;
-  for (int prova = 0; prova < 2; ++prova) {
+  for (int prova = v < std::numeric_limits<double>::min() ? 1 : 0; prova < 2; ++prova) {
     const auto esito = prova == 0 ? std::to_chars(testo, testo + sizeof testo, v, std::chars_format::scientific)
                                   : std::to_chars(testo, testo + sizeof testo, v, std::chars_format::scientific, CIFRE - 1);
     const char* p = testo;
