@@ -1,0 +1,212 @@
+// link/importa_soll.cpp - the import proper: binary records, list and envelope.
+#include "link/importa_soll.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstring>
+#include <fstream>
+#include <utility>
+#include <vector>
+
+#include "core/file.h"
+#include "core/numeri.h"
+#include "core/piattaforma.h"
+#include "link/collegamento.h"
+
+namespace {
+
+constexpr std::int64_t RECORD = 56;          // bytes
+constexpr int RIGHE_INVILUPPO = 12;
+constexpr double ESTREMO = 1E20;             // what a row of the envelope holds until a sextet beats it
+
+struct Sestetto {
+  double N = 0, Ty = 0, Tz = 0, Mt = 0, My = 0, Mz = 0;
+};
+
+// Component of each pair of envelope rows: odd row the largest, even row the smallest.
+constexpr double Sestetto::*COMPONENTI[] = {&Sestetto::N, &Sestetto::Tz, &Sestetto::Ty, &Sestetto::My, &Sestetto::Mz, &Sestetto::Mt};
+
+struct FileRisultati {
+  std::ifstream file;
+  std::int64_t lunghezza = 0;
+  std::int16_t NumAsteFile = 0;
+  std::int32_t NumSezioni = 0, NumSestettiFile = 0;
+};
+
+template <class T>
+T DaByte(const char* byte) {                 // little-endian, whatever the machine
+  unsigned char b[sizeof(T)];
+  std::memcpy(b, byte, sizeof b);
+  if constexpr (std::endian::native == std::endian::big) std::reverse(b, b + sizeof b);
+  T v;
+  std::memcpy(&v, b, sizeof v);
+  return v;
+}
+
+bool LeggiByte(FileRisultati& f, std::int64_t posto, char* byte, std::int64_t quanti) {
+  if (posto < 0 || posto > f.lunghezza - quanti) return false;
+  f.file.clear();
+  return f.file.seekg(posto) && f.file.read(byte, quanti);
+}
+
+bool Apri(FileRisultati& f, const std::string& percorso) {
+  if (!EsisteFile(percorso)) return false;
+  f.file.rdbuf()->pubsetbuf(nullptr, 0);     // few bytes at many places: nothing is read ahead
+  f.file.open(RisolviPercorso(percorso), std::ios::binary | std::ios::ate);
+  if (!f.file) return false;
+  f.lunghezza = f.file.tellg();
+  char b[RECORD] = {};
+  if (!LeggiByte(f, 0, b, 12)) return true;  // no header: no bars
+  f.NumAsteFile = DaByte<std::int16_t>(b);
+  f.NumSezioni = DaByte<std::int32_t>(b + 4);
+  f.NumSestettiFile = DaByte<std::int32_t>(b + 8);
+  return true;
+}
+
+// Byte at which a record begins; -1: it would lie outside the file.
+std::int64_t PostoRecord(const FileRisultati& f, std::int64_t p, std::int64_t q, std::int64_t t) {
+  const std::int64_t record = f.lunghezza / RECORD;
+  if (f.NumSezioni <= 0 || f.NumSestettiFile <= 0 || f.NumSezioni > record || f.NumSestettiFile > record) return -1;
+  const std::int64_t perAsta = static_cast<std::int64_t>(f.NumSezioni) * f.NumSestettiFile;
+  if (perAsta > record || p < 0 || p > record) return -1;
+  const std::int64_t n = p * perAsta + (q - 1) * f.NumSestettiFile + t;
+  return n < record ? n * RECORD : -1;
+}
+
+// The file's own places of the bars overwrite those of the structure file.
+void PostiDelleAste(FileRisultati& f) {
+  Collegamento& c = collegamento;
+  std::vector<std::pair<std::int16_t, int>> voci;
+  for (int i = 1; i <= c.NumAsteNodo; ++i) voci.emplace_back(c.AsteNodo[i], i);
+  std::sort(voci.begin(), voci.end());
+  for (std::int32_t p = 0; p < f.NumAsteFile; ++p) {
+    char b[2];
+    const std::int64_t posto = PostoRecord(f, p, 1, 1);
+    if (posto < 0 || !LeggiByte(f, posto, b, 2)) return;
+    const auto numero = DaByte<std::int16_t>(b);
+    for (auto v = std::lower_bound(voci.begin(), voci.end(), std::pair(numero, 0)); v != voci.end() && v->first == numero; ++v)
+      c.AstaNodo[v->second] = p;
+  }
+}
+
+bool Decifra(const char* b, std::int16_t lato, Sestetto& s) {
+  double v[6];
+  for (int k = 0; k < 6; ++k) {
+    v[k] = DaByte<double>(b + 8 + 8 * k);
+    if (!std::isfinite(v[k])) return false;
+  }
+  s = {Arrotonda1(v[0]), Arrotonda1(v[1]), Arrotonda1(v[2]), ArrotondaPari(v[3], 0), ArrotondaPari(v[4], 0), ArrotondaPari(v[5], 0)};
+  if (lato == 2) s.Ty = -s.Ty;
+  return true;
+}
+
+void MettiRiga(int n, const Sestetto& s, const std::string& nome) {
+  nodo.SollN[n] = s.N;
+  nodo.SollTy[n] = s.Ty;
+  nodo.SollTz[n] = s.Tz;
+  nodo.SollMt[n] = s.Mt;
+  nodo.SollMy[n] = s.My;
+  nodo.SollMz[n] = s.Mz;
+  nodo.SollNome[n] = nome;
+  nodo.SollCC[n] = 0;
+}
+
+Sestetto RigaDi(int n) { return {nodo.SollN[n], nodo.SollTy[n], nodo.SollTz[n], nodo.SollMt[n], nodo.SollMy[n], nodo.SollMz[n]}; }
+
+void AzzeraInviluppo() {
+  nodo.NumSoll = RIGHE_INVILUPPO;
+  for (int i = 1; i <= RIGHE_INVILUPPO; ++i) {
+    const double v = i % 2 == 0 ? ESTREMO : -ESTREMO;
+    MettiRiga(i, {v, v, v, v, v, v}, {});
+  }
+}
+
+void Inviluppa(const Sestetto& s, const std::string& nome) {
+  for (int i = 1; i <= RIGHE_INVILUPPO; ++i) {
+    const auto componente = COMPONENTI[(i - 1) / 2];
+    const double ora = RigaDi(i).*componente;
+    if (i % 2 == 1 ? s.*componente > ora : s.*componente < ora) MettiRiga(i, s, nome);
+  }
+}
+
+void TroppeSollecitazioni() { Messaggio("Errore: numero di sollecitazioni eccessivo", "ERRORE", Icona::Esclamazione); }
+
+// One record into the list or the envelope; false: the list is full.
+bool Prendi(const char* record, int i, const std::string& origine, bool maxMin) {
+  Collegamento& c = collegamento;
+  Sestetto s;
+  if (!Decifra(record, c.LatoAsta[i], s)) return true;
+  const std::string nome = origine + " As. " + std::to_string(c.AsteNodo[i]) + " Nd. " + std::to_string(nodo.NodiStr[i]);
+  if (!maxMin && nodo.NumSoll >= MaxSoll) {
+    TroppeSollecitazioni();
+    return false;
+  }
+  ++c.Presi;
+  if (maxMin) Inviluppa(s, nome);
+  else MettiRiga(++nodo.NumSoll, s, nome);
+  return true;
+}
+
+// How often the list of sextets asks for t; a 0 asks for each.
+int VolteRichiesto(std::int64_t t) {
+  const Collegamento& c = collegamento;
+  return static_cast<int>(std::count_if(c.SestettiStr + 1, c.SestettiStr + 1 + c.NumSestettiStr, [&](std::int16_t n) { return n == t || n == 0; }));
+}
+
+// The sextets of one bar at its end's section, read in one piece.
+bool PrendiAsta(FileRisultati& f, int i, const std::string& origine, bool maxMin) {
+  Collegamento& c = collegamento;
+  const std::int64_t primo = PostoRecord(f, c.AstaNodo[i], c.LatoAsta[i] == 2 ? f.NumSezioni : 1, 1);
+  if (primo < 0) return true;
+  const std::int64_t quanti = std::min<std::int64_t>(f.NumSestettiFile, (f.lunghezza - primo) / RECORD);
+  std::string byte(static_cast<std::size_t>(quanti * RECORD), '\0');
+  if (!LeggiByte(f, primo, byte.data(), quanti * RECORD)) return true;
+  for (std::int64_t t = 1; t <= quanti; ++t) {
+    const int volte = VolteRichiesto(t);
+    if (volte > 0) ++c.Letti;
+    for (int k = 0; k < volte; ++k)
+      if (!Prendi(byte.data() + (t - 1) * RECORD, i, origine, maxMin)) return false;
+  }
+  return true;
+}
+
+bool ImportaFile(bool condizione, int numero, bool maxMin) {
+  Collegamento& c = collegamento;
+  FileRisultati f;
+  const std::string percorso = suite.DirLavoro + "\\" + NomeFileRisultati(condizione, numero);
+  if (!Apri(f, percorso)) {
+    Messaggio("Errore: file " + percorso + " errato o mancante.", "ERRORE", Icona::Esclamazione);
+    return false;
+  }
+  PostiDelleAste(f);
+  if (!maxMin && nodo.NumSoll + static_cast<std::int64_t>(c.NumAsteNodo) * f.NumSestettiFile > MaxSoll) {
+    TroppeSollecitazioni();
+    nodo.NumSoll = 0;
+    return false;
+  }
+  const std::string origine = (condizione ? "Cond " : "Caso ") + std::to_string(numero);
+  for (int i = 1; i <= c.NumAsteNodo; ++i)
+    if (c.AsteNodo[i] > 0 && !PrendiAsta(f, i, origine, maxMin)) return false;
+  return true;
+}
+
+}  // namespace
+
+std::string NomeFileRisultati(bool condizione, int numero) {
+  std::string cifre = std::to_string(numero);
+  if (cifre.size() > 3) cifre = cifre.substr(cifre.size() - 3);
+  return std::string(condizione ? "aste_" : "astec") + std::string(3 - cifre.size(), '0') + cifre + ".bin";
+}
+
+void ImportaSollecitazioni(bool maxMin) {
+  Collegamento& c = collegamento;
+  c.Letti = c.Presi = 0;
+  if (maxMin) AzzeraInviluppo();
+  bool avanti = true;
+  for (int k = 1; avanti && k <= c.NumCasiStr + c.NumCondStr; ++k) {
+    const bool condizione = k > c.NumCasiStr;
+    avanti = ImportaFile(condizione, condizione ? c.CondStr[k - c.NumCasiStr] : c.CasiStr[k], maxMin);
+  }
+  for (int s = 1; avanti && s <= nodo.NumSoll; ++s) nodo.SollCC[s] = 0;   // also the rows that were there before
+}

@@ -1,0 +1,193 @@
+// Structure and section files: counts, version, bars of a node, sections, ends. The model is tests/corredo/modello_minimo.h, followed by hand.
+#include <gtest/gtest.h>
+
+#include "core/testo.h"
+#include "corredo/modello_minimo.h"
+#include "corredo/registratore.h"
+#include "link/struttura.h"
+
+namespace {
+
+struct Struttura : testing::Test {
+  std::string lavoro;
+  void SetUp() override {
+    MontaRegistratore();
+    collegamento.NumAsteNodo = 0;
+    lavoro = CartellaProva("struttura");
+    suite.DirLavoro = lavoro;
+    suite.NumProfili = 2;
+    suite.ProfiliLib[1].Nome = AllineaSinistra("IPE300", LungNomeSez);
+    suite.ProfiliLib[2].Nome = AllineaSinistra("HEA200", LungNomeSez);
+    suite.ProfiliLib[2].H = 190;
+    suite.ProfiliLib[2].R = 18;
+    Scrivi("Struttur.Str", STRUTTURA_MINIMA);
+    Scrivi("sezioni_", SEZIONI_MINIME);
+  }
+  void Scrivi(const std::string& nome, const std::string& byte) { ScriviByte(lavoro + "/" + nome, byte); }
+  void Nodi(std::initializer_list<std::int16_t> lista) {
+    nodo.NumNodiStr = 0;
+    for (const std::int16_t n : lista) nodo.NodiStr[++nodo.NumNodiStr] = n;
+  }
+  void Aste(std::initializer_list<std::int16_t> lista) {
+    collegamento.NumAsteNodo = 0;
+    for (const std::int16_t a : lista) collegamento.AsteNodo[++collegamento.NumAsteNodo] = a;
+  }
+  void AttesoSolo(const std::string& evento) {
+    ASSERT_EQ(registratore.eventi.size(), 1u);
+    EXPECT_EQ(registratore.eventi[0], evento);
+  }
+};
+
+}  // namespace
+
+TEST_F(Struttura, SezioneDiUnAsta) {
+  EXPECT_EQ(SezioneDiAsta(5), 1);
+  EXPECT_EQ(SezioneDiAsta(6), 2);
+  EXPECT_EQ(SezioneDiAsta(99), -1);
+  EXPECT_TRUE(registratore.eventi.empty());
+}
+
+TEST_F(Struttura, SezioneDiUnAstaSenzaFile) {
+  suite.DirLavoro = lavoro + "\\manca";
+  EXPECT_EQ(SezioneDiAsta(5), -1);
+  AttesoSolo("[messaggio] esclamazione | VESTRAWIN | Errore in lettura del file STRUTTUR.STR");
+}
+
+TEST_F(Struttura, VersioneVecchiaSiDiceESiLeggeDallaStessaRiga) {
+  std::string t = STRUTTURA_MINIMA;
+  t.erase(0, t.find('\n') + 1);
+  Scrivi("Struttur.Str", t);
+  EXPECT_EQ(SezioneDiAsta(7), 1);
+  AttesoSolo("[messaggio] critica | ATTENZIONE! | Versione 3.8 o precedente. Caricare e risalvare la struttura in 'Ambiente Grafico'");
+}
+
+TEST_F(Struttura, ProfiloDallaSezioneConPrefissoEBlank) {
+  EXPECT_EQ(ProfiloDaAsta(5), 0);                         // "HEA200" is not "HE A 200" without blanks plus anything: HEA200
+  registratore.eventi.clear();
+  Scrivi("sezioni_", "1\r\n1,\"P_HEA 200\",0\r\nr\r\nr\r\nr\r\nr\r\n");
+  EXPECT_EQ(ProfiloDaAsta(5), 2);
+  EXPECT_TRUE(registratore.eventi.empty());
+}
+
+TEST_F(Struttura, ProfiloNonApplicabileOFileAssente) {
+  EXPECT_EQ(ProfiloDaAsta(6), 0);
+  AttesoSolo("[messaggio] critica | INFORMAZIONE | Il profilo della colonna non è applicabile");
+  registratore.eventi.clear();
+  EXPECT_EQ(ProfiloDaAsta(99), 0);                        // a bar that is not there: nothing is said
+  EXPECT_TRUE(registratore.eventi.empty());
+  suite.DirLavoro = CartellaProva("senza_sezioni");
+  ScriviByte(suite.DirLavoro + "/struttur.str", STRUTTURA_MINIMA);
+  EXPECT_EQ(ProfiloDaAsta(5), 0);
+  AttesoSolo("[messaggio] esclamazione | ERRORE | Errore: file " + suite.DirLavoro + "\\sezioni_ errato o mancante.");
+}
+
+TEST_F(Struttura, AsteDiUnNodo) {
+  EXPECT_EQ(AsteDelNodo(20), EsitoAste::Trovate);
+  ASSERT_EQ(collegamento.NumAsteNodo, 3);
+  EXPECT_EQ(collegamento.AsteNodo[1], 5);
+  EXPECT_EQ(collegamento.AsteNodo[2], 6);
+  EXPECT_EQ(collegamento.AsteNodo[3], 7);
+  EXPECT_EQ(collegamento.SezAsteNodo[2], 2);
+  EXPECT_EQ(AsteDelNodo(40), EsitoAste::Trovate);         // a node without bars
+  EXPECT_EQ(collegamento.NumAsteNodo, 0);
+}
+
+TEST_F(Struttura, NodoInesistenteEFileAssente) {
+  EXPECT_EQ(AsteDelNodo(50), EsitoAste::Fallito);
+  AttesoSolo("[messaggio] nessuna | ERRORE | Errore: nodo inesistente");
+  registratore.eventi.clear();
+  suite.DirLavoro = lavoro + "\\manca";
+  EXPECT_EQ(AsteDelNodo(20), EsitoAste::Fallito);
+  AttesoSolo("[messaggio] nessuna | ERRORE | Errore: file " + suite.DirLavoro + "\\struttur.str errato o mancante.");
+}
+
+TEST_F(Struttura, TroppeAste) {
+  std::string t = "release\r\n0\r\n1\r\n1,0,0,1,n\r\n2001\r\n";
+  for (int i = 1; i <= 2001; ++i) t += "1,2,0,0\r\n" + std::to_string(i) + " 1\r\n";
+  Scrivi("Struttur.Str", t);
+  EXPECT_EQ(AsteDelNodo(1), EsitoAste::Troppe);
+  EXPECT_EQ(collegamento.NumAsteNodo, 2000);
+}
+
+TEST_F(Struttura, SezioniDelleAste) {
+  Scrivi("sezioni_", "2\r\n1,\"P_HEA 200\",0\r\nr\r\nr\r\nr\r\nr\r\n2,\"Composta saldata 1\",0\r\nr\r\nr\r\nr\r\nr\r\n");
+  ASSERT_EQ(AsteDelNodo(20), EsitoAste::Trovate);
+  ASSERT_TRUE(SezioniAsteNodo());
+  EXPECT_EQ(collegamento.SezioniStr[1].Nome, "HEA200            ");
+  EXPECT_EQ(collegamento.SezioniStr[1].H, 190);
+  EXPECT_EQ(collegamento.SezioniStr[1].R, 18);
+  EXPECT_EQ(collegamento.SezioniStr[2].Nome, "Non app. Composta ");   // cut to 18 characters
+}
+
+TEST_F(Struttura, LatoDelleAste) {
+  Nodi({10, 20, 20});
+  Aste({5, 6, 7});
+  ASSERT_TRUE(NodiAste());
+  EXPECT_EQ(collegamento.AstaNodo[1], 0);
+  EXPECT_EQ(collegamento.AstaNodo[3], 2);
+  EXPECT_EQ(collegamento.LatoAsta[1], 1);                 // node 10 is bar 5's first end
+  EXPECT_EQ(collegamento.LatoAsta[2], 1);                 // node 20 is bar 6's first end
+  EXPECT_EQ(collegamento.LatoAsta[3], 2);                 // and bar 7's second
+}
+
+TEST_F(Struttura, IlNodoDellaStessaPosizionePrimaDegliAltri) {
+  Nodi({20, 10});
+  Aste({5});
+  ASSERT_TRUE(NodiAste());
+  EXPECT_EQ(collegamento.LatoAsta[1], 2);                 // position 1 is node 20, the second end; 10 would give the first
+  Nodi({30, 20});
+  ASSERT_TRUE(NodiAste());
+  EXPECT_EQ(collegamento.LatoAsta[1], 2);                 // 30 is on neither end: any listed node, here 20
+}
+
+TEST_F(Struttura, AstaAssenteSiNegaENodoAssenteFerma) {
+  Nodi({20});
+  Aste({5, 99});
+  ASSERT_TRUE(NodiAste());
+  EXPECT_EQ(collegamento.AsteNodo[1], 5);
+  EXPECT_EQ(collegamento.AsteNodo[2], -99);
+  EXPECT_EQ(collegamento.AstaNodo[2], -1);
+  Nodi({20, 77});
+  EXPECT_FALSE(NodiAste());
+  AttesoSolo("[messaggio] esclamazione | ERRORE | Errore: uno o più nodi inesistenti");
+  registratore.eventi.clear();
+  Nodi({40});
+  Aste({5});
+  EXPECT_FALSE(NodiAste());
+  AttesoSolo("[messaggio] esclamazione | ERRORE | Errore: mancata corrispondenza fra aste e nodi");
+}
+
+TEST_F(Struttura, CondizioniDiCarico) {
+  std::int32_t n = 0;
+  ASSERT_TRUE(CondizioniStruttura(n));
+  EXPECT_EQ(n, 2);
+}
+
+TEST_F(Struttura, FileTroncatoInOgniPunto) {
+  for (std::size_t k = 0; k <= STRUTTURA_MINIMA.size(); ++k) {
+    Scrivi("Struttur.Str", STRUTTURA_MINIMA.substr(0, k));
+    Nodi({20});
+    Aste({5, 6, 7});
+    NodiAste();
+    SezioneDiAsta(7);
+    AsteDelNodo(20);
+    EXPECT_LE(collegamento.NumAsteNodo, 3);
+  }
+  for (std::size_t k = 0; k <= SEZIONI_MINIME.size(); ++k) {
+    Scrivi("sezioni_", SEZIONI_MINIME.substr(0, k));
+    SezioniAsteNodo();
+  }
+}
+
+TEST_F(Struttura, ConteggiOstili) {
+  for (const char* n : {"-1", "2147483647", "99999999999999999999", "1e400", "x", ""}) {
+    std::string t = std::string("release\r\n") + n + "\r\n1 2 3\r\n" + n + "\r\n1,0,0,1,n\r\n" + n + "\r\n1,1,0,0\r\n1 1\r\n";
+    Scrivi("Struttur.Str", t);
+    Scrivi("sezioni_", std::string(n) + "\r\n1,a,0\r\n");
+    AsteDelNodo(1);
+    SezioniAsteNodo();
+    SezioneDiAsta(1);
+    std::int32_t c = 0;
+    CondizioniStruttura(c);
+  }
+}
