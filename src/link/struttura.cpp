@@ -141,7 +141,8 @@ bool ApriStruttura(LettoreStruttura& l, std::string_view nomeFile, PrimoBlocco m
       LeggiRiga(l.file, riga);
       continue;
     }
-    for (int i = 0; i < 3; ++i) LeggiValore(l.file, riga);
+    double scarto = 0;
+    for (int i = 0; i < 3; ++i) LeggiValore(l.file, scarto);
   }
   return true;
 }

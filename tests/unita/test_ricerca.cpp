@@ -1,0 +1,187 @@
+// Search tools, bar selection, load export: files byte by byte, messages whole.
+#include <gtest/gtest.h>
+
+#include "core/file.h"
+#include "corredo/modello_minimo.h"
+#include "corredo/registratore.h"
+#include "link/esporta_soll.h"
+#include "link/ricerca.h"
+#include "model/suite.h"
+
+namespace {
+
+struct Ricerca : testing::Test {
+  std::string lavoro;
+  FiltroAste tutte;
+  void SetUp() override {
+    MontaRegistratore();
+    lavoro = CartellaProva("ricerca") + "/LAV001";
+    suite.DirLavoro = lavoro;
+    suite.DirRoot = "c:\\suite";
+    suite.DirProgra = "c:\\suite\\progra";
+    ScriviByte(lavoro + "/struttur.str", STRUTTURA_MINIMA);
+    for (bool& b : tutte.colori) b = true;
+    for (bool& b : tutte.linee) b = true;
+  }
+};
+
+std::string PercorsoRisposta() { return RisolviPercorso(suite.DirLavoro + "\\SondaOut.txt"); }
+
+}  // namespace
+
+TEST_F(Ricerca, ElementoCercato) {
+  ScriviByte(lavoro + "/SondaOut.txt", "vecchia\r\n");
+  registratore.programmi = true;
+  registratore.eseguito = [](const std::string&) {
+    EXPECT_FALSE(EsisteFile(PercorsoRisposta()));         // the former answer is gone
+    ScriviByte(suite.DirLavoro + "/SondaOut.txt", " 12,15 \r\n");
+    return true;
+  };
+  std::string campo = " 7 ";
+  CercaElemento(" Titolo ", campo, ELEMENTO_NODO);
+  EXPECT_EQ(campo, "12,15");
+  EXPECT_EQ(LeggiByte(lavoro + "/SondaIn.txt"), "Titolo\r\n7\r\n1\r\n");
+  ASSERT_EQ(registratore.eventi.size(), 1u);
+  EXPECT_EQ(registratore.eventi[0], "[programma] c:\\suite\\progra\\Sonda.exe |Diroot=c:\\suite|");
+  CercaElemento("Titolo", campo, ELEMENTO_NODO, true);
+  EXPECT_EQ(campo, "12");                                 // the first element only
+}
+
+TEST_F(Ricerca, PrimoElementoPrimaDelTrattino) {
+  registratore.programmi = true;
+  registratore.eseguito = [](const std::string&) {
+    ScriviByte(suite.DirLavoro + "/SondaOut.txt", "3-9,15\r\n");
+    return true;
+  };
+  std::string campo;
+  CercaElemento("t", campo, ELEMENTO_NODO, true);
+  EXPECT_EQ(campo, "3");
+}
+
+TEST_F(Ricerca, AnnullatoORigaVuotaLasciaIlCampo) {
+  registratore.programmi = true;
+  std::string campo = "7";
+  CercaElemento("t", campo, ELEMENTO_NODO);
+  EXPECT_EQ(campo, "7");
+  registratore.eseguito = [](const std::string&) {
+    ScriviByte(suite.DirLavoro + "/SondaOut.txt", "\r\n");
+    return true;
+  };
+  CercaElemento("t", campo, ELEMENTO_NODO);
+  EXPECT_EQ(campo, "7");
+}
+
+TEST_F(Ricerca, ProgrammaCheNonParte) {
+  std::string campo = "7";
+  CercaElemento("t", campo, ELEMENTO_NODO);
+  EXPECT_EQ(registratore.eventi.back(), "[messaggio] critica | Errore | Problemi con l'apertura dell'applicazione di ricerca");
+  EXPECT_FALSE(CercaNodi("t").risposta);
+  EXPECT_EQ(registratore.eventi.back(), "[messaggio] critica | Errore | Problemi con l'apertura dell'applicazione di ricerca");
+}
+
+TEST_F(Ricerca, CartellaNonScrivibile) {
+  suite.DirLavoro = lavoro + "\\manca";
+  std::string campo;
+  CercaElemento("t", campo, ELEMENTO_NODO);
+  EXPECT_EQ(registratore.eventi[0], "[messaggio] nessuna | ATTENZIONE! | Impossibile scrivere il file di ingresso. Specificare l'elemento da selezionare");
+  registratore.eventi.clear();
+  CercaNodi("t");
+  EXPECT_EQ(registratore.eventi[0], "[messaggio] nessuna | ATTENZIONE | Impossibile scrivere il file di ingresso. Specificare l'elemento da selezionare");
+}
+
+TEST_F(Ricerca, AltroLavoro) {
+  ScriviByte(lavoro.substr(0, lavoro.size() - 6) + "LAV002/x", "");
+  registratore.programmi = true;
+  std::string campo = "7";
+  CercaElemento("t", campo, 2, false, "LAV002");
+  EXPECT_EQ(registratore.eventi[0], "[programma] c:\\suite\\progra\\Sonda.exe |Diroot=c:\\suite| |Lavoro=LAV002|");
+  EXPECT_EQ(LeggiByte(lavoro.substr(0, lavoro.size() - 6) + "LAV002/SondaIn.txt"), "t\r\n7\r\n2\r\n");
+}
+
+TEST_F(Ricerca, NodiCercati) {
+  registratore.programmi = true;
+  registratore.eseguito = [](const std::string&) {
+    ScriviByte(suite.DirLavoro + "/SondaOut.txt", "0,2\r\n15\r\n1,6\r\nColonna A\r\nNodo B\r\n");
+    return true;
+  };
+  const NodoCercato r = CercaNodi("NODO COLONNA - PLINTO - Cerca nodi");
+  EXPECT_TRUE(r.risposta);
+  EXPECT_EQ(r.tipo, 2);
+  EXPECT_EQ(r.nodo, 15);
+  EXPECT_EQ(r.elemento, 6);
+  EXPECT_EQ(r.nome1, "Colonna A");
+  EXPECT_EQ(r.nome2, "Nodo B");
+  EXPECT_EQ(LeggiByte(lavoro + "/SondaNIn.txt"), "NODO COLONNA - PLINTO - Cerca nodi\r\n3\r\n1\r\nC Colonna\r\n");
+  EXPECT_EQ(registratore.eventi[0], "[programma] c:\\suite\\progra\\SondaNod.exe |Diroot=c:\\suite|");
+}
+
+TEST_F(Ricerca, SoloLaPrimaAstaDelNodo) {
+  std::string lista;
+  EXPECT_TRUE(CercaAsta(20, tutte, lista));
+  EXPECT_EQ(lista, "5,");
+  EXPECT_TRUE(CercaAsta(30, tutte, lista));
+  EXPECT_EQ(lista, "5,7,");                               // bar 6 has colour 10, which never passes
+  EXPECT_TRUE(CercaAsta(99, tutte, lista));               // no such node: nothing is said
+  EXPECT_EQ(lista, "5,7,");
+  EXPECT_TRUE(registratore.eventi.empty());
+}
+
+TEST_F(Ricerca, FiltriPerColoreLineaENome) {
+  std::string lista;
+  FiltroAste f = tutte;
+  f.colori[2] = false;
+  EXPECT_TRUE(CercaAsta(20, f, lista));
+  EXPECT_EQ(lista, "7,");
+  f = tutte;
+  f.linee[1] = false;
+  lista.clear();
+  EXPECT_TRUE(CercaAsta(20, f, lista));
+  EXPECT_EQ(lista, "7,");
+  f = tutte;
+  f.tuttiNomi = false;
+  f.nomi[1] = 6;
+  f.nomi[2] = 7;
+  lista.clear();
+  EXPECT_TRUE(CercaAsta(20, f, lista));
+  EXPECT_EQ(lista, "7,");
+  f.nomi[2] = 6;
+  lista.clear();
+  EXPECT_FALSE(CercaAsta(20, f, lista));
+  EXPECT_EQ(registratore.eventi.back(),
+            "[messaggio] esclamazione | NODO COLONNA - PLINTO | Non esiste nessuna asta corrispondente alle caratteristiche selezionate "
+            "che concorra nel nodo 20");
+}
+
+TEST_F(Ricerca, StrutturaAssente) {
+  suite.DirLavoro = lavoro + "\\manca";
+  std::string lista;
+  EXPECT_FALSE(CercaAsta(20, tutte, lista));
+  EXPECT_EQ(registratore.eventi.back(), "[messaggio] esclamazione | ERRORE | Errore: file " + suite.DirLavoro + "\\struttur.str errato o mancante.");
+}
+
+TEST_F(Ricerca, EsportazioneDeiCarichi) {
+  suite.UnitaForze = "kN";
+  suite.UnitaLung = "cm";
+  suite.FattForze = 0.01;
+  suite.FattMomenti = 0.0001;
+  const double v[6][3] = {{0, -1250, 50}, {0, 300, 0}, {0, 0, -1}, {0, 5000, 0}, {0, 0, 1}, {0, 10000, -250000}};
+  const std::string nomi[3] = {"", " Soll 1 ", "Caso 7 As. 5 Nd. 20"};
+  ElencoSoll e;
+  for (int k = 0; k < 6; ++k) e.componente[k] = v[k];
+  e.nomi = nomi;
+  e.conteggio = 2;
+  ASSERT_TRUE(EsportaSollecitazioni(lavoro + "\\Soll_Qb07.txt", e));
+  // The head: 17 + 2 characters, so the length unit stands in column 29.
+  EXPECT_EQ(LeggiByte(lavoro + "/Soll_Qb07.txt"),
+            "Unit\xE0 di misura: kN         cm\r\nses\tdescr.Ses.\tN\tTy\tTz\tMt\tMy\tMz\r\n"
+            "1\tSoll 1\t-12.5\t3\t0\t.5\t0\t1\t\r\n2\tCaso 7 As. 5 Nd. 20\t.5\t0\t-.01\t0\t.0001\t-25\t\r\n");
+  e.usa[1] = e.usa[5] = false;
+  e.conteggio = 1;
+  ASSERT_TRUE(EsportaSollecitazioni(lavoro + "\\b.txt", e));
+  EXPECT_EQ(LeggiByte(lavoro + "/b.txt"),
+            "Unit\xE0 di misura: kN         cm\r\nses\tdescr.Ses.\tN\tTy\tTz\tMt\tMy\tMz\r\n1\tSoll 1\t-12.5\t0\t0\t.5\t0\t0\t\r\n");
+  e.conteggio = 0;
+  ASSERT_TRUE(EsportaSollecitazioni(lavoro + "\\c.txt", e));
+  EXPECT_EQ(LeggiByte(lavoro + "/c.txt"), "Unit\xE0 di misura: kN         cm\r\nses\tdescr.Ses.\tN\tTy\tTz\tMt\tMy\tMz\r\n");
+  EXPECT_FALSE(EsportaSollecitazioni(lavoro + "\\manca\\c.txt", e));
+}
