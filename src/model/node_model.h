@@ -22,6 +22,8 @@ constexpr double PI_PROG = 3.141592;
 constexpr double PI_TA = 3.1416;
 // Geometric tolerance on each axis, mm.
 constexpr double TOLL_GEO = 0.0001;
+// Thickness up to which the strengths of thin products hold, mm, inclusive.
+constexpr double SpessSottile = 40;
 
 struct Sezione {                   // an open column section, from the library or from a node file
   std::string Nome = std::string(LungNomeSez, ' ');  // family and size joined, 18 characters

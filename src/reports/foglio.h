@@ -1,0 +1,45 @@
+// reports/foglio.h - the report in writing: its text, the verdicts, and what both methods share: lines, opening, the title
+// and the verdict of a sextet, the closing.
+// State     a Foglio lives in the routine that writes the report.
+// Failure   a line counts only if no arithmetic fault was raised until it is whole; otherwise it is taken back, false comes
+//           back and the report ends there, closed with the lines so far.
+#pragma once
+#include <cstddef>
+#include <span>
+#include <string>
+#include "core/aritmetica.h"
+#include "core/file.h"
+#include "reports/celle.h"
+
+struct Foglio {
+  FileScrittura file;
+  std::string percorso;            // suite path of the report
+  double c = 0;                    // from the tables' daN/mm2 to daN/cm2: the square of the factor of "mm"
+  bool Verificato = true;          // the sextet in hand passes so far
+  bool Fallito = false;            // some sextet has failed
+};
+
+bool ApriFoglio(Foglio& f, const char* metodo);        // false: the file cannot be opened, a fault is raised
+bool ConcludiFoglio(Foglio& f, bool intero);           // box, close, show; what RelazioneTA and RelazioneSLU return
+bool TitoloCombinazione(Foglio& f, int s);             // empty line, name, seventy dashes
+bool EsitoCombinazione(Foglio& f, int s);              // empty line and verdict; a failed sextet lowers Fallito
+
+// The weld at a rib's inner edge (one on each side of the column), made only with nodo.SaldInt = 1.
+inline bool SaldaturaInterna(int w) { return w == 9 || w == 19; }
+
+[[nodiscard]] inline bool FineRiga(Foglio& f, std::size_t inizio) {   // inizio: where the line begins in the text
+  f.file.testo.append("\r\n");
+  if (!FaultAritmetico()) return true;
+  f.file.testo.resize(inizio);
+  return false;
+}
+
+// One line of items one after the other: texts, plain numbers, rounded numbers.
+template <class... Voce>
+[[nodiscard]] bool Riga(Foglio& f, const Voce&... voce) {
+  const std::size_t inizio = f.file.testo.size();
+  (Aggiungi(f.file.testo, voce), ...);
+  return FineRiga(f, inizio);
+}
+
+[[nodiscard]] bool Righe(Foglio& f, std::span<const char* const> righe);
