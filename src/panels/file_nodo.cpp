@@ -157,18 +157,24 @@ static void SelezionaMateriali() {
   SelezionaPerNome(insDati.Cviti, materiali.AcciaiBase, materiali.NumAcciai, nodo.MatTir.Nome);
 }
 
-template <class Tabella>
-static void Svuota(Tabella& t) {
-  std::memset(t, 0, sizeof t);
+template <class... Tabella>
+static void Svuota(Tabella&... t) {
+  (std::memset(t, 0, sizeof t), ...);
 }
 
 // The tables of the verification belong to the former node. What a verification does not rebuild by itself, and finds as an
 // earlier one left it, stays: plate stresses beside the anchors, geometry of the welds, the running bond limit.
 static void AzzeraRisultati() {
-  Svuota(ris.SigmaTir), Svuota(ris.TauTir), Svuota(ris.SRfTir), Svuota(ris.TiroTir), Svuota(ris.FvEd), Svuota(ris.FtEd);
-  Svuota(ris.Co1), Svuota(ris.Co2), Svuota(ris.Co3), Svuota(ris.SMaxCls), Svuota(ris.SMaxPiastra), Svuota(ris.SNerv);
-  for (Saldatura& w : ris.Saldature) Svuota(w.TauPa), Svuota(w.TauPe), Svuota(w.SPrp), Svuota(w.SEq1), Svuota(w.SEq2);
+  Svuota(ris.SigmaTir, ris.TauTir, ris.SRfTir, ris.TiroTir, ris.FvEd, ris.FtEd, ris.Co1, ris.Co2, ris.Co3);
+  Svuota(ris.SMaxCls, ris.SMaxPiastra, ris.SNerv);
+  for (Saldatura& w : ris.Saldature) Svuota(w.TauPa, w.TauPe, w.SPrp, w.SEq1, w.SEq2);
   nodo.NumSaldature = 0;
+}
+
+// A fault in a handler is one failed step more; nothing that it left is painted.
+static void FaultInPassoFallito() {
+  if (FaultAritmetico()) passi.fallito = true;
+  AzzeraFault();
 }
 
 void CaricaNodo() {
@@ -183,11 +189,11 @@ void CaricaNodo() {
   MostraTipologia();
   MostraTirafondi();
   AggiornaTFLab();
-  if (FaultAritmetico()) passi.fallito = true;       // an overflow in a handler is one failed step more
-  AzzeraFault();
+  FaultInPassoFallito();
   RidisegnaNodo();
   SelezionaMateriali();
   AggiornaRighe();
+  FaultInPassoFallito();
   AzzeraRisultati();
 }
 
