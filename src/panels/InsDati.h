@@ -6,7 +6,7 @@
 #include "panels/controlli.h"
 
 struct StatoInsDati {
-  bool aperto = false;
+  bool aperto = false, caricato = false;
   std::string titolo;              // "NODO COLONNA - PLINTO - Lavoro: " and the node's name
   std::string StatoTxt;            // the text that Timer1 will show in Help
   std::string CartellaDialogo;     // starting folder of the next file dialog; cleared by its first use
@@ -32,8 +32,22 @@ struct StatoInsDati {
 inline StatoInsDati insDati;
 extern const Pannello InsDati;
 
+// How the last press of Verifica ended. The verdict of the sextets is the report's (esitoRelazione).
+enum class EsitoVerifica {
+  NonEseguita,      // Verifica was not pressed yet
+  Rifiutata,        // the input checks refused the joint
+  Annullata,        // the user did not go on after the edge check
+  Interrotta,       // the solver failed on a sextet, an arithmetic fault, a report that could not be written
+  Eseguita          // every sextet was computed and the report shown
+};
+struct StatoVerificaPannello { EsitoVerifica esito = EsitoVerifica::NonEseguita; };
+inline StatoVerificaPannello verificaPannello;
+
+void PreparaInsDati();                                // the panel as created: rows, captions, pictures, first choices
+
 // Start and reset.
-bool CaricaInsDati(const std::string& rigaComando);   // the whole start in its order; false: it ended in a message and fine()
+// The whole start in its order; at its end the panel is opened (piattaforma.apri). False: it ended in a message and fine().
+bool CaricaInsDati(const std::string& rigaComando);
 void AzzeraNodo();                                    // the reset of a node, through the fields
 
 // Fields and model.
@@ -41,7 +55,7 @@ void ScriviTitolo();                                  // caption from nodo.NomeN
 void PosizioniTirafondi();                            // NTir, TfZ, TfY from DTf 1..4, the sides and the pattern
 void AggiornaTFLab();                                 // the anchor's read-only labels
 void AggiornaGeomp();                                 // H, B, A, E, R of the section
-void InsDati_LatoTxt_Invio(int indice);
+void InsDati_LatoTxt_Invio(int indice);               // sides from margins or margins from sides, as GeoP says; anchors; plan
 void RidisegnaNodo();                                 // the plan, unless a step of the running command has failed
 void ImpostaStato(const char* testo);                 // status line after 800 ms
 
@@ -52,10 +66,11 @@ void SvuotaRiga(int i);
 void RiempiRiga(int i);
 void AzzeraGruppo(int n);                             // components and class; the name stays
 void CopiaGruppo(int da, int a);
-void RimuoviGruppo(int n);
+void RimuoviGruppo(int n);                            // 1..NumSoll, any other: nothing
 void RimuoviDoppi();
 void RiduciMaxMin();
-void AggiornaRighe();
+void AggiornaRighe();                                 // rows, bar and title from the list, after a load, an import, a reduction
+void AggiornaTitoloSoll();                            // title of the frame Soll, EsportaSollButt
 
 // Node file (panels/file_nodo.cpp); the commands with their dialogs and boxes.
 void InsDati_Sav_Nodo(int);

@@ -4,6 +4,7 @@
 // Naming    a control is Pannello.Controllo or Pannello.Controllo(indice); indices as the panel counts them (DTf from 1).
 // State     one record a panel (insDati, ...), whose Controllo members the panel's table names.
 #pragma once
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -39,7 +40,14 @@ struct Controllo {
   int indice = 0;
 };
 
-using Testi = std::span<const char* const>;           // one text an index from primo on; a single one serves all
+struct Testi {                     // the texts of a row, one an index from primo on; a single one serves all its indices
+  const char* uno = nullptr;
+  std::span<const char* const> voci;
+  constexpr Testi() = default;
+  constexpr Testi(const char* t) : uno(t) {}
+  template <std::size_t N>
+  constexpr Testi(const char* const (&v)[N]) : voci(v) {}
+};
 
 struct RigaPannello {
   const char* nome = "";
@@ -65,32 +73,45 @@ struct Pannello {
   void (*mostrato)() = nullptr;                       // each time it is shown
   void (*passa)(const char* testo) = nullptr;         // pointer over a control with that status text; "" over panel or frame
   bool* aperto = nullptr;                             // on screen now
+  bool* caricato = nullptr;                           // carica has run
 };
 
 enum class Evento { Cambio, Invio, Doppio, Passa };
 
+constexpr int SENZA_INDICE = -1;   // a control named without an index
+
 // Ties each control to its row and gives it the texts of creation. At the start, and after a record was reset.
 void PreparaPannello(const Pannello& p);
-Controllo* TrovaControllo(const Pannello& p, std::string_view nome, int indice);   // nullptr: no such control or index
+// What a host does as it shows and hides a panel: carica the first time, mostrato each time, the flag aperto.
+void PannelloAperto(const Pannello& p);
+void PannelloChiuso(const Pannello& p);
+
+// nullptr: no such control or index. An indexed row named without its index gives none, but for an exclusive choice: its
+// first entry, whose VoceScelta is the row's value.
+Controllo* TrovaControllo(const Pannello& p, std::string_view nome, int indice);
 const RigaPannello* TrovaRiga(const Pannello& p, std::string_view nome);
 bool Visibile(const Pannello& p, const Controllo& c);  // own flag, its frames' flags, the panel open; a tab page does not count
 bool Abilitato(const Pannello& p, const Controllo& c); // own flag and its frames' flags
 
 // An event of the user: clears passi and the arithmetic flags, runs the handler, answers a fault with its box. A command
-// that opens a modal panel returns when that has closed.
-void Scatena(const Pannello& p, Controllo& c, Evento e);
-// The user's input as the host delivers it: the new state goes into the control, then the change event runs.
-void UtenteScrive(const Pannello& p, Controllo& c, const std::string& testo);
-void UtenteSceglie(const Pannello& p, Controllo& c, int posizione);   // list position, tick 0/1, entry of a choice (1), bar value (clipped), tab
+// that opens a modal panel returns when that has closed. False: there is nothing that could be carried out (a command or
+// picture without a handler, a double click without one, Enter outside a field).
+bool Scatena(const Pannello& p, Controllo& c, Evento e);
+void PassaSulPannello(const Pannello& p);              // the pointer is over the panel itself
+// The user's input as the host delivers it: the new state goes into the control, then the change event runs. False: the control
+// cannot take it (not a text field; no such position).
+bool UtenteScrive(const Pannello& p, Controllo& c, const std::string& testo);
+bool UtenteSceglie(const Pannello& p, Controllo& c, int posizione);   // list position, tick 0/1, entry of a choice (1), bar value (clipped), tab
 
 // Setting from code: the change handler runs, also when the value is the same.
 void ImpostaTesto(Controllo& c, const std::string& testo);
-void ImpostaScelta(Controllo& c, int posizione);       // out of range: failed step, nothing changes; a bar clips
+void ImpostaScelta(Controllo& c, int posizione);       // out of range: failed step, nothing changes; a bar clips; a tick: 0 or not
 void SelezionaVoce(Controllo& primo, int indice);      // entry of an exclusive choice, by the panel's index; out of range: failed step
-bool ImpostaVoce(Controllo& c, const std::string& testo);   // a list by its text, without regard to case; false: not among the entries
+bool ImpostaVoce(Controllo& c, const std::string& testo);   // a list by its text, blanks count, case does not; false: not among the entries
 // Setting without an event: what a user cannot enter, or rows that only show.
 void MostraTesto(Controllo& c, const std::string& testo);
 void MostraScelta(Controllo& c, int posizione);
+void MostraMassimo(Controllo& barra, int massimo);     // never below the minimum; the value is clipped
 void MostraVoci(Controllo& c, std::vector<std::string> voci);   // clears the selection
 void MostraVisibile(Controllo& c, bool si);
 void MostraAbilitato(Controllo& c, bool si);

@@ -1,0 +1,160 @@
+// panels/InsDati_tabella.cpp - the main panel's event table: every control, the frame that holds it, its texts and its handlers.
+// Controls of commands that the program does not have yet have no row: Gen_Dis, ApriVis, Opz, DimTf, PropMatButton,
+// Command1, ImpS3D, CheckMaxMin. EsportaSollButt stands for its enabling; without a handler it cannot be pressed.
+#include "panels/InsDati.h"
+#include "panels/InsDati_eventi.h"
+
+// ---- texts that differ by index ----
+
+static constexpr const char* SCHEDE[] = {
+    "Profilo", "Nervature", "Piastra", "Tirafondi e Saldature", "Materiali", "Sollecitazioni", "Calcolo"};
+static constexpr const char* GEOM[] = {"h", "b", "a", "e", "r"};
+static constexpr const char* GEOP[] = {" Lati", " Margini"};
+static constexpr const char* LABEL2[] = {"Lato Z", "Lato Y", "Margine Z", "Margine Y", "Spessore"};
+static constexpr const char* OP_TIP[] = {" Tipo 1", " Tipo 2"};
+static constexpr const char* LABEL8[] = {"Altezza nervature", "Spessore nervature"};
+static constexpr const char* OPTION_TIR[] = {"4 Tirafondi", "8 Tirafondi", "6 Tirafondi Vert.", "6 Tirafondi Orizz."};
+static constexpr const char* LDTF[] = {"Dz1", "Dz2", "Dy1", "Dy2"};
+static constexpr const char* LABEL3[] = {"LFt", "L", "R", "L1", "LF", "Fi"};
+static constexpr const char* LABEL30[] = {"Acciaio", "Acciaio, C.c. II", "Tirafondi, C.c. II", "Calcestruzzo", "Tirafondi"};
+static constexpr const char* TIPOVER[] = {"Tensioni ammissibili (CNR 10011/88)", "Stati limite (NTC 2008)"};
+
+static constexpr const char* AIUTO_LATO[] = {
+    "Inserire il valore del lato piastra lungo Z", "Inserire il valore del lato piastra lungo Y",
+    "Inserire il valore dei margini piastra-colonna lungo Z",
+    "Inserire il valore dei margini piastra_colonna lungo Y",           // the underscore is deliberate
+    "Inserire lo spessore della piastra"};
+static constexpr const char* AIUTO_LABEL2[] = {"", "", "", "", "Inserire lo spessore della piastra"};
+static constexpr const char* AIUTO_GEOP[] = {"Inserimento dei lati della piastra", "Inserimento dei margini piastra-colonna"};
+static constexpr const char* AIUTO_DTF[] = {"Inserire il valore di Dz1", "Inserire il valore di Dz2",
+                                            "Inserire il valore di Dy1", "Inserire il valore di Dy2"};
+static constexpr const char* AIUTO_NERV[] = {"Inserire l'altezza delle nervature", "Inserire lo spessore delle nervature"};
+static constexpr const char* AIUTO_GOLA = "Inserire il lato dei cordoni di saldatura";
+static constexpr const char* AIUTO_TIPO[] = {"Tipologia n°1: non è prevista nessuna nervatura",
+                                             "Tipologia n°2: sono previste 4 nervature",
+                                             "Schema dei valori da inserire per posizionare i tirafondi"};
+static constexpr const char* AIUTO_GEOM[] = {"Altezza colonna", "Larghezza colonna", "Spessore anima colonna",
+                                             "Spessore ali colonna", "Raggio colonna"};
+static constexpr const char* AIUTO_TIR[] = {
+    "Tirafondo: lunghezza fuori plinto", "Tirafondo: lunghezza di annegamento", "Tirafondo: raggio di curvatura",
+    "Tirafondo: lunghezza di risalita", "Tirafondo: profondità dei fori nel plinto", "Tirafondo: diametro nominale"};
+
+// ---- rows ----
+
+static constexpr Genere CORNICE = Genere::Cornice, ETICHETTA = Genere::Etichetta, CAMPO = Genere::Campo,
+                        COMANDO = Genere::Comando, SPUNTA = Genere::Spunta, SCELTA = Genere::Scelta,
+                        LISTA = Genere::Lista, BARRA = Genere::Barra, IMMAGINE = Genere::Immagine;
+
+// A single control, and controls primo..ultimo of an array.
+static constexpr RigaPannello Riga(const char* nome, Genere genere, Controllo& c, const char* cornice, Testi didascalia,
+                                   Testi stato = {}, void (*cambio)(int) = nullptr, void (*invio)(int) = nullptr) {
+  return {nome, genere, &c, 0, 0, false, cornice, didascalia, stato, nullptr, cambio, invio, nullptr};
+}
+
+static constexpr RigaPannello Serie(const char* nome, Genere genere, Controllo* primo, int da, int a, const char* cornice,
+                                    Testi didascalia, Testi stato = {}, void (*cambio)(int) = nullptr,
+                                    void (*invio)(int) = nullptr) {
+  return {nome, genere, primo, da, a, true, cornice, didascalia, stato, nullptr, cambio, invio, nullptr};
+}
+
+static constexpr StatoInsDati& P = insDati;
+
+static constexpr RigaPannello RIGHE[] = {
+  // tabs, status line, version
+  {"SSTab", Genere::Schede, &P.SSTab, 0, 0, false, "", SCHEDE},
+  Riga("Help",         ETICHETTA, P.Help,     "", ""),
+  Riga("Versione",     ETICHETTA, P.Versione, "", "Versione NTC 2008"),
+  Riga("Nodo",         IMMAGINE,  P.Nodo,     "", "", "Rappresentazione in pianta del nodo"),
+
+  // 0 column
+  Riga("Colonna",      CORNICE,   P.Colonna, "SSTab/0", "[mm]"),
+  Riga("Label1",       ETICHETTA, P.Label1,  "Colonna", "Sezione", "Scegliere la sezione della colonna"),
+  Riga("TraveP",       LISTA,     P.TraveP,  "Colonna", "", {}, InsDati_TraveP),
+  Serie("geom",        ETICHETTA, P.geom,  0, 4, "Colonna", GEOM, AIUTO_GEOM),
+  Serie("geomp",       ETICHETTA, P.geomp, 0, 4, "Colonna", "",   AIUTO_GEOM),
+
+  // 1 ribs
+  Riga("Tipi",         CORNICE,   P.Tipi, "SSTab/1", "[mm]"),
+  Serie("Op_Tip",      SCELTA,    P.Op_Tip,   0, 1, "Tipi", OP_TIP, AIUTO_TIPO, InsDati_Op_Tip),
+  Serie("Pic_Tipo",    IMMAGINE,  P.Pic_Tipo, 0, 2, "Tipi", "",     AIUTO_TIPO),
+  Serie("Label8",      ETICHETTA, P.Label8,   0, 1, "Tipi", LABEL8, AIUTO_NERV),
+  Serie("HFazzTxt",    CAMPO,     P.HFazzTxt, 0, 1, "Tipi", "",     AIUTO_NERV, InsDati_HFazzTxt, InsDati_Ridisegna_Invio),
+  Riga("ChSI",         SPUNTA,    P.ChSI, "Tipi", "", {}, InsDati_ChSI),
+  Riga("LSi",          ETICHETTA, P.LSi,  "Tipi", "Saldature interne",
+       "Nodo con saldature fra il lembo interno delle nervature e la colonna"),
+
+  // 2 plate
+  Riga("Piastra",      CORNICE,   P.Piastra, "SSTab/2", "[mm]"),
+  Serie("GeoP",        SCELTA,    P.GeoP,    0, 1, "Piastra", GEOP,   AIUTO_GEOP, InsDati_GeoP),
+  Serie("Label2",      ETICHETTA, P.Label2,  0, 4, "Piastra", LABEL2, AIUTO_LABEL2),
+  Serie("LatoTxt",     CAMPO,     P.LatoTxt, 0, 4, "Piastra", "",     AIUTO_LATO, InsDati_LatoTxt, InsDati_LatoTxt_Invio),
+
+  // 3 anchors and welds
+  Riga("Tirafondi",    CORNICE,   P.Tirafondi, "SSTab/3", "Tirafondi [mm]"),
+  Serie("OptionNTir",  SCELTA,    P.OptionNTir, 0, 3, "Tirafondi", OPTION_TIR, {}, InsDati_OptionNTir),
+  Serie("LDTf",        ETICHETTA, &P.LDTf[1],   1, 4, "Tirafondi", LDTF),
+  Serie("DTf",         CAMPO,     &P.DTf[1],    1, 4, "Tirafondi", "",     AIUTO_DTF, InsDati_DTf, InsDati_Ridisegna_Invio),
+  Serie("Label3",      ETICHETTA, P.Label3,     0, 5, "Tirafondi", LABEL3, AIUTO_TIR),
+  Serie("TFLab",       ETICHETTA, P.TFLab,      0, 5, "Tirafondi", "",     AIUTO_TIR),
+  Riga("Sald",         CORNICE,   P.Sald,    "SSTab/3", "Saldature [mm]"),
+  Riga("Label7",       ETICHETTA, P.Label7,  "Sald", "Lato saldatura", AIUTO_GOLA),
+  Riga("GolaTxt",      CAMPO,     P.GolaTxt, "Sald", "", AIUTO_GOLA, InsDati_GolaTxt),
+
+  // 4 materials
+  Riga("Materiali",         CORNICE,   P.Materiali,         "SSTab/4",   ""),
+  {"Label30", ETICHETTA, P.Label30, 0, 4, true, "Materiali", LABEL30, {}, InsDati_Label30_Stato},
+  Riga("Acc",               LISTA,     P.Acc,               "Materiali", "", {}, InsDati_Acc),
+  Riga("LabNormaProf",      ETICHETTA, P.LabNormaProf,      "Materiali", ""),
+  Riga("Cviti",             LISTA,     P.Cviti,             "Materiali", "", {}, InsDati_Cviti),
+  Riga("LabNormaTir",       ETICHETTA, P.LabNormaTir,       "Materiali", ""),
+  Riga("ComboCalcestruzzo", LISTA,     P.ComboCalcestruzzo, "Materiali", "", {}, InsDati_ComboCalcestruzzo),
+  Riga("ComboEsposizione",  LISTA,     P.ComboEsposizione,  "Materiali", "", {}, InsDati_ComboEsposizione),
+  Riga("CheckMatBase",      COMANDO,   P.CheckMatBase,      "Materiali", "Imposta da Materiali-Base", {}, InsDati_CheckMatBase),
+
+  // 5 load list
+  Riga("Soll",    CORNICE,   P.Soll,    "SSTab/5", ""),
+  Riga("Label5",  ETICHETTA, P.Label5,  "Soll", "Origine",
+       "Nomi dei casi di carico (se importati da 3d indicano caso, asta e nodo di provenienza)"),
+  Riga("Label27", ETICHETTA, P.Label27, "Soll", "N",       "Sollecitazioni di sforzo normale"),
+  Riga("Label26", ETICHETTA, P.Label26, "Soll", "Ty",      "Sollecitazioni di taglio Y"),
+  Riga("Label13", ETICHETTA, P.Label13, "Soll", "Tz",      "Sollecitazioni di taglio Z"),
+  Riga("Label18", ETICHETTA, P.Label18, "Soll", "Mt",      "Sollecitazioni di momento torcente"),
+  Riga("Label14", ETICHETTA, P.Label14, "Soll", "My",      "Sollecitazioni di momento Y"),
+  Riga("Label16", ETICHETTA, P.Label16, "Soll", "Mz",      "Sollecitazioni di momento Z"),
+  Riga("Label4",  ETICHETTA, P.Label4,  "Soll", "C.c. II"),
+  {"Lsa", CAMPO, P.Lsa, 0, 4, true, "Soll", "", {}, InsDati_Lsa_Stato, InsDati_Lsa, nullptr, InsDati_Lsa_Doppio},
+  Serie("TxtSN",  CAMPO,     P.TxtSN,  0, 4, "Soll", "", "Inserire il valore della sollecitazione di sforzo normale", InsDati_TxtSN),
+  Serie("TxtTy",  CAMPO,     P.TxtTy,  0, 4, "Soll", "", "Inserire il valore della sollecitazione di taglio Y", InsDati_TxtTy),
+  Serie("TxtTz",  CAMPO,     P.TxtTz,  0, 4, "Soll", "", "Inserire il valore della sollecitazione di taglio Z", InsDati_TxtTz),
+  Serie("TxtMt",  CAMPO,     P.TxtMt,  0, 4, "Soll", "", "Inserire il valore della sollecitazione di momento torcente", InsDati_TxtMt),
+  Serie("TxtMy",  CAMPO,     P.TxtMy,  0, 4, "Soll", "", "Inserire il valore della sollecitazione di momento Y", InsDati_TxtMy),
+  Serie("TxtMz",  CAMPO,     P.TxtMz,  0, 4, "Soll", "", "Inserire il valore della sollecitazione di momento Z", InsDati_TxtMz),
+  Serie("CasCar", SPUNTA,    P.CasCar, 0, 4, "Soll", "", {}, InsDati_CasCar),
+  Riga("ScrollSa", BARRA,    P.ScrollSa, "Soll", "", {}, InsDati_ScrollSa),
+  Riga("Singolo",    COMANDO, P.Singolo,    "Soll", "Agg. sing.",
+       "Cliccare per inserire un nuovo gruppo di sollecitazioni agenti", InsDati_Singolo),
+  Riga("RimuoviSA",  COMANDO, P.RimuoviSA,  "Soll", "Rim. ultimo",
+       "Cliccare per rimuovere l'ultimo gruppo di sollecitazioni della lista", InsDati_RimuoviSA),
+  Riga("RimuoviTSA", COMANDO, P.RimuoviTSA, "Soll", "Rim. tutto  ",
+       "Cliccare per rimuovere tutti i gruppi di sollecitazioni", InsDati_RimuoviTSA),
+  Riga("Doppi",      COMANDO, P.Doppi,      "Soll", "Rim. doppi",
+       "Cliccare per rimuovere i gruppi di sollecitazioni ripetuti più volte", InsDati_Doppi),
+  Riga("MaxMin",     COMANDO, P.MaxMin,     "Soll", "Max e min",
+       "Cliccare per ridurre l'elenco di sollecitazioni agenti ai gruppi contenenti le sollecitazioni massime e minime",
+       InsDati_MaxMin),
+  Riga("EsportaSollButt", COMANDO, P.EsportaSollButt, "Soll", "Esporta su file"),
+
+  // 6 method
+  Riga("Frame1",   CORNICE, P.Frame1,  "SSTab/6", "Tipo di verifica"),
+  Serie("TipoVer", SCELTA,  P.TipoVer, 0, 1, "Frame1", TIPOVER, {}, InsDati_TipoVer),
+
+  // commands
+  Riga("Verifica",    COMANDO, P.Verifica,    "", "Verifica",    "Verifica tensionale del nodo", InsDati_Verifica),
+  Riga("Sav_Nodo",    COMANDO, P.Sav_Nodo,    "", "Salva Nodo",  "Salvataggio del nodo corrente", InsDati_Sav_Nodo),
+  Riga("Car_Nodo",    COMANDO, P.Car_Nodo,    "", "Carica Nodo", "Caricamento di un nodo salvato in precedenza", InsDati_Car_Nodo),
+  Riga("LegendaButt", COMANDO, P.LegendaButt, "", "<",           {}, InsDati_LegendaButt),
+  Riga("Chiudi",      COMANDO, P.Chiudi,      "", "Chiudi",      "Chiusura del programma", InsDati_Chiudi),
+};
+
+const Pannello InsDati = {"InsDati", RIGHE, false, &insDati.titolo, InsDati_Mostrato, nullptr, InsDati_Passa,
+                          &insDati.aperto, &insDati.caricato};

@@ -1,0 +1,7 @@
+// panels/programma.h - the program as it stands before its start.
+#pragma once
+
+// Every state record of the program back to its start value, the panels' rows tied and their texts of creation in place.
+// For hosts that work on several joints as in runs of their own, and for tests. The platform's operations stay.
+// suite goes back too: the host puts its decimal mark (suite.Decimale) in again.
+void AzzeraProgramma();
