@@ -3,6 +3,11 @@
 
 #include "core/aritmetica.h"
 #include "core/eventi.h"
+#include "drawing/Quote.h"
+#include "drawing/disegno.h"
+#include "drawing/edizione.h"
+#include "drawing/font.h"
+#include "drawing/formats/grb_stili.h"
 #include "model/materiali.h"
 #include "model/node_model.h"
 #include "model/suite.h"
@@ -21,6 +26,8 @@ static const Risultati RIS_VUOTI;
 static const Suite SUITE_VUOTA;
 static const Materiali MATERIALI_VUOTI;
 static const StatoInsDati INSDATI_VUOTO;
+static const Disegno DISEGNO_VUOTO;
+static const Font FONT_VUOTO;
 
 static void Evento(std::string riga) { registratore.eventi.push_back(std::move(riga)); }
 
@@ -114,6 +121,11 @@ void MontaRegistratore() {
   suite = SUITE_VUOTA;
   materiali = MATERIALI_VUOTI;
   insDati = INSDATI_VUOTO;
+  disegno = DISEGNO_VUOTO;
+  font = FONT_VUOTO;
+  stiliGrb = {};
+  quote = {};
+  edizione = {};
   passi = {};
 }
 
