@@ -11,6 +11,7 @@
 #include "core/piattaforma.h"
 #include "core/testo.h"
 #include "core/unita.h"
+#include "drawing/disegno.h"
 #include "drawing/font.h"
 #include "drawing/formats/grb_stili.h"
 #include "link/profili.h"
@@ -118,6 +119,7 @@ void AzzeraNodo() {
   ImpostaScelta(insDati.ComboEsposizione, 0);
   for (int i = 0; i < 5; i++) NascondiRiga(i);
   AggiornaTitoloSoll();
+  disegno.DestDis = {};
   nodo.NTir = 4;
   nodo.NumSaldature = 0;
 }
@@ -194,6 +196,7 @@ static bool Azzera() {
 
 bool CaricaInsDati(const std::string& rigaComando) {
   AzzeraFault();
+  PreparaInsDati();
   if (!TrovaPercorsi(rigaComando)) return Termina();
   if (!ImpostaUnita()) return FaultDiAvvio();
   nodo.NomeNodo = "Nuovo";

@@ -67,7 +67,7 @@ const RigaPannello* TrovaRiga(const Pannello& p, std::string_view nome) {
 Controllo* TrovaControllo(const Pannello& p, std::string_view nome, int indice) {
   const RigaPannello* r = TrovaRiga(p, nome);
   if (r == nullptr) return nullptr;
-  if (!r->indicizzato) return indice == SENZA_INDICE ? r->controllo : nullptr;
+  if (!r->indicizzato) return indice == SENZA_INDICE || indice == r->primo ? r->controllo : nullptr;
   if (indice == SENZA_INDICE) return r->genere == Genere::Scelta ? r->controllo : nullptr;
   if (indice < r->primo || indice > r->ultimo) return nullptr;
   return &r->controllo[indice - r->primo];

@@ -82,8 +82,7 @@ static void RegTimer(Temporizzatore quale, int ms, void (*scaduto)()) {
 
 static void RegApri(const Pannello& p, bool modale) {
   registratore.pannelli.push_back(p.nome);
-  if (p.aperto != nullptr) *p.aperto = true;
-  if (p.mostrato != nullptr) p.mostrato();
+  PannelloAperto(p);
   if (!modale) return;
   if (!registratore.dentro.empty()) Togli(registratore.dentro)();
   if (p.aperto != nullptr) *p.aperto = false;          // a test that forgot to close it must not hang
