@@ -8,10 +8,13 @@
 #include "drawing/edizione.h"
 #include "drawing/font.h"
 #include "drawing/formats/grb_stili.h"
+#include "engine/Calcoli.h"
+#include "engine/PresInfl.h"
 #include "model/materiali.h"
 #include "model/node_model.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
+#include "reports/Relazioni.h"
 
 #include <unistd.h>
 
@@ -117,6 +120,9 @@ void MontaRegistratore() {
   };
   nodo = NODO_VUOTO;
   ris = RIS_VUOTI;
+  verifica = {};
+  presInfl = {};
+  esitoRelazione = {};
   suite = SUITE_VUOTA;
   materiali = MATERIALI_VUOTI;
   insDati = INSDATI_VUOTO;
