@@ -8,6 +8,8 @@
 #include "drawing/edizione.h"
 #include "drawing/font.h"
 #include "drawing/formats/grb_stili.h"
+#include "engine/Calcoli.h"
+#include "engine/PresInfl.h"
 #include "link/collegamento.h"
 #include "model/materiali.h"
 #include "model/node_model.h"
@@ -34,6 +36,8 @@ static void AzzeraModello() {
   ris = RIS_VUOTI;
   scambio = {};
   esitoFile = {};
+  verifica = {};
+  presInfl = {};
   esitoRelazione = {};
   collegamento = COLLEGAMENTO_VUOTO;
 }
