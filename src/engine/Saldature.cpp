@@ -9,6 +9,7 @@
 #include "core/unita.h"
 #include "engine/Calcoli.h"
 #include "engine/Nervature.h"
+#include "model/saldature_colonna.h"
 
 // Shear carried by weld w = 1..28: z Tz, y Ty, i Ty only if SaldInt = 1. Index 0 free.
 constexpr char TAGLIO[1 + SALD_PIASTRA + 1] = "." "yzzzyzzz" "iyyyyyzzzz" "iyyyyyzzzz";
@@ -43,23 +44,9 @@ void AggiungiSaldatura(double zf, double yf, double zi, double yi, int lato, int
   d.Ip = d.Iz + d.Iy;
 }
 
-struct Estremi { double zi, yi, zf, yf; };
-
 static void SaldatureColonna() {
-  const double H = nodo.Sezione.H, B = nodo.Sezione.B, a = nodo.Sezione.A, e = nodo.Sezione.E, r = nodo.Sezione.R;
-  const Estremi COLONNA[SALD_COLONNA] = {      // welds 1 to 8
-    //  zi          yi              zf          yf
-    { a / 2,      -H / 2 + e + r, a / 2,      H / 2 - e - r  },
-    { a / 2 + r,  H / 2 - e,      B / 2,      H / 2 - e      },
-    { B / 2,      H / 2,          -B / 2,     H / 2          },
-    { -B / 2,     H / 2 - e,      -a / 2 - r, H / 2 - e      },
-    { -a / 2,     H / 2 - e - r,  -a / 2,     -H / 2 + e + r },
-    { -a / 2 - r, -H / 2 + e,     -B / 2,     -H / 2 + e     },
-    { -B / 2,     -H / 2,         B / 2,      -H / 2         },
-    { B / 2,      -H / 2 + e,     a / 2 + r,  -H / 2 + e     },
-  };
   int w = 0;
-  for (const Estremi& t : COLONNA) AggiungiSaldatura(t.zf, t.yf, t.zi, t.yi, +1, ++w);
+  for (const Estremi& t : TrattiColonna(nodo.Sezione).tratti) AggiungiSaldatura(t.zf, t.yf, t.zi, t.yi, +1, ++w);
 }
 
 // One call of a pass: weld n + m o, o the pass's offset. lato: 'c' against the pass's side, '=' as the call before, '-' always -1.

@@ -5,9 +5,10 @@
 // State     ris.Saldature, nodo.NumSaldature, verifica. Records that are not rebuilt keep what they held (deliberate).
 // Failure   a group without length or inertia is an arithmetic fault of the run.
 #pragma once
+#include "model/saldature_colonna.h"
 
 // Groups of the table: column 1..8; ribs on the plate 9..28; ribs on the column 29..44.
-constexpr int SALD_COLONNA = 8, SALD_PIASTRA = 28;
+constexpr int SALD_PIASTRA = 28;   // the column's: SALD_COLONNA of model/saldature_colonna.h
 
 void CostruisciSaldature();        // the whole table by TipoNodo and SaldInt, and NumSaldature: 8, 40 or 44
 // One segment; lato +1 or -1: the side to which the throat's mid-line lies. Nothing when Gola is 0.

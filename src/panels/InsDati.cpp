@@ -8,6 +8,7 @@
 #include "core/aritmetica.h"
 #include "core/numeri.h"
 #include "core/piattaforma.h"
+#include "drawing/schizzo.h"
 #include "model/node_model.h"
 #include "model/suite.h"
 #include "panels/InsDati_eventi.h"
@@ -193,10 +194,11 @@ void InsDati_ComboEsposizione(int) { nodo.Esposizione = insDati.ComboEsposizione
 
 // ---- plan ----
 
-// Repaints the plan Nodo. A step of the running command that failed leaves it as it was. The painting itself comes with the
-// drawing of the sketch (DisegnaNodo of drawing/schizzo.h); until then the canvas stays empty.
+// Repaints the plan Nodo. A step of the running command that failed leaves it as it was.
 void RidisegnaNodo() {
   if (passi.fallito) return;
+  DisegnaNodo(insDati.telaNodo);
+  piattaforma.aggiorna(insDati.Nodo);
 }
 
 void InsDati_Ridisegna_Invio(int) { RidisegnaNodo(); }

@@ -37,7 +37,23 @@ void InsDati_MaxMin(int);
 // Enter, or the focus leaves: the plan follows.
 void InsDati_Ridisegna_Invio(int);
 
+// Double click on a load field: its value through the suite's unit calculator.
+void InsDati_TxtSN_Doppio(int i);
+void InsDati_TxtTy_Doppio(int i);
+void InsDati_TxtTz_Doppio(int i);
+void InsDati_TxtMt_Doppio(int i);
+void InsDati_TxtMy_Doppio(int i);
+void InsDati_TxtMz_Doppio(int i);
+
+// Commands that open another panel.
+void InsDati_Opz(int);
+void InsDati_DimTf(int);
+void InsDati_PropMatButton(int);
+void InsDati_ImpS3D(int);
+
 // Commands.
+void InsDati_Command1(int);
+void InsDati_EsportaSollButt(int);
 void InsDati_Verifica(int);
 void InsDati_LegendaButt(int);
 void InsDati_Chiudi(int);

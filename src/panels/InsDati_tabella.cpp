@@ -1,8 +1,8 @@
 // panels/InsDati_tabella.cpp - the main panel's event table: every control, the frame that holds it, its texts and its handlers.
-// Controls of commands that the program does not have yet have no row: Gen_Dis, ApriVis, Opz, DimTf, PropMatButton,
-// Command1, ImpS3D, CheckMaxMin. EsportaSollButt stands for its enabling; without a handler it cannot be pressed.
+// The commands on the executive drawing have no row until the program has it: Gen_Dis, ApriVis.
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"
+#include "panels/righe.h"
 
 // ---- texts that differ by index ----
 
@@ -45,18 +45,6 @@ static constexpr Genere CORNICE = Genere::Cornice, ETICHETTA = Genere::Etichetta
                         COMANDO = Genere::Comando, SPUNTA = Genere::Spunta, SCELTA = Genere::Scelta,
                         LISTA = Genere::Lista, BARRA = Genere::Barra, IMMAGINE = Genere::Immagine;
 
-// A single control, and controls primo..ultimo of an array.
-static constexpr RigaPannello Riga(const char* nome, Genere genere, Controllo& c, const char* cornice, Testi didascalia,
-                                   Testi stato = {}, void (*cambio)(int) = nullptr, void (*invio)(int) = nullptr) {
-  return {nome, genere, &c, 0, 0, false, cornice, didascalia, stato, nullptr, cambio, invio, nullptr};
-}
-
-static constexpr RigaPannello Serie(const char* nome, Genere genere, Controllo* primo, int da, int a, const char* cornice,
-                                    Testi didascalia, Testi stato = {}, void (*cambio)(int) = nullptr,
-                                    void (*invio)(int) = nullptr) {
-  return {nome, genere, primo, da, a, true, cornice, didascalia, stato, nullptr, cambio, invio, nullptr};
-}
-
 static constexpr StatoInsDati& P = insDati;
 
 static constexpr RigaPannello RIGHE[] = {
@@ -96,6 +84,7 @@ static constexpr RigaPannello RIGHE[] = {
   Serie("DTf",         CAMPO,     &P.DTf[1],    1, 4, "Tirafondi", "",     AIUTO_DTF, InsDati_DTf, InsDati_Ridisegna_Invio),
   Serie("Label3",      ETICHETTA, P.Label3,     0, 5, "Tirafondi", LABEL3, AIUTO_TIR),
   Serie("TFLab",       ETICHETTA, P.TFLab,      0, 5, "Tirafondi", "",     AIUTO_TIR),
+  Riga("DimTf",        COMANDO,   P.DimTf, "Tirafondi", "Dim. tirafondi", "Cliccare per dimensionare i tirafondi", InsDati_DimTf),
   Riga("Sald",         CORNICE,   P.Sald,    "SSTab/3", "Saldature [mm]"),
   Riga("Label7",       ETICHETTA, P.Label7,  "Sald", "Lato saldatura", AIUTO_GOLA),
   Riga("GolaTxt",      CAMPO,     P.GolaTxt, "Sald", "", AIUTO_GOLA, InsDati_GolaTxt),
@@ -109,6 +98,7 @@ static constexpr RigaPannello RIGHE[] = {
   Riga("LabNormaTir",       ETICHETTA, P.LabNormaTir,       "Materiali", ""),
   Riga("ComboCalcestruzzo", LISTA,     P.ComboCalcestruzzo, "Materiali", "", {}, InsDati_ComboCalcestruzzo),
   Riga("ComboEsposizione",  LISTA,     P.ComboEsposizione,  "Materiali", "", {}, InsDati_ComboEsposizione),
+  Riga("PropMatButton",     COMANDO,   P.PropMatButton,     "Materiali", "Proprietà", {}, InsDati_PropMatButton),
   Riga("CheckMatBase",      COMANDO,   P.CheckMatBase,      "Materiali", "Imposta da Materiali-Base", {}, InsDati_CheckMatBase),
 
   // 5 load list
@@ -123,12 +113,18 @@ static constexpr RigaPannello RIGHE[] = {
   Riga("Label16", ETICHETTA, P.Label16, "Soll", "Mz",      "Sollecitazioni di momento Z"),
   Riga("Label4",  ETICHETTA, P.Label4,  "Soll", "C.c. II"),
   {"Lsa", CAMPO, P.Lsa, 0, 4, true, "Soll", "", {}, InsDati_Lsa_Stato, InsDati_Lsa, nullptr, InsDati_Lsa_Doppio},
-  Serie("TxtSN",  CAMPO,     P.TxtSN,  0, 4, "Soll", "", "Inserire il valore della sollecitazione di sforzo normale", InsDati_TxtSN),
-  Serie("TxtTy",  CAMPO,     P.TxtTy,  0, 4, "Soll", "", "Inserire il valore della sollecitazione di taglio Y", InsDati_TxtTy),
-  Serie("TxtTz",  CAMPO,     P.TxtTz,  0, 4, "Soll", "", "Inserire il valore della sollecitazione di taglio Z", InsDati_TxtTz),
-  Serie("TxtMt",  CAMPO,     P.TxtMt,  0, 4, "Soll", "", "Inserire il valore della sollecitazione di momento torcente", InsDati_TxtMt),
-  Serie("TxtMy",  CAMPO,     P.TxtMy,  0, 4, "Soll", "", "Inserire il valore della sollecitazione di momento Y", InsDati_TxtMy),
-  Serie("TxtMz",  CAMPO,     P.TxtMz,  0, 4, "Soll", "", "Inserire il valore della sollecitazione di momento Z", InsDati_TxtMz),
+  {"TxtSN", CAMPO, P.TxtSN, 0, 4, true, "Soll", "", "Inserire il valore della sollecitazione di sforzo normale", nullptr, InsDati_TxtSN, nullptr,
+   InsDati_TxtSN_Doppio},
+  {"TxtTy", CAMPO, P.TxtTy, 0, 4, true, "Soll", "", "Inserire il valore della sollecitazione di taglio Y", nullptr, InsDati_TxtTy, nullptr,
+   InsDati_TxtTy_Doppio},
+  {"TxtTz", CAMPO, P.TxtTz, 0, 4, true, "Soll", "", "Inserire il valore della sollecitazione di taglio Z", nullptr, InsDati_TxtTz, nullptr,
+   InsDati_TxtTz_Doppio},
+  {"TxtMt", CAMPO, P.TxtMt, 0, 4, true, "Soll", "", "Inserire il valore della sollecitazione di momento torcente", nullptr, InsDati_TxtMt, nullptr,
+   InsDati_TxtMt_Doppio},
+  {"TxtMy", CAMPO, P.TxtMy, 0, 4, true, "Soll", "", "Inserire il valore della sollecitazione di momento Y", nullptr, InsDati_TxtMy, nullptr,
+   InsDati_TxtMy_Doppio},
+  {"TxtMz", CAMPO, P.TxtMz, 0, 4, true, "Soll", "", "Inserire il valore della sollecitazione di momento Z", nullptr, InsDati_TxtMz, nullptr,
+   InsDati_TxtMz_Doppio},
   Serie("CasCar", SPUNTA,    P.CasCar, 0, 4, "Soll", "", {}, InsDati_CasCar),
   Riga("ScrollSa", BARRA,    P.ScrollSa, "Soll", "", {}, InsDati_ScrollSa),
   Riga("Singolo",    COMANDO, P.Singolo,    "Soll", "Agg. sing.",
@@ -142,7 +138,10 @@ static constexpr RigaPannello RIGHE[] = {
   Riga("MaxMin",     COMANDO, P.MaxMin,     "Soll", "Max e min",
        "Cliccare per ridurre l'elenco di sollecitazioni agenti ai gruppi contenenti le sollecitazioni massime e minime",
        InsDati_MaxMin),
-  Riga("EsportaSollButt", COMANDO, P.EsportaSollButt, "Soll", "Esporta su file"),
+  Riga("EsportaSollButt", COMANDO, P.EsportaSollButt, "Soll", "Esporta su file", {}, InsDati_EsportaSollButt),
+  Riga("ImpS3D",     COMANDO, P.ImpS3D,     "Soll", "Imp. 3D",
+       "Importazione  dal modello tridimensionale delle sollecitazioni agenti", InsDati_ImpS3D),
+  Riga("CheckMaxMin", SPUNTA, P.CheckMaxMin, "Soll", "Solo max e min"),
 
   // 6 method
   Riga("Frame1",   CORNICE, P.Frame1,  "SSTab/6", "Tipo di verifica"),
@@ -152,6 +151,8 @@ static constexpr RigaPannello RIGHE[] = {
   Riga("Verifica",    COMANDO, P.Verifica,    "", "Verifica",    "Verifica tensionale del nodo", InsDati_Verifica),
   Riga("Sav_Nodo",    COMANDO, P.Sav_Nodo,    "", "Salva Nodo",  "Salvataggio del nodo corrente", InsDati_Sav_Nodo),
   Riga("Car_Nodo",    COMANDO, P.Car_Nodo,    "", "Carica Nodo", "Caricamento di un nodo salvato in precedenza", InsDati_Car_Nodo),
+  Riga("Opz",         COMANDO, P.Opz,         "", "",            "Opzioni di visualizzazione del disegno", InsDati_Opz),
+  Riga("Command1",    COMANDO, P.Command1,    "", "Importa nodi 3D", {}, InsDati_Command1),
   Riga("LegendaButt", COMANDO, P.LegendaButt, "", "<",           {}, InsDati_LegendaButt),
   Riga("Chiudi",      COMANDO, P.Chiudi,      "", "Chiudi",      "Chiusura del programma", InsDati_Chiudi),
 };

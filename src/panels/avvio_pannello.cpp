@@ -21,6 +21,8 @@
 #include "model/suite.h"
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"
+#include "panels/Op_Nodo.h"
+#include "panels/programma.h"
 
 constexpr int SezionePredefinita = 32;     // library entry of a new joint
 constexpr int DiametroPredefinito = 7;     // row of the diameter table, from 1: M20
@@ -196,7 +198,7 @@ static bool Azzera() {
 
 bool CaricaInsDati(const std::string& rigaComando) {
   AzzeraFault();
-  PreparaInsDati();
+  PreparaPannelli();
   if (!TrovaPercorsi(rigaComando)) return Termina();
   if (!ImpostaUnita()) return FaultDiAvvio();
   nodo.NomeNodo = "Nuovo";
@@ -209,6 +211,7 @@ bool CaricaInsDati(const std::string& rigaComando) {
   LeggiDiametri();
   if (!LeggiOpzioni())
     return Errore("Errore: file " + suite.DirCustom + FILE_OPZIONI + " errato o mancante.", Icona::Nessuna);
+  RiempiOpNodo();
   DisegnaSegniTipo();
   if (!Azzera()) return false;
   piattaforma.apri(InsDati, false);

@@ -65,12 +65,13 @@ const RigaPannello* TrovaRiga(const Pannello& p, std::string_view nome) {
 }
 
 Controllo* TrovaControllo(const Pannello& p, std::string_view nome, int indice) {
-  const RigaPannello* r = TrovaRiga(p, nome);
-  if (r == nullptr) return nullptr;
-  if (!r->indicizzato) return indice == SENZA_INDICE || indice == r->primo ? r->controllo : nullptr;
-  if (indice == SENZA_INDICE) return r->genere == Genere::Scelta ? r->controllo : nullptr;
-  if (indice < r->primo || indice > r->ultimo) return nullptr;
-  return &r->controllo[indice - r->primo];
+  for (const RigaPannello& r : p.righe) {    // the indices of one name may stand in several rows
+    if (r.nome != nome) continue;
+    if (!r.indicizzato) return indice == SENZA_INDICE || indice == r.primo ? r.controllo : nullptr;
+    if (indice == SENZA_INDICE && r.genere == Genere::Scelta) return r.controllo;
+    if (indice >= r.primo && indice <= r.ultimo) return &r.controllo[indice - r.primo];
+  }
+  return nullptr;
 }
 
 // The frame or row of tabs that holds a control; nullptr: the panel itself.

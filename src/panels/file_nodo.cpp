@@ -15,6 +15,7 @@
 #include "core/testo.h"
 #include "model/materiali.h"
 #include "model/suite.h"
+#include "panels/FormTF.h"
 #include "panels/InsDati.h"
 
 constexpr int PROFILO_BASE = 32;   // library entry of a new node
@@ -72,7 +73,11 @@ static void SelezionaDiametro() {                    // rows 1..100 of a table c
   nodo.TfFi = suite.DiamVal[riga - 1];
 }
 
-static void SelezionaEsposizione() { ImpostaScelta(insDati.ComboEsposizione, scambio.Esposizione - 1); }
+static void SelezionaEsposizione() {
+  const int voce = scambio.Esposizione;
+  if (voce < 1 || voce > 3) passi.fallito = true;
+  else ImpostaScelta(insDati.ComboEsposizione, voce - 1);
+}
 
 // The change of method brings back the grades remembered for the method; those of the file win, by name, over them.
 static void SelezionaMetodo() {
@@ -184,6 +189,7 @@ void CaricaNodo() {
   MostraPiastra();
   MostraTipologia();
   MostraTirafondi();
+  RileggiFormTF();
   AggiornaTFLab();
   FaultInPassoFallito();
   RidisegnaNodo();

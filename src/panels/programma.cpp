@@ -14,8 +14,14 @@
 #include "model/materiali.h"
 #include "model/node_model.h"
 #include "model/suite.h"
+#include "panels/FormTF.h"
 #include "panels/InsDati.h"
+#include "panels/Op_Nodo.h"
+#include "panels/PropMateriali.h"
+#include "panels/Sez3D.h"
+#include "panels/Soll3D.h"
 #include "panels/file_nodo.h"
+#include "panels/selezione.h"
 #include "reports/Relazioni.h"
 
 // Large records are reset from these, not from a temporary on the stack.
@@ -28,12 +34,20 @@ static const Disegno DISEGNO_VUOTO;
 static const Font FONT_VUOTO;
 static const StiliGrb STILI_VUOTI;
 static const StatoInsDati INSDATI_VUOTO;
+static const StatoFormTF FORMTF_VUOTO;
+static const StatoOpNodo OPNODO_VUOTO;
+static const StatoPropMateriali PROPMATERIALI_VUOTO;
+static const StatoSez3D SEZ3D_VUOTO;
+static const StatoSoll3D SOLL3D_VUOTO;
+static const StatoSelezione SELEZIONE_VUOTA;
 
 static void AzzeraModello() {
   suite = SUITE_VUOTA;
   materiali = MATERIALI_VUOTI;
   nodo = NODO_VUOTO;
   ris = RIS_VUOTI;
+  verifica = {};
+  presInfl = {};
   scambio = {};
   esitoFile = {};
   verifica = {};
@@ -53,6 +67,17 @@ static void AzzeraDisegni() {
 static void AzzeraPannelli() {
   verificaPannello = {};
   insDati = INSDATI_VUOTO;
+  formTF = FORMTF_VUOTO;
+  opNodo = OPNODO_VUOTO;
+  propMateriali = PROPMATERIALI_VUOTO;
+  sez3D = SEZ3D_VUOTO;
+  soll3D = SOLL3D_VUOTO;
+  selezione = SELEZIONE_VUOTA;
+  PreparaPannelli();
+}
+
+void PreparaPannelli() {
+  for (const Pannello* p : {&FormTF, &Op_Nodo, &PropMateriali, &Sez3D, &Soll3D, &Selezione}) PreparaPannello(*p);
   PreparaInsDati();
 }
 

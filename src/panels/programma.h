@@ -5,3 +5,5 @@
 // For hosts that work on several joints as in runs of their own, and for tests. The platform's operations stay.
 // suite goes back too: the host puts its decimal mark (suite.Decimale) in again.
 void AzzeraProgramma();
+
+void PreparaPannelli();            // rows tied, texts of creation, for every panel; the start does it
