@@ -26,8 +26,7 @@ bool ErroreFile(const char* file) {
 
 // The root between the key's equals sign and the next bar. False: no closing bar; the root is then the text to the end.
 bool RadiceDa(const std::string& riga, std::size_t chiave) {
-  std::size_t i = chiave + std::string_view(CHIAVE_RADICE).size();
-  while (i < riga.size() && riga[i] == ' ') ++i;
+  const std::size_t i = chiave + std::string_view(CHIAVE_RADICE).size();
   const std::size_t j = riga.find('|', i);
   suite.DirRoot = Rifila(std::string_view(riga).substr(i, j == std::string::npos ? j : j - i));
   return j != std::string::npos;

@@ -96,7 +96,6 @@ bool ImpostaUnita() {
   suite.DecMomenti = Decimali(1, dF, dL, -1);
   if (Contiene(suite.UnitaTensioni, "/")) SuSuperficie(suite.UnitaTensioni, 1, suite.FattTensioni, suite.DecTensioni);
   else suite.FattTensioni = FattTensione(suite.UnitaTensioni, suite.DecTensioni);
-  suite.DecTensioni = std::max<std::int16_t>(suite.DecTensioni, 0);
   suite.FattSezioni = FattLunghezza(suite.UnitaSezioni, suite.DecSezioni);
   SuSuperficie(suite.UnitaCarichi, 5, suite.FattCarichi, suite.DecCarichi);
   return !FaultAritmetico();

@@ -128,6 +128,7 @@ TEST_F(FileMateriali, OltreCinquantaVoci) {
   EXPECT_EQ(materiali.AcciaiBase[50].Nome, "A50");
   EXPECT_EQ(materiali.AcciaiBase[50].SAmm, 50);
   EXPECT_EQ(materiali.AcciaiChiusiBase[0].Nome, "");       // what lies behind the table was not touched
+  EXPECT_EQ(materiali.AcciaiBase[0].Nome, "");             // nor its free entry
   EXPECT_EQ(materiali.NumViti, 1);                         // all 60 entries were consumed
   EXPECT_EQ(materiali.VitiBase[1].GammaM2, 6);
 }

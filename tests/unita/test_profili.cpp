@@ -81,6 +81,12 @@ TEST_F(Profili, FamiglieDelPannello) {
             " IPE  IPEA  IPER  IPEO  IPEV  HEA  HEAA  HEB  HEM  HEC  DIL  HER  HLAA  HLA  HLB  HLM  HLR  HXAA  HXA  HXB  HXM  HXR  HD  HP  M  W ");
 }
 
+TEST_F(Profili, FamigliaInteraNelFiltro) {
+  const std::string t = Riga("UPN", 8, 17) + Riga("LU", 8, 17) + "*END*";
+  EXPECT_EQ(Leggi(t, " XUPN  UPNX UPN"), 0);
+  EXPECT_EQ(Leggi(t, " LLU  UPN "), 1);
+}
+
 TEST_F(Profili, FiltroVuotoPassaOgniFamigliaConDisposizione) {
   EXPECT_EQ(Leggi("\r\n" + Riga("XYZ", 13, 20) + Riga("UPN", 8, 17) + "   \r\n*END*\r\n"), 1);
   EXPECT_EQ(RifilaDestra(suite.ProfiliLib[1].Nome), "UPN10");
