@@ -172,6 +172,9 @@ TEST_F(SaldatureTA, CoefficienteDiRifollamento) {
   EXPECT_EQ(CalcolaCoeffRifollamento(), 2);
   nodo.TfY[3] = 400;                                           // 5: capped at 2.5
   EXPECT_EQ(CalcolaCoeffRifollamento(), 2.5);
+  nodo.TfZ[1] = nodo.TfY[1] = 100, nodo.TfZ[2] = 300;          // 5 everywhere
+  EXPECT_EQ(CalcolaCoeffRifollamento(), 2.5);
+  nodo.TfY[1] = 50, nodo.TfZ[2] = 350;
   nodo.TfZ[1] = 37;                                            // 1.85 -> 1.9 (floor(18.5 + 0.5))
   EXPECT_EQ(CalcolaCoeffRifollamento(), 1.9);
   nodo.TfY[1] = 33;                                            // 1.65 -> 1.7
