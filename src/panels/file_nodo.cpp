@@ -73,11 +73,7 @@ static void SelezionaDiametro() {                    // rows 1..100 of a table c
   nodo.TfFi = suite.DiamVal[riga - 1];
 }
 
-static void SelezionaEsposizione() {
-  const int voce = scambio.Esposizione;
-  if (voce < 1 || voce > 3) passi.fallito = true;
-  else ImpostaScelta(insDati.ComboEsposizione, voce - 1);
-}
+static void SelezionaEsposizione() { ImpostaScelta(insDati.ComboEsposizione, scambio.Esposizione - 1); }
 
 // The change of method brings back the grades remembered for the method; those of the file win, by name, over them.
 static void SelezionaMetodo() {

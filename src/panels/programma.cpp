@@ -21,6 +21,7 @@
 #include "panels/Sez3D.h"
 #include "panels/Soll3D.h"
 #include "panels/file_nodo.h"
+#include "panels/pannelli.h"
 #include "panels/selezione.h"
 #include "reports/Relazioni.h"
 
@@ -50,8 +51,6 @@ static void AzzeraModello() {
   presInfl = {};
   scambio = {};
   esitoFile = {};
-  verifica = {};
-  presInfl = {};
   esitoRelazione = {};
   collegamento = COLLEGAMENTO_VUOTO;
 }
@@ -77,7 +76,7 @@ static void AzzeraPannelli() {
 }
 
 void PreparaPannelli() {
-  for (const Pannello* p : {&FormTF, &Op_Nodo, &PropMateriali, &Sez3D, &Soll3D, &Selezione}) PreparaPannello(*p);
+  for (const Pannello* p : Pannelli()) PreparaPannello(*p);
   PreparaInsDati();
 }
 

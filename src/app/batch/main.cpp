@@ -1,0 +1,71 @@
+// app/batch/main.cpp - the program without its windows: the same start, the same panels, the same commands, driven from the
+// command line or from a script.
+// Exit      0 done and every sextet verified, 1 done and some sextet is not verified, 2 not done.
+#include "app/batch/copione.h"
+#include "app/batch/piattaforma_batch.h"
+#include "app/batch/verifica.h"
+#include "core/file.h"
+#include "model/suite.h"
+#include "panels/InsDati.h"
+
+#include <cstdio>
+#include <thread>
+
+static void AvviaProgrammaOspite() {
+  suite.Decimale = ospite.opzioni.decimale != 0 ? ospite.opzioni.decimale : DecimaleSistema();
+  if (!CaricaInsDati(ospite.opzioni.rigaComando)) Esci(2);
+  ospite.avviato = true;
+}
+
+static int ComandoVerifica() {
+  AvviaProgrammaOspite();
+  const unsigned nuclei = std::thread::hardware_concurrency();
+  const int processi = ospite.opzioni.processi > 0 ? ospite.opzioni.processi : nuclei > 0 ? static_cast<int>(nuclei) : 1;
+  return VerificaNodi(ospite.opzioni.argomenti, processi);
+}
+
+static bool LeggiCopione(const std::string& percorso, std::string& testo) {
+  if (percorso == "-") {
+    char byte[4096];
+    for (std::size_t n = 0; (n = std::fread(byte, 1, sizeof byte, stdin)) > 0;) testo.append(byte, n);
+    return true;
+  }
+  FileLettura f;
+  if (!ApriLettura(f, percorso)) return false;
+  testo = f.byte;
+  return true;
+}
+
+static int ComandoEsegui() {
+  std::string testo;
+  if (!LeggiCopione(ospite.opzioni.argomenti[0], testo)) {
+    std::fprintf(stderr, "copione non leggibile: %s\n", ospite.opzioni.argomenti[0].c_str());
+    return 2;
+  }
+  CaricaCopione(testo);
+  ospite.dentroModale = [](const Pannello& p) { EseguiCopione(&p); };
+  AvviaProgrammaOspite();
+  EseguiCopione(nullptr);
+  return copione.fermato ? 2 : StatoUscita();
+}
+
+struct RigaComandoOspite {
+  const char* nome;
+  std::size_t massimo;             // arguments; 0 any number
+  int (*esegui)();
+};
+static constexpr RigaComandoOspite COMANDI[] = {
+  { "verifica", 0, ComandoVerifica },
+  { "esegui", 1, ComandoEsegui },
+};
+
+int main(int argc, char** argv) {
+  if (LeggiOpzioni(argc, argv, ospite.opzioni))
+    for (const RigaComandoOspite& r : COMANDI)
+      if (ospite.opzioni.comando == r.nome && (r.massimo == 0 || ospite.opzioni.argomenti.size() <= r.massimo)) {
+        MontaPiattaforma();
+        Esci(r.esegui());
+      }
+  std::fputs(USO, stderr);
+  return 2;
+}

@@ -1,0 +1,129 @@
+// app/batch/piattaforma_batch.cpp - the operations of the platform without a screen.
+#include "app/batch/piattaforma_batch.h"
+
+#include "app/batch/processi.h"
+#include "core/eventi.h"
+#include "panels/pannelli.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+void Stampa(const std::string& riga) {
+  std::fwrite(riga.data(), 1, riga.size(), stdout);
+  std::fputc('\n', stdout);
+  std::fflush(stdout);
+}
+
+int StatoUscita() {
+  if (!ospite.avviato) return 2;
+  return ospite.nonVerificato ? 1 : 0;
+}
+
+void Esci(int stato) {
+  std::fflush(stdout);
+  std::fflush(stderr);
+  std::_Exit(stato);                      // ends at once, as the program does: nothing is written at the end of a run
+}
+
+static void OspiteMessaggio(const std::string& testo, const std::string& titolo, Icona icona) {
+  Stampa(RigaMessaggio(testo, titolo, icona));
+}
+
+static bool OspiteDomanda(const std::string& testo, const std::string& titolo, Icona icona) {
+  bool ok = ospite.opzioni.rispondiOk;
+  if (!ospite.risposte.empty()) {
+    ok = ospite.risposte.front();
+    ospite.risposte.pop_front();
+  }
+  Stampa(RigaDomanda(testo, titolo, icona, ok));
+  return ok;
+}
+
+static bool OspiteScegliFile(const RichiestaFile& r, std::string& percorso, int& filtro) {
+  RispostaFile risposta;
+  if (!ospite.file.empty()) {
+    risposta = ospite.file.front();
+    ospite.file.pop_front();
+  }
+  if (risposta.scelto) {
+    percorso = ConEstensione(r, risposta.percorso);
+    filtro = risposta.filtro;
+  }
+  Stampa(RigaFile(r, risposta.scelto, percorso));
+  return risposta.scelto;
+}
+
+static bool OspiteEsegui(const std::string& comando) {
+  if (ospite.opzioni.senzaProgrammi || !EseguiProgramma(comando)) return false;
+  Stampa(RigaProgramma(comando));
+  return true;
+}
+
+static bool OspiteAvvia(const std::string& comando) {
+  if (ospite.opzioni.senzaProgrammi) return false;
+  const int processo = AvviaProgramma(comando);
+  if (processo == 0) return false;
+  ospite.avviati.push_back({processo, ospite.finestraCercata});
+  Stampa(RigaAvvia(comando));
+  return true;
+}
+
+static bool OspiteAttivaFinestra(const std::string& titolo) {
+  std::erase_if(ospite.avviati, [](const ProgrammaAvviato& p) { return !ProgrammaVivo(p.processo); });
+  for (const ProgrammaAvviato& p : ospite.avviati)
+    if (p.finestra == titolo) return true;
+  ospite.finestraCercata = titolo;
+  return false;
+}
+
+static void OspiteTimer(Temporizzatore quale, int ms, void (*scaduto)()) {
+  ospite.timer[static_cast<int>(quale)] = {ms > 0, ospite.orologio + ms, scaduto};
+}
+
+static void OspiteApri(const Pannello& p, bool modale) {
+  PannelloMostrato(p, modale);
+  if (!modale) return;
+  if (ospite.dentroModale == nullptr) Esci(2);          // nobody could close it
+  ospite.dentroModale(p);
+  // The script has ended inside it: the run ends where it stands, as a process that is taken down.
+  if (p.aperto != nullptr && *p.aperto) Esci(StatoUscita());
+}
+
+static void OspiteFine() {
+  Stampa(RIGA_FINE);
+  Esci(StatoUscita());
+}
+
+void AvanzaTempo(int ms) {
+  const long long fine = ospite.orologio + ms;
+  while (true) {
+    TimerOspite* primo = nullptr;
+    for (TimerOspite& t : ospite.timer)
+      if (t.attivo && t.scadenza <= fine && (primo == nullptr || t.scadenza < primo->scadenza)) primo = &t;
+    if (primo == nullptr) break;
+    ospite.orologio = primo->scadenza;
+    primo->attivo = false;
+    if (primo->scaduto != nullptr) primo->scaduto();     // may start a timer again
+  }
+  ospite.orologio = fine;
+}
+
+void MontaPiattaforma() {
+  piattaforma.messaggio = OspiteMessaggio;
+  piattaforma.domanda = OspiteDomanda;
+  piattaforma.scegliFile = OspiteScegliFile;
+  piattaforma.esegui = OspiteEsegui;
+  piattaforma.avvia = OspiteAvvia;
+  piattaforma.attivaFinestra = OspiteAttivaFinestra;
+  piattaforma.tasti = [](const std::string& finestra, const std::string& tasti) { Stampa(RigaTasti(finestra, tasti)); };
+  piattaforma.mostraTesto = [](const std::string& percorso) { Stampa(RigaTesto(percorso)); };
+  piattaforma.mostraAiuto = [](const std::string& percorso) { Stampa(RigaAiuto(percorso)); };
+  piattaforma.timer = OspiteTimer;
+  piattaforma.apri = OspiteApri;
+  piattaforma.chiudi = PannelloNascosto;
+  piattaforma.aggiorna = [](Controllo&) {};      // nothing to paint
+  piattaforma.fuoco = [](Controllo&) {};
+  piattaforma.attesa = [](bool) {};
+  piattaforma.diario = [](const std::string& riga) { Stampa(RigaDiario(riga)); };
+  piattaforma.fine = OspiteFine;
+}

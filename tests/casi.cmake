@@ -1,0 +1,12 @@
+# One test a folder of tests/casi, and the test of the runner itself.
+if(TARGET qb07-batch)
+  file(GLOB QB07_CASI CONFIGURE_DEPENDS LIST_DIRECTORIES true ${CMAKE_CURRENT_LIST_DIR}/casi/*)
+  foreach(caso ${QB07_CASI})
+    if(IS_DIRECTORY ${caso}/atteso)
+      get_filename_component(nome ${caso} NAME)
+      add_test(NAME caso_${nome} COMMAND ${CMAKE_CURRENT_LIST_DIR}/corredo/esegui-caso $<TARGET_FILE:qb07-batch> ${caso})
+      set_tests_properties(caso_${nome} PROPERTIES TIMEOUT 120)
+    endif()
+  endforeach()
+  add_test(NAME corredo_esegui_caso COMMAND ${CMAKE_CURRENT_LIST_DIR}/corredo/prova-esegui-caso $<TARGET_FILE:qb07-batch>)
+endif()
