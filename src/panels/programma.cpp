@@ -64,6 +64,7 @@ static void AzzeraDisegni() {
 }
 
 static void AzzeraPannelli() {
+  pannelli = {};
   verificaPannello = {};
   insDati = INSDATI_VUOTO;
   formTF = FORMTF_VUOTO;
