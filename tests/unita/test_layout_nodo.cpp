@@ -383,11 +383,12 @@ TEST_F(LayoutNodo, NumeroTroppoGrande) {
 // counts stay within their bounds.
 TEST_F(LayoutNodo, ByteCambiati) {
   std::mt19937 caso(20080114);                     // fixed: the same files every time
+  const std::string_view CARATTERI = "0123456789-,\"\r\n eE.";
   Modello();
   const std::string buono = ComponiNodo();
   for (int prova = 0; prova < 4000; ++prova) {
     std::string byte = buono;
-    for (int k = 0; k < 1 + prova % 5; ++k) byte[caso() % byte.size()] = static_cast<char>(prova % 2 ? caso() % 256 : "0123456789-,\"\r\n eE."[caso() % 20]);
+    for (int k = 0; k < 1 + prova % 5; ++k) byte[caso() % byte.size()] = prova % 2 ? static_cast<char>(caso() % 256) : CARATTERI[caso() % CARATTERI.size()];
     if (prova % 16 == 15) byte.resize(caso() % byte.size());
     Leggi(byte);
     ASSERT_GE(nodo.NTir, 0);

@@ -4,6 +4,9 @@
 #include <cstdio>
 #include <memory>
 
+#include "engine/Calcoli.h"
+#include "engine/PresInfl.h"
+#include "engine/nomi_motore.h"
 #include "model/materiali.h"
 #include "model/node_model.h"
 #include "model/nomi.h"
@@ -205,4 +208,28 @@ TEST_F(Nomi, TabelleDiAltreStanze) {
   EXPECT_TRUE(ValoreModello("LatoZ", v, altre));
   EXPECT_EQ(v, "7") << "the model's own names come first";
   EXPECT_FALSE(ValoreModello("AreaTf", v));
+}
+
+TEST_F(Nomi, ScalariDellaVerifica) {
+  static const StatoPresInfl PRESINFL_VUOTO;
+  presInfl = PRESINFL_VUOTO;
+  verifica = {};
+  presInfl.PianoDef[3] = -0.25;
+  presInfl.DentroBarra[8] = true;
+  presInfl.K[2][3] = 5;
+  verifica.AreaTf = 245;
+  const std::span<const RigaNome> altri[] = {NomiMotore()};
+  const auto valore = [&altri](const char* nome) {
+    std::string v;
+    return ValoreModello(nome, v, altri) ? v : "rifiuto";
+  };
+  EXPECT_EQ(valore("PianoDef(3)"), "-0.25");
+  EXPECT_EQ(valore("PianoDef(0)"), "rifiuto");
+  EXPECT_EQ(valore("PianoDef(4)"), "rifiuto");
+  EXPECT_EQ(valore("DentroBarra(8)"), "1");
+  EXPECT_EQ(valore("K(2,3)"), "5");
+  EXPECT_EQ(valore("AreaTf"), "245");
+  EXPECT_EQ(valore("SommaR2"), "0");
+  for (const RigaNome& r : NomiMotore())
+    for (const RigaNome& q : NomiModello()) EXPECT_STRNE(r.nome, q.nome);
 }

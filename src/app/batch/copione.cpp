@@ -5,6 +5,7 @@
 #include "core/eventi.h"
 #include "core/testo.h"
 #include "drawing/tela.h"
+#include "engine/nomi_motore.h"
 #include "model/nomi.h"
 #include "panels/InsDati.h"
 #include "panels/pannelli.h"
@@ -236,7 +237,8 @@ static bool Voci(std::string_view resto) {
 static bool Modello(std::string_view resto) {
   const std::string nome(Rifila(resto));
   std::string valore;
-  if (nome.empty() || !ValoreModello(nome, valore)) return false;
+  const std::span<const RigaNome> altri[] = { NomiMotore() };
+  if (nome.empty() || !ValoreModello(nome, valore, altri)) return false;
   Stampa(nome + " = " + SuUnaRiga(valore));
   return true;
 }
