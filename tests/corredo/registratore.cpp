@@ -1,20 +1,9 @@
 // tests/corredo/registratore.cpp - the recording platform, and the start state of every test.
 #include "corredo/registratore.h"
 
-#include "core/aritmetica.h"
 #include "core/eventi.h"
-#include "drawing/Quote.h"
-#include "drawing/disegno.h"
-#include "drawing/edizione.h"
-#include "drawing/font.h"
-#include "drawing/formats/grb_stili.h"
-#include "engine/Calcoli.h"
-#include "engine/PresInfl.h"
-#include "model/materiali.h"
-#include "model/node_model.h"
-#include "model/suite.h"
-#include "panels/InsDati.h"
-#include "reports/Relazioni.h"
+#include "panels/controlli.h"
+#include "panels/programma.h"
 
 #include <unistd.h>
 
@@ -22,15 +11,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-
-// Large records are reset from these, not from a temporary on the stack.
-static const Nodo NODO_VUOTO;
-static const Risultati RIS_VUOTI;
-static const Suite SUITE_VUOTA;
-static const Materiali MATERIALI_VUOTI;
-static const StatoInsDati INSDATI_VUOTO;
-static const Disegno DISEGNO_VUOTO;
-static const Font FONT_VUOTO;
 
 static void Evento(std::string riga) { registratore.eventi.push_back(std::move(riga)); }
 
@@ -118,20 +98,7 @@ void MontaRegistratore() {
     registratore.finito = true;
     Evento(RIGA_FINE);
   };
-  nodo = NODO_VUOTO;
-  ris = RIS_VUOTI;
-  verifica = {};
-  presInfl = {};
-  esitoRelazione = {};
-  suite = SUITE_VUOTA;
-  materiali = MATERIALI_VUOTI;
-  insDati = INSDATI_VUOTO;
-  disegno = DISEGNO_VUOTO;
-  font = FONT_VUOTO;
-  stiliGrb = {};
-  quote = {};
-  edizione = {};
-  passi = {};
+  AzzeraProgramma();
 }
 
 void PassaTempo(int ms) {
