@@ -1,0 +1,476 @@
+// The main panel's fields and commands against the model. Default joint of the tests: HEB300 (H 300, B 280), plate by margins of 100:
+// LatoZ = 280 + 200 = 480, LatoY = 300 + 200 = 500; edge distances (480 - 280) / 4 = 50 and (500 - 300) / 4 = 50.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/aritmetica.h"
+#include "corredo/registratore.h"
+#include "corredo/pannello_prova.h"
+#include "drawing/tela.h"
+#include "model/materiali.h"
+#include "model/node_model.h"
+#include "model/suite.h"
+#include "panels/InsDati.h"
+
+namespace {
+
+using Testi = std::vector<std::string>;
+
+class Pannello71 : public testing::Test {
+ protected:
+  void SetUp() override {
+    PannelloPronto();
+    registratore.eventi.clear();
+  }
+};
+
+Controllo& C(const char* nome, int indice = SENZA_INDICE) {
+  Controllo* c = TrovaControllo(InsDati, nome, indice);
+  if (c == nullptr) ADD_FAILURE() << nome;
+  return c != nullptr ? *c : insDati.Versione;
+}
+void Scrivi(const char* nome, int i, const char* testo) { UtenteScrive(InsDati, C(nome, i), testo); }
+void Invio(const char* nome, int i) { Scatena(InsDati, C(nome, i), Evento::Invio); }
+void Scegli(const char* nome, int i) { UtenteSceglie(InsDati, C(nome, i), 1); }
+
+void AttendiTirafondi(const std::vector<double>& z, const std::vector<double>& y) {
+  ASSERT_EQ(nodo.NTir, static_cast<int>(z.size()));
+  for (std::size_t i = 0; i < z.size(); i++) {
+    EXPECT_EQ(nodo.TfZ[i + 1], z[i]) << "TfZ " << i + 1;
+    EXPECT_EQ(nodo.TfY[i + 1], y[i]) << "TfY " << i + 1;
+  }
+}
+
+TEST_F(Pannello71, TabsAndFrames) {
+  EXPECT_EQ(insDati.SSTab.voci, (Testi{"Profilo", "Nervature", "Piastra", "Tirafondi e Saldature", "Materiali", "Sollecitazioni", "Calcolo"}));
+  const std::pair<const char*, const char*> dove[] = {{"Colonna", "SSTab/0"}, {"Tipi", "SSTab/1"}, {"Piastra", "SSTab/2"},
+      {"Tirafondi", "SSTab/3"}, {"Sald", "SSTab/3"}, {"Materiali", "SSTab/4"}, {"Soll", "SSTab/5"}, {"Frame1", "SSTab/6"}};
+  for (const auto& [cornice, scheda] : dove) EXPECT_STREQ(TrovaRiga(InsDati, cornice)->cornice, scheda);
+  for (const char* n : {"Colonna", "Tipi", "Piastra"}) EXPECT_EQ(C(n).testo, "[mm]");
+  EXPECT_EQ(insDati.Tirafondi.testo, "Tirafondi [mm]");
+  EXPECT_EQ(insDati.Sald.testo, "Saldature [mm]");
+  EXPECT_EQ(insDati.Frame1.testo, "Tipo di verifica");
+}
+
+TEST_F(Pannello71, CaptionsOfChoicesAndCommands) {
+  const struct { const char* nome; int i; const char* testo; } attesi[] = {
+      {"TipoVer", 0, "Tensioni ammissibili (CNR 10011/88)"}, {"TipoVer", 1, "Stati limite (NTC 2008)"},
+      {"GeoP", 0, " Lati"}, {"GeoP", 1, " Margini"}, {"Op_Tip", 0, " Tipo 1"}, {"Op_Tip", 1, " Tipo 2"},
+      {"OptionNTir", 0, "4 Tirafondi"}, {"OptionNTir", 1, "8 Tirafondi"}, {"OptionNTir", 2, "6 Tirafondi Vert."},
+      {"OptionNTir", 3, "6 Tirafondi Orizz."}, {"Label8", 0, "Altezza nervature"}, {"Label8", 1, "Spessore nervature"},
+      {"LSi", -1, "Saldature interne"}, {"Label7", -1, "Lato saldatura"}, {"geom", 0, "h"}, {"geom", 4, "r"},
+      {"LDTf", 1, "Dz1"}, {"LDTf", 4, "Dy2"}, {"Label3", 0, "LFt"}, {"Label3", 5, "Fi"},
+      {"Verifica", -1, "Verifica"}, {"Sav_Nodo", -1, "Salva Nodo"}, {"Car_Nodo", -1, "Carica Nodo"},
+      {"CheckMatBase", -1, "Imposta da Materiali-Base"}, {"LegendaButt", -1, "<"}, {"Chiudi", -1, "Chiudi"},
+      {"Versione", -1, "Versione NTC 2008"}};
+  for (const auto& a : attesi) EXPECT_EQ(C(a.nome, a.i).testo, a.testo) << a.nome << a.i;
+}
+
+TEST_F(Pannello71, PlateFieldsStoreAtOnce) {
+  Scrivi("LatoTxt", 0, "600");
+  Scrivi("LatoTxt", 1, "700");
+  EXPECT_EQ(nodo.LatoZ, 600);
+  EXPECT_EQ(nodo.LatoY, 700);
+  Scrivi("LatoTxt", 2, "75.5");
+  Scrivi("LatoTxt", 3, "20");
+  EXPECT_EQ(nodo.LatoZ, 2 * 75.5 + 280);
+  EXPECT_EQ(nodo.LatoY, 2 * 20 + 300);
+  Scrivi("LatoTxt", 4, "25");
+  EXPECT_EQ(nodo.SpessPiastra, 25);
+}
+
+TEST_F(Pannello71, NumericHeadOfTheText) {
+  Scrivi("LatoTxt", 4, "12mm");
+  EXPECT_EQ(nodo.SpessPiastra, 12);
+  Scrivi("LatoTxt", 4, "12,5");                      // the point is the mark
+  EXPECT_EQ(nodo.SpessPiastra, 12);
+  for (const char* vuoto : {"", "abc", "nan", "inf"}) {
+    nodo.SpessPiastra = 9;
+    Scrivi("LatoTxt", 4, vuoto);
+    EXPECT_EQ(nodo.SpessPiastra, 0) << vuoto;
+  }
+  EXPECT_TRUE(registratore.eventi.empty());
+}
+
+TEST_F(Pannello71, AnOverflowIsAFailedStepAndKeepsTheValue) {
+  Scrivi("LatoTxt", 4, "1e999");
+  EXPECT_TRUE(passi.fallito);
+  EXPECT_EQ(nodo.SpessPiastra, 10);
+  Scrivi("HFazzTxt", 0, "1e999");
+  EXPECT_EQ(nodo.HNerv, 150);
+  Scrivi("GolaTxt", SENZA_INDICE, "1e999");
+  EXPECT_EQ(nodo.Gola, 7);
+  Scrivi("DTf", 1, "1e999");
+  EXPECT_EQ(nodo.TfZ[1], 50);
+  EXPECT_TRUE(registratore.eventi.empty());
+}
+
+TEST_F(Pannello71, AResultThatOverflowsIsAFaultAndIsNotStored) {
+  Scrivi("LatoTxt", 2, "1e308");                     // 2 * 1e308 is no double
+  EXPECT_EQ(nodo.LatoZ, 480);
+  EXPECT_EQ(registratore.eventi, (Testi{"[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: il comando non può continuare."}));
+}
+
+TEST_F(Pannello71, EnterUnderMarginsGivesTheSides) {
+  Scrivi("LatoTxt", 2, "50");
+  Invio("LatoTxt", 2);
+  EXPECT_EQ(insDati.LatoTxt[0].testo, "380");        // 2 * 50 + 280
+  EXPECT_EQ(insDati.LatoTxt[1].testo, "500");
+  EXPECT_EQ(nodo.LatoZ, 380);
+}
+
+TEST_F(Pannello71, EnterUnderSidesGivesTheMargins) {
+  Scegli("GeoP", 0);
+  Scrivi("LatoTxt", 0, "381");
+  Invio("LatoTxt", 0);
+  EXPECT_EQ(insDati.LatoTxt[2].testo, "50.5");       // (381 - 280) / 2
+  EXPECT_EQ(insDati.LatoTxt[3].testo, "100");
+  EXPECT_EQ(nodo.LatoZ, 381);
+}
+
+TEST_F(Pannello71, GeoPEnablesItsPairOfFields) {
+  const auto abilitati = [](bool a, bool b, bool c, bool d) {
+    const bool attesi[] = {a, b, c, d};
+    for (int i = 0; i < 4; i++) {
+      EXPECT_EQ(insDati.LatoTxt[i].abilitato, attesi[i]) << i;
+      EXPECT_EQ(insDati.Label2[i].abilitato, attesi[i]) << i;
+    }
+  };
+  abilitati(false, false, true, true);               // after the reset: margins
+  Scegli("GeoP", 0);
+  abilitati(true, true, false, false);
+  Scegli("GeoP", 1);
+  abilitati(false, false, true, true);
+  EXPECT_TRUE(insDati.LatoTxt[4].abilitato);
+}
+
+TEST_F(Pannello71, SectionUnderSidesKeepsThePlate) {
+  Scegli("GeoP", 0);
+  UtenteSceglie(InsDati, insDati.TraveP, 9);         // P10: H 110, B 60
+  EXPECT_EQ(nodo.LatoZ, 480);
+  EXPECT_EQ(nodo.LatoY, 500);
+  EXPECT_EQ(insDati.LatoTxt[2].testo, "210");        // (480 - 60) / 2
+  EXPECT_EQ(insDati.LatoTxt[3].testo, "195");        // (500 - 110) / 2
+}
+
+TEST_F(Pannello71, SectionUnderMarginsMovesThePlate) {
+  UtenteSceglie(InsDati, insDati.TraveP, 9);
+  EXPECT_EQ(nodo.LatoZ, 260);                        // 60 + 200
+  EXPECT_EQ(nodo.LatoY, 310);                        // 110 + 200
+  EXPECT_EQ(insDati.LatoTxt[0].testo, "260");
+  EXPECT_EQ(insDati.LatoTxt[2].testo, "100");
+}
+
+TEST_F(Pannello71, SectionIsCopiedWholeAndShown) {
+  UtenteSceglie(InsDati, insDati.TraveP, 9);
+  EXPECT_EQ(nodo.Sezione.Nome, "P10               ");
+  EXPECT_EQ(nodo.Sezione.Area, 1100);
+  EXPECT_EQ(nodo.Sezione.Tipo, "I");
+  const char* attesi[] = {"110", "60", "5", "8", "10"};
+  for (int i = 0; i < 5; i++) EXPECT_EQ(insDati.geomp[i].testo, attesi[i]);
+}
+
+TEST_F(Pannello71, TypologyEnablesExactlySixControls) {
+  const auto sei = [](bool si) {
+    for (const Controllo* c : {&insDati.HFazzTxt[0], &insDati.HFazzTxt[1], &insDati.Label8[0], &insDati.Label8[1], &insDati.ChSI, &insDati.LSi})
+      EXPECT_EQ(c->abilitato, si);
+    for (const Controllo* c : {&insDati.GolaTxt, &insDati.Op_Tip[0], &insDati.Op_Tip[1], &insDati.Pic_Tipo[0], &insDati.Tipi})
+      EXPECT_TRUE(c->abilitato);
+  };
+  sei(true);
+  EXPECT_EQ(nodo.TipoNodo, 2);
+  Scegli("Op_Tip", 0);
+  EXPECT_EQ(nodo.TipoNodo, 1);
+  sei(false);
+  EXPECT_EQ(nodo.HNerv, 150);                        // the rib values stay in the model
+  EXPECT_EQ(nodo.SpNerv, 6);
+  Scegli("Op_Tip", 1);
+  EXPECT_EQ(nodo.TipoNodo, 2);
+  sei(true);
+}
+
+TEST_F(Pannello71, RibsAndInnerWelds) {
+  Scrivi("HFazzTxt", 0, "180");
+  Scrivi("HFazzTxt", 1, "12");
+  EXPECT_EQ(nodo.HNerv, 180);
+  EXPECT_EQ(nodo.SpNerv, 12);
+  UtenteSceglie(InsDati, insDati.ChSI, 1);
+  EXPECT_EQ(nodo.SaldInt, 1);
+  UtenteSceglie(InsDati, insDati.ChSI, 0);
+  EXPECT_EQ(nodo.SaldInt, 0);
+}
+
+TEST_F(Pannello71, WeldSideAndThroat) {
+  Scrivi("GolaTxt", SENZA_INDICE, "10");
+  EXPECT_EQ(nodo.Gola, 10);
+  EXPECT_DOUBLE_EQ(nodo.GolaCalc, 7.0710678118654755);   // 10 / sqrt 2
+}
+
+TEST_F(Pannello71, FourAnchors) {
+  Scrivi("DTf", 1, "40");
+  Scrivi("DTf", 2, "45");
+  Scrivi("DTf", 3, "55");
+  Scrivi("DTf", 4, "65");
+  AttendiTirafondi({40, 435, 40, 435}, {55, 55, 435, 435});   // 480 - 45, 500 - 65
+}
+
+TEST_F(Pannello71, PatternsOfEightAndSix) {
+  const double z = 480.0 / 2, y = 500.0 / 2;
+  Scegli("OptionNTir", 1);
+  AttendiTirafondi({50, 430, 50, 430, 50, 430, z, z}, {50, 50, 450, 450, y, y, 450, 50});
+  Scegli("OptionNTir", 3);                           // 6 Orizz.
+  AttendiTirafondi({50, 430, 50, 430, z, z}, {50, 50, 450, 450, 450, 50});
+  Scegli("OptionNTir", 2);                           // 6 Vert.
+  AttendiTirafondi({50, 430, 50, 430, 50, 430}, {50, 50, 450, 450, y, y});
+  Scegli("OptionNTir", 0);
+  AttendiTirafondi({50, 430, 50, 430}, {50, 50, 450, 450});
+  EXPECT_EQ(nodo.OptionNTir, 0);
+}
+
+TEST_F(Pannello71, EightAnchorsStandAtMidSideWhateverTheDistances) {
+  Scegli("OptionNTir", 1);
+  Scrivi("DTf", 1, "90");
+  Scrivi("DTf", 2, "10");
+  EXPECT_EQ(nodo.TfZ[7], 240);
+  EXPECT_EQ(nodo.TfZ[8], 240);
+  Scrivi("LatoTxt", 0, "600");
+  EXPECT_EQ(nodo.TfZ[7], 300);
+  EXPECT_EQ(nodo.TfZ[8], 300);
+}
+
+TEST_F(Pannello71, ASideMovesTheAnchorsOfTheFarEdge) {
+  Scrivi("LatoTxt", 0, "600");
+  AttendiTirafondi({50, 550, 50, 550}, {50, 50, 450, 450});
+  EXPECT_EQ(insDati.DTf[2].testo, "50");             // Dz2 itself stays
+}
+
+TEST_F(Pannello71, AnchorLabels) {
+  const char* attesi[] = {"120", "500", "70", "450", "10", "20"};   // LFt, L, R, L1, LF, Fi
+  for (int i = 0; i < 6; i++) EXPECT_EQ(insDati.TFLab[i].testo, attesi[i]);
+}
+
+TEST_F(Pannello71, MethodRemembersTheSteelOfEach) {
+  UtenteSceglie(InsDati, insDati.Acc, 0);            // TA: S 235
+  Scegli("TipoVer", 1);
+  UtenteSceglie(InsDati, insDati.Acc, 2);            // SLU: S 355
+  Scegli("TipoVer", 0);
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");
+  EXPECT_EQ(insDati.Acc.scelta, 0);
+  Scegli("TipoVer", 1);
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 355 (FE 510)");
+  EXPECT_EQ(nodo.TipoVer, 1);
+  EXPECT_TRUE(registratore.eventi.empty());
+}
+
+TEST_F(Pannello71, MethodActsOnARealChangeOnly) {
+  materiali.MemoriaMateriali[0].Nome = "S 275 (FE 430)";
+  Scegli("TipoVer", 0);                              // already there
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");
+  EXPECT_TRUE(materiali.MemoriaMateriali[1].Nome.empty());
+}
+
+TEST_F(Pannello71, MethodShowsTheLoadClassesOfVisibleRows) {
+  Scatena(InsDati, insDati.Singolo, Evento::Cambio);
+  Scatena(InsDati, insDati.Singolo, Evento::Cambio);
+  nodo.SollCC[2] = 1;
+  EXPECT_TRUE(insDati.Label4.visibile);
+  EXPECT_TRUE(insDati.CasCar[1].visibile);
+  Scegli("TipoVer", 1);
+  EXPECT_FALSE(insDati.Label4.visibile);
+  for (int i = 0; i < 5; i++) EXPECT_FALSE(insDati.CasCar[i].visibile);
+  EXPECT_TRUE(insDati.TxtSN[1].visibile);
+  EXPECT_EQ(nodo.SollCC[2], 1);                      // kept, though not shown
+  EXPECT_EQ(nodo.NumSoll, 2);
+  Scegli("TipoVer", 0);
+  EXPECT_TRUE(insDati.Label4.visibile);
+  EXPECT_TRUE(insDati.CasCar[0].visibile);
+  EXPECT_TRUE(insDati.CasCar[1].visibile);
+  EXPECT_FALSE(insDati.CasCar[2].visibile);
+}
+
+TEST_F(Pannello71, ExposureIsAPosition) {
+  EXPECT_EQ(insDati.ComboEsposizione.voci, (Testi{"Esposto a fenomeni corrosivi", "Non esposto a fenomeni corrosivi", "Resistente alla corrosione"}));
+  EXPECT_EQ(nodo.Esposizione, 0);
+  UtenteSceglie(InsDati, insDati.ComboEsposizione, 2);
+  EXPECT_EQ(nodo.Esposizione, 2);
+}
+
+TEST_F(Pannello71, StatusLineShowsAfterTheRest) {
+  Scatena(InsDati, insDati.GolaTxt, Evento::Passa);
+  EXPECT_EQ(insDati.StatoTxt, "Inserire il lato dei cordoni di saldatura");
+  PassaTempo(799);
+  EXPECT_FALSE(insDati.Help.visibile);
+  PassaTempo(1);
+  EXPECT_TRUE(insDati.Help.visibile);
+  EXPECT_EQ(insDati.Help.testo, "Inserire il lato dei cordoni di saldatura");
+  Scatena(InsDati, insDati.Verifica, Evento::Passa);
+  EXPECT_EQ(insDati.Help.testo, "Inserire il lato dei cordoni di saldatura");   // until the next rest
+  PassaTempo(800);
+  EXPECT_EQ(insDati.Help.testo, "Verifica tensionale del nodo");
+}
+
+TEST_F(Pannello71, PanelAndFramesClearTheStatusLine) {
+  for (Controllo* cornice : {&insDati.Colonna, &insDati.Tipi, &insDati.Piastra, &insDati.Tirafondi, &insDati.Sald, &insDati.Materiali,
+                             &insDati.Soll, &insDati.Frame1}) {
+    ImpostaStato("x");
+    PassaTempo(800);
+    ImpostaStato("y");
+    Scatena(InsDati, *cornice, Evento::Passa);
+    EXPECT_FALSE(insDati.Help.visibile);
+    EXPECT_EQ(insDati.Help.testo, "");
+    PassaTempo(800);
+    EXPECT_FALSE(insDati.Help.visibile) << "the timer is stopped";
+  }
+  ImpostaStato("x");
+  PassaTempo(800);
+  PassaSulPannello(InsDati);
+  EXPECT_FALSE(insDati.Help.visibile);
+}
+
+TEST_F(Pannello71, StatusTexts) {
+  const struct { const char* nome; int i; const char* testo; } attesi[] = {
+      {"LatoTxt", 0, "Inserire il valore del lato piastra lungo Z"}, {"LatoTxt", 1, "Inserire il valore del lato piastra lungo Y"},
+      {"LatoTxt", 2, "Inserire il valore dei margini piastra-colonna lungo Z"},
+      {"LatoTxt", 3, "Inserire il valore dei margini piastra_colonna lungo Y"}, {"LatoTxt", 4, "Inserire lo spessore della piastra"},
+      {"GeoP", 0, "Inserimento dei lati della piastra"}, {"GeoP", 1, "Inserimento dei margini piastra-colonna"},
+      {"DTf", 1, "Inserire il valore di Dz1"}, {"DTf", 2, "Inserire il valore di Dz2"}, {"DTf", 3, "Inserire il valore di Dy1"},
+      {"DTf", 4, "Inserire il valore di Dy2"},
+      {"HFazzTxt", 0, "Inserire l'altezza delle nervature"}, {"HFazzTxt", 1, "Inserire lo spessore delle nervature"},
+      {"Label8", 0, "Inserire l'altezza delle nervature"}, {"Label8", 1, "Inserire lo spessore delle nervature"},
+      {"GolaTxt", -1, "Inserire il lato dei cordoni di saldatura"}, {"Label7", -1, "Inserire il lato dei cordoni di saldatura"},
+      {"Label2", 4, "Inserire lo spessore della piastra"},
+      {"Op_Tip", 0, "Tipologia n°1: non è prevista nessuna nervatura"}, {"Op_Tip", 1, "Tipologia n°2: sono previste 4 nervature"},
+      {"Pic_Tipo", 0, "Tipologia n°1: non è prevista nessuna nervatura"}, {"Pic_Tipo", 1, "Tipologia n°2: sono previste 4 nervature"},
+      {"Pic_Tipo", 2, "Schema dei valori da inserire per posizionare i tirafondi"},
+      {"LSi", -1, "Nodo con saldature fra il lembo interno delle nervature e la colonna"}, {"Label1", -1, "Scegliere la sezione della colonna"},
+      {"geom", 0, "Altezza colonna"}, {"geom", 1, "Larghezza colonna"}, {"geom", 2, "Spessore anima colonna"},
+      {"geom", 3, "Spessore ali colonna"}, {"geom", 4, "Raggio colonna"}, {"geomp", 0, "Altezza colonna"}, {"geomp", 4, "Raggio colonna"},
+      {"Label3", 0, "Tirafondo: lunghezza fuori plinto"}, {"Label3", 1, "Tirafondo: lunghezza di annegamento"},
+      {"Label3", 2, "Tirafondo: raggio di curvatura"}, {"Label3", 3, "Tirafondo: lunghezza di risalita"},
+      {"Label3", 4, "Tirafondo: profondità dei fori nel plinto"}, {"Label3", 5, "Tirafondo: diametro nominale"},
+      {"TFLab", 0, "Tirafondo: lunghezza fuori plinto"}, {"TFLab", 5, "Tirafondo: diametro nominale"},
+      {"Nodo", -1, "Rappresentazione in pianta del nodo"},
+      {"Verifica", -1, "Verifica tensionale del nodo"}, {"Sav_Nodo", -1, "Salvataggio del nodo corrente"},
+      {"Car_Nodo", -1, "Caricamento di un nodo salvato in precedenza"}, {"Chiudi", -1, "Chiusura del programma"}};
+  for (const auto& a : attesi) {
+    insDati.StatoTxt.clear();
+    Scatena(InsDati, C(a.nome, a.i), Evento::Passa);
+    EXPECT_EQ(insDati.StatoTxt, a.testo) << a.nome << a.i;
+  }
+  insDati.StatoTxt = "prima";
+  Scatena(InsDati, C("Label2", 0), Evento::Passa);   // no text of its own: nothing
+  EXPECT_EQ(insDati.StatoTxt, "prima");
+}
+
+TEST_F(Pannello71, StatusTextsOfTheMaterialsByMethod) {
+  const char* ta[] = {"Tensione ammissibile dell'acciaio, combinazione di carico di tipo I",
+                      "Tensione ammissibile dell'acciaio, combinazione di carico di tipo II",
+                      "Tensione ammissibile dell'acciaio tirafondi, combinazione di carico di tipo II",
+                      "Tensione ammissibile del calcestruzzo",
+                      "Tensione ammissibile dell'acciaio Tirafondi, combinazione di carico di tipo I"};
+  const char* slu[] = {"Tensione limite elastica di calcolo dell'acciaio", ta[1], ta[2], "Tensione massima di calcolo del calcestruzzo",
+                       "Tensione limite elastica di calcolo dell'acciaio tirafondi"};
+  for (int m = 0; m < 2; m++) {
+    Scegli("TipoVer", m);
+    for (int i = 0; i < 5; i++) {
+      Scatena(InsDati, C("Label30", i), Evento::Passa);
+      EXPECT_EQ(insDati.StatoTxt, m == 0 ? ta[i] : slu[i]);
+    }
+  }
+}
+
+TEST_F(Pannello71, HelpFileAndEnd) {
+  suite.DirRoot = "c:\\suite";
+  Scatena(InsDati, insDati.LegendaButt, Evento::Cambio);
+  ASSERT_EQ(registratore.eventi.size(), 1u);
+  EXPECT_TRUE(registratore.eventi[0].starts_with("[aiuto] "));
+  EXPECT_TRUE(registratore.eventi[0].ends_with("HelpQB07.pdf"));
+  Scatena(InsDati, insDati.Chiudi, Evento::Cambio);
+  EXPECT_EQ(registratore.eventi.size(), 2u);         // no question
+  EXPECT_EQ(registratore.eventi[1], "[fine]");
+  EXPECT_TRUE(registratore.attesa);
+  EXPECT_TRUE(registratore.finito);
+}
+
+TEST_F(Pannello71, CommandsWithoutTheirRoomCannotBePressed) {
+  for (const char* n : {"Gen_Dis", "ApriVis", "Opz", "DimTf", "PropMatButton", "Command1", "ImpS3D"}) {
+    const Controllo* c = TrovaControllo(InsDati, n, SENZA_INDICE);
+    EXPECT_TRUE(c == nullptr || c->riga->cambio != nullptr) << n;
+  }
+}
+
+// ---- Verifica ----
+
+TEST_F(Pannello71, VerificaRefused) {
+  Scrivi("LatoTxt", 4, "0");                         // a plate without thickness
+  registratore.risposte = {false};
+  Scatena(InsDati, insDati.Verifica, Evento::Cambio);
+  EXPECT_EQ(registratore.eventi.back(), "[messaggio] esclamazione | NODO COLONNA - PLINTO | Verifica non possibile");
+  EXPECT_EQ(verificaPannello.esito, EsitoVerifica::Rifiutata);
+  EXPECT_FALSE(registratore.attesa);
+  EXPECT_EQ(registratore.fuoco, &insDati.Verifica);
+}
+
+TEST_F(Pannello71, VerificaCancelledAtTheEdgeCheck) {
+  Scrivi("LatoTxt", 4, "5");                         // TA: edge distance 50 > 6 t = 30
+  registratore.risposte = {false};
+  Scatena(InsDati, insDati.Verifica, Evento::Cambio);
+  EXPECT_EQ(registratore.eventi.back(), "[domanda] informazione | NODO COLONNA - PLINTO | Continuare la verifica? -> Annulla");
+  EXPECT_TRUE(registratore.eventi[registratore.eventi.size() - 2].find("CNR-UNI 10011/88") != std::string::npos);
+  EXPECT_EQ(verificaPannello.esito, EsitoVerifica::Annullata);
+  EXPECT_FALSE(registratore.attesa);
+}
+
+TEST_F(Pannello71, VerificaAsksByTheMethod) {
+  Scegli("TipoVer", 1);
+  Scrivi("DTf", 1, "20");                            // NTC: 1.2 * 20 = 24 > 20
+  registratore.risposte = {false};
+  Scatena(InsDati, insDati.Verifica, Evento::Cambio);
+  EXPECT_EQ(verificaPannello.esito, EsitoVerifica::Annullata);
+  EXPECT_TRUE(registratore.eventi[registratore.eventi.size() - 2].find("(NTC 2008)") != std::string::npos);
+}
+
+TEST_F(Pannello71, VerificaDoneAndStopped) {
+  suite.DirLavoro = CartellaProva("insdati_verifica");
+  Scatena(InsDati, insDati.Verifica, Evento::Cambio);    // no sextet: the report without combinations
+  EXPECT_EQ(verificaPannello.esito, EsitoVerifica::Eseguita);
+  EXPECT_TRUE(registratore.eventi.back().starts_with("[testo] "));
+  registratore.eventi.clear();
+  suite.DirLavoro += "/manca";                       // the report cannot be opened
+  Scatena(InsDati, insDati.Verifica, Evento::Cambio);
+  EXPECT_EQ(verificaPannello.esito, EsitoVerifica::Interrotta);
+  EXPECT_EQ(registratore.eventi, (Testi{"[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: la verifica non può continuare."}));
+  EXPECT_FALSE(registratore.attesa);
+  EXPECT_EQ(registratore.fuoco, &insDati.Verifica);
+}
+
+// ---- window ----
+
+TEST_F(Pannello71, FirstShowSetsColoursAndSearchTitle) {
+  EXPECT_EQ(insDati.SSTab.coloreSfondo, 0xFFFFD2);   // RGB(210, 255, 255), blue in the high byte
+  EXPECT_EQ(insDati.Versione.coloreSfondo, 0x6464FF);
+  EXPECT_EQ(insDati.Versione.coloreTesto, 0xFFFFFF);
+  EXPECT_EQ(insDati.TitoloCerca, "NODO COLONNA - PLINTO - IMPORTA SOLLECITAZIONI DA 3D - Cerca nodi");
+}
+
+TEST_F(Pannello71, Canvas) {
+  Tela t;
+  ImpostaScala(t, -1, 2, 3, -4);
+  SegmentoTela(t, 1, 2, 3, 4, 255);
+  ArcoTela(t, 5, 6, 7, 0.5, 1, 128);
+  ASSERT_EQ(t.tratti.size(), 2u);
+  EXPECT_EQ(t.tratti[0].forma, Tratto::Forma::Segmento);
+  EXPECT_EQ(t.tratti[0].x2, 3);
+  EXPECT_EQ(t.tratti[0].colore, 255);
+  EXPECT_EQ(t.tratti[1].forma, Tratto::Forma::Arco);
+  EXPECT_EQ(t.tratti[1].raggio, 7);
+  EXPECT_EQ(t.tratti[1].a2, 1);
+  EXPECT_EQ(t.dy, -4);
+  PulisciTela(t);
+  EXPECT_TRUE(t.tratti.empty());
+  EXPECT_EQ(t.dx, 3);                                // clearing keeps the scale
+}
+
+}  // namespace
