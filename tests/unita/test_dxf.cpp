@@ -1,0 +1,286 @@
+// test_dxf.cpp - the CAD exchange file byte by byte, its modes, angles, colours, patterns and boxes.
+#include <gtest/gtest.h>
+
+#include "core/aritmetica.h"
+#include "corredo/registratore.h"
+#include "drawing/disegno.h"
+#include "drawing/font.h"
+#include "drawing/formats/scrittori.h"
+#include "drawing/formats/tipi_linea.h"
+#include "model/suite.h"
+
+namespace {
+
+const std::string TABELLE =
+  " 0|SECTION| 2|TABLES| 0|TABLE| 2|LAYER| 70|1| 0|LAYER| 2|0| 70|0| 62|7| 6|CONTINUOUS| 0|ENDTAB| 0|ENDSEC| 0|SECTION| 2|ENTITIES|";
+const std::string CODA = " 0|ENDSEC| 0|EOF|";
+
+std::string Righe(const std::string& barre) {           // a bar for each line end
+  std::string t;
+  for (const char c : barre) t += c == '|' ? std::string("\r\n") : std::string(1, c);
+  return t;
+}
+
+class Dxf : public ::testing::Test {
+ protected:
+  std::string cartella, nome;
+  void SetUp() override {
+    MontaRegistratore();
+    AzzeraFault();
+    cartella = CartellaProva("dxf");
+    suite.DirCustom = cartella;
+    nome = cartella + "\\prova.dxf";
+    disegno.DestDis = GENDIS;
+  }
+  void TearDown() override { AzzeraFault(); }
+  std::string File() { return LeggiByte(cartella + "/prova.dxf"); }
+  std::string Entita() {                                // what stands between the head and the end
+    const std::string t = File();
+    const std::size_t inizio = t.find(" 2\r\nENTITIES\r\n") + 14, fine = t.rfind(" 0\r\nENDSEC");
+    return t.substr(inizio, fine - inizio);
+  }
+};
+
+// Margin: 5 % of the larger side, 100: 5 on all four.
+TEST_F(Dxf, FileIntero) {
+  DisLinea(nullptr, 0, 0, 100, 50.25, std::int16_t{3});
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 0));
+  EXPECT_EQ(File(), Righe(" 0|SECTION| 2|HEADER| 9|$EXTMIN| 10|-5| 20|-5| 30|0.0| 9|$EXTMAX| 10|105| 20|55.25| 30|0.0| 0|ENDSEC|" + TABELLE +
+                          " 0|LINE| 8|0| 10|0| 20|0| 30|0.0| 11|100| 21|50.25| 31|0.0| 62|1|" + CODA));
+  EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] nessuna | SALVA FILE DXF | File " + nome + " salvato."});
+  EXPECT_EQ(disegno.EstXMin, 0);                        // the margin stays in the header
+  EXPECT_EQ(disegno.EstYMax, 50.25);
+}
+
+TEST_F(Dxf, MargineDelLatoAlto) {
+  DisLinea(nullptr, 0, 0, 10, 100);
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
+  EXPECT_EQ(File().find(Righe(" 0|SECTION| 2|HEADER| 9|$EXTMIN| 10|-5| 20|-5| 30|0.0| 9|$EXTMAX| 10|15| 20|105|")), 0u);
+  EXPECT_TRUE(registratore.eventi.empty());
+}
+
+TEST_F(Dxf, VuotoMaValido) {
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
+  EXPECT_EQ(File(), Righe(" 0|SECTION| 2|HEADER| 9|$EXTMIN| 10|0| 20|0| 30|0.0| 9|$EXTMAX| 10|0| 20|0| 30|0.0| 0|ENDSEC|" + TABELLE + CODA));
+}
+
+TEST_F(Dxf, ColoriETipi) {
+  const int attesi[] = {18, 7, 5, 1, 3, 2, 8, 6, 7};
+  for (int c = 0; c <= 8; ++c) {
+    EXPECT_EQ(ColoreDxf(c, 0), attesi[c]);
+    EXPECT_EQ(ColoreDxf(c, 1), 7);
+  }
+  EXPECT_EQ(ColoreDxf(-1, 0), 7);
+  const char* const tipi[] = {"CONTINUOUS", "CENTER", "DASHED", "DIVIDE", "DASHED2", "CONTINUOUS"};
+  for (int t = 0; t <= 5; ++t) EXPECT_STREQ(NomeTipoDxf(t), tipi[t]);
+}
+
+TEST_F(Dxf, ColoreUnoSenza62ETipoNascosto) {
+  disegno.TipoLinCorr = 1;
+  DisLinea(nullptr, 0, 0, 1, 0, std::int16_t{1});
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
+  EXPECT_EQ(Entita(), Righe(" 0|LINE| 8|0| 10|0| 20|0| 30|0.0| 11|1| 21|0| 31|0.0| 6|DASHED2|"));
+}
+
+TEST_F(Dxf, Monocromo) {
+  DisLinea(nullptr, 0, 0, 1, 0, std::int16_t{3});
+  EXPECT_TRUE(SalvaDxf(nome, 0, 1, 0, 0, 1));
+  EXPECT_EQ(Entita(), Righe(" 0|LINE| 8|0| 10|0| 20|0| 30|0.0| 11|1| 21|0| 31|0.0| 62|7|"));
+}
+
+TEST_F(Dxf, NonCompattato) {
+  DisLinea(nullptr, 0, 0, 10, 0, std::int16_t{1});
+  disegno.TipoLinCorr = 1;
+  DisLinea(nullptr, 0, 0, 10, 0, std::int16_t{1});
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
+  EXPECT_NE(Entita().find("DASHED2"), std::string::npos);
+}
+
+// Height 20, width 10 in units: 200 and 100 tenths. Only the first "]" is the diameter sign.
+TEST_F(Dxf, Testi) {
+  DisTesto("a]b]", 1, 2, -90, 10, 20, std::int16_t{6});
+  DisTesto("]", 1, 2, 0, 15, 20, std::int16_t{1});
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
+  EXPECT_EQ(Entita(), Righe(" 0|TEXT| 8|0| 10|1| 20|2| 30|0.0| 40|20| 1|a%%cb]| 50|-90| 41|.5| 62|8|"
+                            " 0|TEXT| 8|0| 10|1| 20|2| 30|0.0| 40|20| 1|%%c| 50|0| 41|.75|"));
+}
+
+TEST_F(Dxf, TestoSenzaAltezzaFermaIlFile) {
+  DisTesto("a", 0, 0, 0, 10, 0);
+  DisArco(nullptr, 0, 0, 5);
+  EXPECT_FALSE(SalvaDxf(nome, 0, 0, 0, 0, 0));
+  EXPECT_EQ(registratore.eventi, std::vector<std::string>{std::string("[messaggio] critica | NODO COLONNA - PLINTO | ") + TESTO_FAULT});
+  const std::string t = File();
+  EXPECT_EQ(t.substr(t.size() - 5), " 41\r\n");         // closed with what it holds
+}
+
+TEST_F(Dxf, ArchiECerchi) {
+  DisArco(nullptr, 10, 20, 8, std::int16_t{1});
+  const int i = disegno.NumArchi;
+  disegno.CoordX[disegno.NumCoord] = 10, disegno.CoordY[disegno.NumCoord] = 24;
+  disegno.ArcCen[i] = disegno.ArcCen2[i] = disegno.ArcCen[0];
+  disegno.ArcIni[i] = disegno.ArcIni[0];
+  disegno.ArcFin[i] = disegno.NumCoord++;
+  disegno.ArcCol[i] = 4;
+  disegno.ArcTipo[i] = 1;
+  disegno.ArcCen[i + 1] = disegno.ArcIni[i + 1] = 0;    // no radius: skipped
+  disegno.ArcFin[i + 1] = 1;
+  disegno.NumArchi = i + 2;
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
+  EXPECT_EQ(Entita(), Righe(" 0|CIRCLE| 8|0| 10|10| 20|20| 30|0.0| 40|4|"
+                            " 0|ARC| 8|0| 10|10| 20|20| 30|0.0| 40|4| 50|0| 51|90| 62|3| 6|CENTER|"));
+}
+
+TEST_F(Dxf, OrdineLineeTestiArchi) {
+  DisArco(nullptr, 0, 0, 5);
+  DisTesto("t", 0, 0, 0, 1, 1);
+  DisLinea(nullptr, 0, 0, 1, 1);
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
+  const std::string t = Entita();
+  EXPECT_LT(t.find("LINE"), t.find("TEXT"));
+  EXPECT_LT(t.find("TEXT"), t.find("CIRCLE"));
+}
+
+// 45 degrees by the program's circle constant: atan 1 x 180 / 3.141592 = 45.00000936...
+TEST_F(Dxf, Angoli) {
+  EXPECT_EQ(AngoloArco(0, 5, 0, 0), 90);
+  EXPECT_EQ(AngoloArco(0.00009, -5, 0, 0), 270);
+  EXPECT_EQ(AngoloArco(0, 0, 0, 0), 270);
+  EXPECT_EQ(AngoloArco(5, 0, 0, 0), 0);
+  EXPECT_EQ(AngoloArco(-5, 0, 0, 0), 180);
+  EXPECT_NEAR(AngoloArco(5, 5, 0, 0), 45.00000936, 1e-8);
+  EXPECT_NEAR(AngoloArco(-5, 5, 0, 0), 180 - 45.00000936, 1e-8);
+  EXPECT_NEAR(AngoloArco(-5, -5, 0, 0), 180 + 45.00000936, 1e-8);
+  EXPECT_NEAR(AngoloArco(5, -5, 0, 0), 360 - 45.00000936, 1e-8);
+  EXPECT_EQ(AngoloArco(5, -1e-320, 0, 0), 0);           // 360 wraps
+}
+
+TEST_F(Dxf, TestiComeLinee) {
+  font.FontN['I'] = 2;
+  font.FontX['I'][0] = font.FontX['I'][1] = 10;
+  font.FontY['I'][0] = 99;
+  font.FontY['I'][1] = 30;
+  font.FontN['!'] = -1;
+  DisTesto("I!I", 100, 0, 0, 99, 69, std::int16_t{3});
+  DisTesto("I", 0, 0, 0, 99, 69, std::int16_t{1});
+  EXPECT_TRUE(SalvaDxf(nome, 1, 0, 0, 0, 1));
+  EXPECT_EQ(Entita(), Righe(" 0|LINE| 8|0| 10|110| 20|69| 30|0.0| 11|110| 21|0| 31|0.0| 62|1|"
+                            " 0|LINE| 8|0| 10|308| 20|69| 30|0.0| 11|308| 21|0| 31|0.0| 62|1|"
+                            " 0|LINE| 8|0| 10|10| 20|69| 30|0.0| 11|10| 21|0| 31|0.0|"));
+}
+
+TEST_F(Dxf, ApertoSoloSeSiPuo) {
+  const std::string assente = cartella + "\\manca\\prova.dxf";
+  disegno.EstXMax = 77;
+  EXPECT_FALSE(SalvaDxf(assente, 0, 0, 0, 0, 0));
+  EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] esclamazione | NODO COLONNA - PLINTO | ERRORE: non riesco ad aprire il file " + assente});
+  EXPECT_EQ(disegno.EstXMax, 77);
+}
+
+class Tratteggio : public Dxf {
+ protected:
+  // Type 4: 3 full, 2 gap; type 1: 6 full, 1 gap, 1 full, 1 gap.
+  const std::string modello = "Rem SETTAGGIO\r\n0                   | TipoLinea 1\r\n4                   | TipoLinea 2\r\n    6\r\n    1\r\n    1\r\n    1\r\n"
+                              "2                   | TipoLinea 3\r\n    1.5\r\n    1.5\r\n6                   | TipoLinea 4\r\n    1\r\n    1\r\n    1\r\n    1\r\n    1\r\n    1\r\n"
+                              "2                   | TipoLinea 5\r\n    3\r\n    2\r\n";
+  void Modello(const std::string& t) { ScriviByte(cartella + "/tipilinea.txt", t); }
+};
+
+TEST_F(Tratteggio, Lettura) {
+  Modello(modello);
+  EXPECT_TRUE(LeggiTipiLinea());
+  EXPECT_EQ(tipiLinea.TipiNTratti[0], 0);
+  EXPECT_EQ(tipiLinea.TipiNTratti[1], 4);
+  EXPECT_EQ(tipiLinea.TipiTratto[1][0], 60);            // tenths of mm
+  EXPECT_EQ(tipiLinea.TipiLungh[1], 90);
+  EXPECT_EQ(tipiLinea.TipiTratto[2][1], 15);
+  EXPECT_EQ(tipiLinea.TipiLungh[4], 50);
+  Modello(modello.substr(0, modello.size() - 10));
+  EXPECT_FALSE(LeggiTipiLinea());
+  EXPECT_EQ(tipiLinea.TipiLungh[3], 60);
+  EXPECT_EQ(tipiLinea.TipiLungh[4], 0);
+  Modello("12\r\n");
+  EXPECT_FALSE(LeggiTipiLinea());
+}
+
+// 3 full, 2 gap on 10 mm: 0-3, 5-8, gap to 10. On 12 mm the third stroke is cut after 2, and 1 mm of it begins the next line.
+TEST_F(Tratteggio, Spezza) {
+  Modello(modello);
+  LeggiTipiLinea();
+  StatoTratteggio stato;
+  std::vector<TrattoLinea> t;
+  ASSERT_TRUE(SpezzaLinea(0, 0, 10, 0, 4, stato, false, 1, t));
+  ASSERT_EQ(t.size(), 2u);
+  EXPECT_EQ(t[0].x2, 3);
+  EXPECT_EQ(t[1].x1, 5);
+  EXPECT_EQ(t[1].x2, 8);
+  EXPECT_EQ(stato.tratto, 0);
+  ASSERT_TRUE(SpezzaLinea(0, 0, 0, 12, 4, stato, false, 1, t));
+  ASSERT_EQ(t.size(), 3u);
+  EXPECT_EQ(t[2].y1, 10);
+  EXPECT_EQ(t[2].y2, 12);
+  EXPECT_EQ(stato.tratto, 0);
+  EXPECT_NEAR(stato.resto, 1, 1e-12);
+  ASSERT_TRUE(SpezzaLinea(0, 0, 2, 0, 4, stato, false, 1, t));
+  ASSERT_EQ(t.size(), 1u);
+  EXPECT_NEAR(t[0].x2, 1, 1e-12);
+  EXPECT_EQ(stato.tratto, 1);
+}
+
+TEST_F(Tratteggio, VuotoFinaleEScala) {
+  Modello(modello);
+  LeggiTipiLinea();
+  StatoTratteggio stato;
+  std::vector<TrattoLinea> t;
+  ASSERT_TRUE(SpezzaLinea(0, 0, 40, 0, 4, stato, true, 10, t));      // 30 full, gap of 20 cut at 40 and drawn
+  ASSERT_EQ(t.size(), 2u);
+  EXPECT_EQ(t[0].x2, 30);
+  EXPECT_EQ(t[1].x1, 30);
+  EXPECT_EQ(t[1].x2, 40);
+}
+
+TEST_F(Tratteggio, InteraDaDuemilaRipetizioni) {
+  Modello(modello);
+  LeggiTipiLinea();
+  StatoTratteggio stato;
+  std::vector<TrattoLinea> t;
+  EXPECT_TRUE(SpezzaLinea(0, 0, 9999, 0, 4, stato, false, 1, t));
+  EXPECT_EQ(t.size(), 2000u);
+  EXPECT_FALSE(SpezzaLinea(0, 0, 10000, 0, 4, stato, false, 1, t));
+  EXPECT_FALSE(SpezzaLinea(0, 0, 0.00009, 0, 4, stato, false, 1, t));
+  EXPECT_FALSE(SpezzaLinea(0, 0, 10, 0, 0, stato, false, 1, t));     // continuous: no pattern
+}
+
+TEST_F(Tratteggio, TroppiTratti) {
+  Modello("0\r\n11\r\n1\r\n0\r\n1\r\n0\r\n1\r\n0\r\n1\r\n0\r\n1\r\n0\r\n1\r\n0\r\n0\r\n0\r\n");
+  LeggiTipiLinea();
+  StatoTratteggio stato;
+  std::vector<TrattoLinea> t;
+  EXPECT_TRUE(SpezzaLinea(0, 0, 11000, 0, 1, stato, false, 1, t));   // 6 strokes of 1 a repeat: 11000 full ones
+  EXPECT_EQ(registratore.eventi, std::vector<std::string>{
+    "[messaggio] esclamazione | NODO COLONNA - PLINTO | Superato il numero massimo di tratti per le linee tratteggiate."});
+  EXPECT_EQ(t.size(), 1000u);                                       // the count restarts
+}
+
+TEST_F(Tratteggio, NelFileConMessaggio) {
+  Modello(modello);
+  disegno.TipoLinCorr = 1;
+  DisLinea(nullptr, 0, 0, 40, 0, std::int16_t{3});
+  disegno.TipoLinCorr = 0;
+  DisLinea(nullptr, 0, 0, 0, 5, std::int16_t{1});
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 10, 1, 0));
+  EXPECT_EQ(Entita(), Righe(" 0|LINE| 8|0| 10|0| 20|0| 30|0.0| 11|30| 21|0| 31|0.0| 62|1|"
+                            " 0|LINE| 8|0| 10|0| 20|0| 30|0.0| 11|0| 21|5| 31|0.0|"));
+  EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] nessuna | SALVA FILE DXF | Le linee tratteggiate sono state disgregate "
+    "ipotizzando una scala di plottaggio 1:10\\nFile " + nome + " salvato."});
+}
+
+TEST_F(Tratteggio, SenzaModelliLineeIntere) {
+  disegno.TipoLinCorr = 1;
+  DisLinea(nullptr, 0, 0, 40, 0, std::int16_t{1});
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 10, 1, 0));
+  EXPECT_EQ(Entita(), Righe(" 0|LINE| 8|0| 10|0| 20|0| 30|0.0| 11|40| 21|0| 31|0.0| 6|DASHED2|"));
+  EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] nessuna | SALVA FILE DXF | File " + nome + " salvato."});
+}
+
+}  // namespace
