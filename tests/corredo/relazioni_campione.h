@@ -105,7 +105,7 @@ class ProvaRelazione : public ::testing::Test {
   static void Saldature(int n) {
     nodo.NumSaldature = static_cast<std::int16_t>(n);
     for (int w = 1; w <= n; ++w) {
-      ris.Saldature[w].Nome = "S" + std::to_string(w);
+      ris.Saldature[w].Nome = std::string("S").append(std::to_string(w));
       ris.Saldature[w].Lung = 98.5 + 1.5 * w;
     }
   }
@@ -113,7 +113,7 @@ class ProvaRelazione : public ::testing::Test {
   // n sextets without any stress, named "Soll 1" and on.
   static void Sestetti(int n) {
     nodo.NumSoll = static_cast<std::int16_t>(n);
-    for (int s = 1; s <= n; ++s) nodo.SollNome[s] = "Soll " + std::to_string(s);
+    for (int s = 1; s <= n; ++s) nodo.SollNome[s] = std::string("Soll ").append(std::to_string(s));
   }
 };
 

@@ -159,11 +159,11 @@ TEST_F(RelazioniComuni, ChiusuraBoxPoiFilePoiMostra) {
     EXPECT_EQ(testo, "ATTENZIONE: nodo non verificato!");
     EXPECT_EQ(titolo, TitoloProg);
     EXPECT_EQ(icona, Icona::Esclamazione);
-    visto.passi.push_back("box, file of " + std::to_string(LeggiByte(visto.file).size()));
+    visto.passi.push_back(std::string("box, file of ").append(std::to_string(LeggiByte(visto.file).size())));
   };
   piattaforma.mostraTesto = [](const std::string& percorso) {
     EXPECT_EQ(percorso, suite.DirLavoro + "\\RelTA_QB07_Prova.txt");
-    visto.passi.push_back("shown, file of " + std::to_string(LeggiByte(visto.file).size()));
+    visto.passi.push_back(std::string("shown, file of ").append(std::to_string(LeggiByte(visto.file).size())));
   };
   Foglio f;
   ASSERT_TRUE(ApriFoglio(f, "TA"));
