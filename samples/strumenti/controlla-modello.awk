@@ -240,5 +240,5 @@ function fine(    b, p, primi, secondi, fuori) {
   }
   if (primi != 5 || secondi != 5 || fuori != 6) male("colonne " primi " + " secondi ", aste fuori filtro " fuori)
   if (!errori) printf "modello: %d nodi, %d aste, %d condizioni, %d casi, %d sestetti in equilibrio e congruenti, spostamento massimo %.2f cm\n", nNodi, nAste, nCond, nCasi, sestetti, massimo
-  exit errori > 0
+  exit (errori > 0)
 }
