@@ -2,7 +2,7 @@
 #include "corredo/registratore.h"
 
 #include "core/eventi.h"
-#include "panels/controlli.h"
+#include "panels/pannelli.h"
 #include "panels/programma.h"
 
 #include <unistd.h>
@@ -65,14 +65,10 @@ static void RegTimer(Temporizzatore quale, int ms, void (*scaduto)()) {
 
 static void RegApri(const Pannello& p, bool modale) {
   registratore.pannelli.push_back(p.nome);
-  PannelloAperto(p);
+  PannelloMostrato(p, modale);
   if (!modale) return;
   if (!registratore.dentro.empty()) Togli(registratore.dentro)();
-  if (p.aperto != nullptr) *p.aperto = false;          // a test that forgot to close it must not hang
-}
-
-static void RegChiudi(const Pannello& p) {
-  if (p.aperto != nullptr) *p.aperto = false;
+  if (p.aperto != nullptr && *p.aperto) PannelloNascosto(p);   // a test that forgot to close it must not hang
 }
 
 void MontaRegistratore() {
@@ -89,7 +85,7 @@ void MontaRegistratore() {
   piattaforma.mostraAiuto = [](const std::string& percorso) { Evento(RigaAiuto(percorso)); };
   piattaforma.timer = RegTimer;
   piattaforma.apri = RegApri;
-  piattaforma.chiudi = RegChiudi;
+  piattaforma.chiudi = PannelloNascosto;
   piattaforma.aggiorna = [](Controllo&) {};
   piattaforma.fuoco = [](Controllo& c) { registratore.fuoco = &c; };
   piattaforma.attesa = [](bool si) { registratore.attesa = si; };
