@@ -192,7 +192,6 @@ TEST_F(FileNodo, SenzaNervatureRestanoQuelleDiPrima) {
 }
 
 // The pattern's own number of anchors counts, with the positions of the file.
-
 static void Motivo(Righe& r, const char* cifra, int n) {
   r[10] = cifra;
   r[15] = " " + std::to_string(n) + " ";
@@ -243,9 +242,7 @@ TEST_F(FileNodo, CifraDelMotivoFuoriPosto) {
 }
 
 // A first node by allowable stresses with S 275, a second by limit states with S 355, a third by allowable stresses with S 235:
-
 // the grade remembered for the method must not take the place of the file's.
-
 TEST_F(FileNodo, IGradiDelFileVinconoSullaMemoria) {
   Righe r = Buono();
   r[35] = "S 275 (FE 430)";
@@ -324,9 +321,7 @@ TEST_F(FileNodo, VecchiaGenerazione) {
 }
 
 // A node stored by limit states, then judged by allowable stresses: its own grades, not the start's; one without allowable
-
 // stresses is replaced, with a box.
-
 TEST_F(FileNodo, LAltroMetodoParteDaiGradiDelFile) {
   Righe r = Buono();
   r[35] = "S 355 (FE 510)";
@@ -345,7 +340,6 @@ TEST_F(FileNodo, LAltroMetodoParteDaiGradiDelFile) {
 }
 
 // Every sample loads in a run of its own without a failed step or a box and saves back to the same bytes.
-
 TEST_F(FileNodo, EsempiAndataERitorno) {
   int quanti = 0;
   std::vector<std::filesystem::path> nodi;
@@ -362,13 +356,3 @@ TEST_F(FileNodo, EsempiAndataERitorno) {
   }
   EXPECT_GE(quanti, 8);
 }
-
-// Cut behind each line: the box comes last, only the section's name is set to entry 32's, the rest is what was read.
-
-// Hostile counts through the command: no crash, bounds kept, the box.
-
-// Sides whose difference no double holds: failed steps, no infinity in the model or on the panel, no arithmetic box.
-
-// A fault in a handler is a failed step of the load, not the end of the command: the other combos are positioned.
-
-// Changed bytes in the samples, old generation too: whatever comes, the bounds hold and the next good load is a good load.

@@ -86,6 +86,14 @@ TEST_F(FileNodoGuasti, FileMancante) {
   EXPECT_EQ(Box(CARICAMENTO), 2);
 }
 
+// Circles of the file's anchors, diameter 24, on the plan.
+static int CerchiM24() {
+  int n = 0;
+  for (const Tratto& t : insDati.telaNodo.tratti) n += t.forma == Tratto::Forma::Arco && t.raggio == 12;
+  return n;
+}
+
+// Cut behind each line: the box comes last, only the section's name is set to entry 32's, the rest is what was read.
 TEST_F(FileNodoGuasti, TroncatoAOgniRiga) {
   const Righe r = Buono();
   for (std::size_t n = 0; n <= r.size(); ++n) {
@@ -111,6 +119,7 @@ TEST_F(FileNodoGuasti, TroncatoAOgniRiga) {
   }
 }
 
+// Hostile counts through the command: no crash, bounds kept, the box.
 TEST_F(FileNodoGuasti, ConteggiOstili) {
   for (const std::size_t riga : {std::size_t{15}, std::size_t{39}, std::size_t{48}})
     for (const char* testo : {"-1", "9", "201", "2001", "32767", "99999", "1e400", "-1e400"}) {
@@ -141,6 +150,7 @@ TEST_F(FileNodoGuasti, InteroSbagliato) {
   EXPECT_EQ(nodo.SaldInt, 1);
 }
 
+// Sides whose difference no double holds: failed steps, no infinity in the model or on the panel, no arithmetic box.
 TEST_F(FileNodoGuasti, NumeriSmisurati) {
   Righe r = Buono();
   r[1] = "FORESTIERA";
@@ -154,6 +164,7 @@ TEST_F(FileNodoGuasti, NumeriSmisurati) {
   EXPECT_TRUE(std::isfinite(nodo.LatoZ));
 }
 
+// A fault in a handler is a failed step of the load, not the end of the command: the other combos are positioned.
 TEST_F(FileNodoGuasti, FaultInUnGestore) {
   materiali.ClsBase[4].Rck = -350;                 // the modulus takes its root
   const double EcCls = nodo.EcCls;
@@ -165,6 +176,7 @@ TEST_F(FileNodoGuasti, FaultInUnGestore) {
   EXPECT_EQ(nodo.MatTir.Ftk, 8000);
 }
 
+// Changed bytes in the samples, old generation too: whatever comes, the bounds hold and the next good load is a good load.
 TEST_F(FileNodoGuasti, ByteCambiati) {
   std::mt19937 caso(5061995);                      // fixed
   const std::string_view CARATTERI = "0123456789-,\"\r\n eE.";
