@@ -9,6 +9,7 @@
 #include "core/layout_nodo.h"
 #include "model/materiali.h"
 #include "model/suite.h"
+#include "panels/FormTF.h"
 #include "panels/file_nodo.h"
 
 TEST_F(FileNodo, SalvaIlNodoNuovo) {
@@ -103,6 +104,8 @@ TEST_F(FileNodo, CaricaTutto) {
   EXPECT_EQ(nodo.TfFi, 24);
   const char* etichette[] = {"110", "600", "90", "400", "12", "24"};
   for (int i = 0; i < 6; ++i) EXPECT_EQ(insDati.TFLab[i].testo, etichette[i]) << i;
+  EXPECT_EQ(formTF.GeoTfTxt[1].testo, "110") << "the anchor chooser, hooked rod: LFt";
+  EXPECT_EQ(formTF.GeoTfTxt[2].testo, "600");
   EXPECT_EQ(nodo.TfDForo, 80);
   EXPECT_EQ(nodo.TfHMalta, 40);
   EXPECT_EQ(nodo.TfLFil, 70);
