@@ -8,6 +8,7 @@
 #include "drawing/edizione.h"
 #include "drawing/font.h"
 #include "drawing/formats/grb_stili.h"
+#include "drawing/formats/tipi_linea.h"
 #include "engine/Calcoli.h"
 #include "engine/PresInfl.h"
 #include "link/collegamento.h"
@@ -61,6 +62,7 @@ static void AzzeraDisegni() {
   quote = {};
   font = FONT_VUOTO;
   stiliGrb = STILI_VUOTI;
+  tipiLinea = {};
 }
 
 static void AzzeraPannelli() {
