@@ -27,7 +27,7 @@ void AggiungiSaldatura(double zf, double yf, double zi, double yi, int lato, int
   const double G = nodo.GolaCalc;
   const double L = std::sqrt((zf - zi) * (zf - zi) + (yf - yi) * (yf - yi));
   d.Lung = Arrotonda1(L);
-  d.Nome = "S" + std::to_string(indice);
+  d.Nome = std::string("S").append(std::to_string(indice));
   d.Ang[1] = Direzione(0, 0, zf, yf);
   d.Ang[3] = Direzione(0, 0, zi, yi);
   d.Ang[2] = Direzione(zf, yf, zi, yi);

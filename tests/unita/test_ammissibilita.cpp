@@ -1,0 +1,211 @@
+// tests/unita/test_ammissibilita.cpp - admissibility checks and edge distances. Base joint: column 200 x 190, plate 400 x 500 x 20,
+// M20 at 50 mm from each edge, holes of 100 mm, grout 50 mm, 120 mm out of the footing.
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "corredo/nodo_prova.h"
+#include "engine/Controlli.h"
+
+namespace {
+
+constexpr const char* T1 = "Incompatibilità geometrica fra piastra e colonna";
+constexpr const char* T2 = "Dimensioni della piastra negative o nulle";
+constexpr const char* T3 = "Dimensioni del tirafondo negative o nulle";
+constexpr const char* T4 = "Sovrapposizione fori nel plinto";
+constexpr const char* T5 = "Lunghezza fuori terra del tirafondo insufficiente";
+constexpr const char* T6 = "Lunghezza di filettatura del tirafondo insufficiente";
+constexpr const char* T7 = "Diametro fori insufficiente";
+constexpr const char* T8 = "Altezza di malta sotto la piastra insufficiente";
+constexpr const char* T9 = "Tirafondi fuori dalla piastra";
+constexpr const char* T10 = "Tirafondi previsti nelle zone d'angolo della piastra";
+
+std::string Domanda(const std::string& t, const char* risposta = "OK") {
+  return "[domanda] esclamazione | ATTENZIONE! | " + t + " -> " + risposta;
+}
+std::string Avviso(const std::string& t) { return "[messaggio] esclamazione | ATTENZIONE! | " + t; }
+
+using Eventi = std::vector<std::string>;
+
+struct ControlliTest : testing::Test {
+  void SetUp() override { NodoProva(); }
+
+  // The boxes after `modifica` of the base joint; every question answered with OK.
+  Eventi Dopo(const std::function<void()>& modifica) {
+    NodoProva();
+    modifica();
+    esito = ControlliGeometrici();
+    return registratore.eventi;
+  }
+  bool esito = false;
+};
+
+}  // namespace
+
+TEST_F(ControlliTest, NodoSano) {
+  EXPECT_EQ(Dopo([] {}), Eventi{});
+  EXPECT_TRUE(esito);
+}
+
+TEST_F(ControlliTest, Colonna) {                      // as wide as the plate passes; anchors then stand at the column: check 10
+  EXPECT_EQ(Dopo([] { nodo.Sezione.B = 400; }), Eventi{ Avviso(T10) });
+  EXPECT_EQ(Dopo([] { nodo.Sezione.B = 400.5; }), (Eventi{ Domanda(T1), Avviso(T10) }));
+  EXPECT_EQ(Dopo([] { nodo.Sezione.H = 500; }), Eventi{ Avviso(T10) });
+  EXPECT_EQ(Dopo([] { nodo.Sezione.H = 500.5; }), (Eventi{ Domanda(T1), Avviso(T10) }));
+}
+
+TEST_F(ControlliTest, Piastra) {
+  EXPECT_EQ(Dopo([] { nodo.SpessPiastra = 0; }), Eventi{ Domanda(T2) });
+  EXPECT_TRUE(esito);                                  // OK leaves the result
+  EXPECT_EQ(Dopo([] { nodo.LatoZ = 0; })[1], Domanda(T2));
+  EXPECT_EQ(Dopo([] { nodo.LatoY = 0; })[1], Domanda(T2));
+}
+
+TEST_F(ControlliTest, Tirafondo) {
+  const auto soloT3 = Eventi{ Domanda(T3) };
+  EXPECT_EQ(Dopo([] { nodo.TfL = 0; }), soloT3);
+  EXPECT_EQ(Dopo([] { nodo.TfL1 = 0; nodo.TfR = 0; }), Eventi{});          // these may be 0
+  EXPECT_EQ(Dopo([] { nodo.TfL1 = -1; }), soloT3);
+  EXPECT_EQ(Dopo([] { nodo.TfR = -1; }), soloT3);
+  EXPECT_EQ(Dopo([] { nodo.TfLF = 0; }), Eventi{});
+  EXPECT_EQ(Dopo([] { nodo.TfLF = -1; }), soloT3);
+  EXPECT_EQ(Dopo([] { nodo.TfFi = 0; }), soloT3);
+  EXPECT_EQ(Dopo([] { nodo.TfLFt = 0; })[0], Domanda(T3));
+  EXPECT_EQ(Dopo([] { nodo.TfDForo = 0; })[0], Domanda(T3));
+  EXPECT_EQ(Dopo([] { nodo.TfHMalta = -1; })[0], Domanda(T3));
+  EXPECT_EQ(Dopo([] { nodo.TfHMalta = 0; })[0], Domanda(T6));              // 0 - 20 < 120 - 100
+}
+
+TEST_F(ControlliTest, ForiSovrapposti) {
+  // Pattern by pattern the holes that touch pass, a tenth of a millimetre more does not. Spacing along Z 300, along Y 400.
+  struct Riga { int schema; double foro; bool passa; };
+  const Riga RIGHE[] = {
+    { 0, 300, true }, { 0, 300.1, false },             // 1-2 at 300 along Z; 1-3 at 400 along Y
+    { 1, 150, true }, { 1, 150.1, false },             // 1-8 and 8-2 at 150; 1-5, 5-3 at 200
+    { 2, 200, true }, { 2, 200.1, false },             // 1-5, 5-3 at 200 along Y
+    { 3, 150, true }, { 3, 150.1, false },             // 1-6, 6-2 at 150 along Z
+  };
+  for (const Riga& r : RIGHE) {
+    const Eventi e = Dopo([&] { SchemaProva(r.schema); nodo.TfDForo = r.foro; nodo.TfLFt = r.foro + 20; });
+    EXPECT_EQ(e, r.passa ? Eventi{} : Eventi{ Domanda(T4) }) << r.schema << ' ' << r.foro;
+  }
+  // Each listed pair by itself.
+  struct Coppia { int schema, sposta; char asse; double valore; };
+  const Coppia COPPIE[] = {
+    { 0, 3, 'Y', 149 }, { 1, 8, 'Z', 149 }, { 1, 8, 'Z', 251 }, { 1, 5, 'Y', 149 }, { 1, 5, 'Y', 351 },
+    { 2, 5, 'Y', 149 }, { 2, 5, 'Y', 351 }, { 3, 6, 'Z', 149 }, { 3, 6, 'Z', 251 }, { 3, 3, 'Y', 149 },
+  };
+  for (const Coppia& c : COPPIE)
+    EXPECT_EQ(Dopo([&] { SchemaProva(c.schema); (c.asse == 'Z' ? nodo.TfZ : nodo.TfY)[c.sposta] = c.valore; }), Eventi{ Domanda(T4) })
+        << c.schema << ' ' << c.sposta;
+  EXPECT_EQ(Dopo([] { nodo.TfZ[2] = 149; nodo.TfZ[4] = 149; }), (Eventi{ Domanda(T4), Avviso(T10) }));
+  // Two pairs at fault: one box. Without holes in the footing none, wherever the anchors stand.
+  EXPECT_EQ(Dopo([] { nodo.TfDForo = 500; nodo.TfLFt = 520; }), Eventi{ Domanda(T4) });
+  EXPECT_EQ(Dopo([] { nodo.TfDForo = 500; nodo.TfLFt = 520; nodo.TfLF = 0; }), Eventi{});
+}
+
+TEST_F(ControlliTest, AltezzeEFori) {                 // the bounds: 5 >, 6 <, 7 <=, 8 <=
+  EXPECT_EQ(Dopo([] { nodo.TfLFt = 110; }), Eventi{});                     // 50 + 20 + 40 = 110
+  EXPECT_EQ(Dopo([] { nodo.TfLFt = 109.9; }), Eventi{ Domanda(T5) });
+  EXPECT_EQ(Dopo([] { nodo.TfLFt = 130; }), Eventi{});                     // 50 - 20 = 130 - 100
+  EXPECT_EQ(Dopo([] { nodo.TfLFt = 130.1; }), Eventi{ Domanda(T6) });
+  EXPECT_EQ(Dopo([] { nodo.TfDForo = 20; nodo.TfHMalta = 130; nodo.TfLFt = 190; }), (Eventi{ Domanda(T6), Domanda(T7) }));   // 110 < 170
+  EXPECT_EQ(Dopo([] { nodo.TfDForo = 20.1; nodo.TfHMalta = 130; nodo.TfLFt = 190; }), Eventi{ Domanda(T6) });
+  EXPECT_EQ(Dopo([] { nodo.TfHMalta = 20; nodo.TfLFt = 100; }), Eventi{ Domanda(T8) });
+  EXPECT_EQ(Dopo([] { nodo.TfHMalta = 20.1; nodo.TfLFt = 100; }), Eventi{});
+}
+
+TEST_F(ControlliTest, OrdineERifiuto) {
+  // Column too wide, plate thickness 0, hole equal to the rod, grout as high as the rod: 1, 2, 6, 7, 8 and the notice 10.
+  const auto guasta = [] {
+    nodo.Sezione.B = 401;
+    nodo.SpessPiastra = 0;
+    nodo.TfDForo = 20;
+    nodo.TfHMalta = 20;
+    nodo.TfZ[1] = -1;
+  };
+  EXPECT_EQ(Dopo(guasta), (Eventi{ Domanda(T1), Domanda(T2), Domanda(T6), Domanda(T7), Domanda(T8), Avviso(T9), Avviso(T10) }));
+  EXPECT_FALSE(esito);                                 // the notices set it, whatever was answered
+  EXPECT_EQ(Dopo([&] { guasta(); registratore.risposte = { true, false }; }), (Eventi{ Domanda(T1), Domanda(T2, "Annulla"), Avviso(T9), Avviso(T10) }));
+  EXPECT_FALSE(esito);
+  EXPECT_EQ(Dopo([&] { guasta(); registratore.risposte = { false }; }), (Eventi{ Domanda(T1, "Annulla"), Avviso(T9), Avviso(T10) }));
+  EXPECT_EQ(Dopo([] { nodo.SpessPiastra = 0; registratore.risposte = { false }; }), Eventi{ Domanda(T2, "Annulla") });
+  EXPECT_FALSE(esito);
+}
+
+TEST_F(ControlliTest, FuoriDallaPiastra) {
+  const auto solo9 = Eventi{ Avviso(T9) };
+  EXPECT_EQ(Dopo([] { nodo.TfZ[1] = 0; }), Eventi{});                      // on the edge
+  EXPECT_EQ(Dopo([] { nodo.TfZ[1] = -0.1; }), solo9);
+  EXPECT_FALSE(esito);
+  EXPECT_EQ(Dopo([] { nodo.TfZ[2] = 400.1; }), solo9);
+  EXPECT_EQ(Dopo([] { nodo.TfY[1] = -0.1; }), solo9);
+  EXPECT_EQ(Dopo([] { nodo.TfY[4] = 500.1; }), solo9);
+  EXPECT_EQ(Dopo([] { nodo.TfLF = 0; nodo.TfZ[1] = 400.1; }), (Eventi{ Avviso(T9), Avviso(T10) }));
+  EXPECT_EQ(Dopo([] { nodo.TfLF = 0; nodo.TfZ[2] = -0.1; }), (Eventi{ Avviso(T9), Avviso(T10) }));
+  EXPECT_EQ(Dopo([] { nodo.TfLF = 0; nodo.TfY[1] = 500.1; }), (Eventi{ Avviso(T9), Avviso(T10) }));
+  EXPECT_EQ(Dopo([] { nodo.TfLF = 0; nodo.TfY[4] = -0.1; }), (Eventi{ Avviso(T9), Avviso(T10) }));
+  EXPECT_EQ(Dopo([] { nodo.TfZ[3] = -50; nodo.TfY[2] = -50; }), Eventi{}); // only anchors 1, 2, 4 are looked at
+}
+
+TEST_F(ControlliTest, ZoneDAngolo) {
+  // F along Z = (400 - 200) / 2 - D, along Y = (500 - 190) / 2 - D = 155 - D; half a rod is 10: equal passes.
+  EXPECT_EQ(Dopo([] { nodo.TfZ[1] = 90; }), Eventi{});
+  EXPECT_EQ(Dopo([] { nodo.TfZ[1] = 90.1; }), Eventi{ Avviso(T10) });
+  EXPECT_FALSE(esito);
+  EXPECT_EQ(Dopo([] { nodo.TfZ[2] = 310; }), Eventi{});
+  EXPECT_EQ(Dopo([] { nodo.TfZ[2] = 309.9; }), Eventi{ Avviso(T10) });
+  EXPECT_EQ(Dopo([] { nodo.TfY[1] = 145; }), Eventi{});
+  EXPECT_EQ(Dopo([] { nodo.TfY[1] = 145.1; }), Eventi{ Avviso(T10) });
+  EXPECT_EQ(Dopo([] { nodo.TfY[4] = 355; }), Eventi{});
+  EXPECT_EQ(Dopo([] { nodo.TfY[4] = 354.9; }), Eventi{ Avviso(T10) });
+  // Ribs of 10 mm count along Z only, for every typology but 1.
+  EXPECT_EQ(Dopo([] { nodo.TipoNodo = 2; nodo.TfZ[1] = 80; nodo.TfZ[2] = 320; nodo.TfY[1] = 145; nodo.TfY[4] = 355; }), Eventi{});
+  EXPECT_EQ(Dopo([] { nodo.TipoNodo = 2; nodo.TfZ[1] = 80.1; }), Eventi{ Avviso(T10) });
+  EXPECT_EQ(Dopo([] { nodo.TipoNodo = 2; nodo.TfZ[2] = 319.9; }), Eventi{ Avviso(T10) });
+  EXPECT_EQ(Dopo([] { nodo.TipoNodo = 5; nodo.TfZ[1] = 80.1; }), Eventi{ Avviso(T10) });
+}
+
+TEST_F(ControlliTest, BordoCNR) {                     // 2 x 20 = 40 <= D <= 6 x 20 = 120
+  const std::string testo =
+      "La distanza dei tirafondi dal bordo della piastra risulta difforme dalle prescrizioni della CNR-UNI 10011/88";
+  EXPECT_TRUE(ControlloBordoCNR());
+  for (const double d : { 40.0, 120.0 }) {
+    SchemaProva(0, d, d);
+    EXPECT_TRUE(ControlloBordoCNR()) << d;
+  }
+  EXPECT_TRUE(registratore.eventi.empty());
+  for (const double d : { 39.9, 120.1 })
+    for (int lato = 0; lato < 4; ++lato) {
+      NodoProva();
+      const double p[] = { d, 400 - d, d, 500 - d };
+      (lato < 2 ? nodo.TfZ : nodo.TfY)[lato == 0 || lato == 2 ? 1 : lato == 1 ? 2 : 4] = p[lato];
+      EXPECT_FALSE(ControlloBordoCNR()) << d << ' ' << lato;
+      EXPECT_EQ(registratore.eventi, Eventi{ Avviso(testo) });
+    }
+  NodoProva();
+  SchemaProva(0, 10, 10);                              // four sides at fault, one box
+  EXPECT_FALSE(ControlloBordoCNR());
+  EXPECT_EQ(registratore.eventi.size(), 1u);
+}
+
+TEST_F(ControlliTest, BordoNTC) {
+  const std::string testo = "La distanza dei tirafondi dal bordo della piastra risulta difforme dalle prescrizioni (NTC 2008)";
+  // Lower bound 1.2 x 20 = 24. Upper: exposed 4 x 20 + 40 = 120, not exposed none, else the larger of 8 x 20 = 160 and 125.
+  struct Riga { int esposizione; double t, D; bool passa; };
+  const Riga RIGHE[] = {
+    { 0, 20, 24, true },  { 0, 20, 23.9, false }, { 0, 20, 120, true },   { 0, 20, 120.1, false },
+    { 1, 20, 24, true },  { 1, 20, 23.9, false }, { 1, 20, 10000, true },
+    { 2, 20, 160, true }, { 2, 20, 160.1, false }, { 2, 10, 125, true },  { 2, 10, 125.1, false }, { 2, 20, 23.9, false },
+    { -1, 20, 160, true }, { -1, 20, 160.1, false }, { -1, 10, 125.1, false },
+  };
+  for (const Riga& r : RIGHE) {
+    NodoProva();
+    nodo.Esposizione = r.esposizione;
+    nodo.SpessPiastra = r.t;
+    SchemaProva(0, 100, 100);
+    nodo.TfZ[1] = r.D;
+    EXPECT_EQ(ControlloBordoNTC(), r.passa) << r.esposizione << ' ' << r.t << ' ' << r.D;
+    EXPECT_EQ(registratore.eventi, r.passa ? Eventi{} : Eventi{ Avviso(testo) });
+  }
+}
