@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "core/aritmetica.h"
 #include "core/numeri.h"
 #include "drawing/disegno.h"
 #include "drawing/pianta.h"
@@ -39,6 +40,7 @@ static void Nervature(Tela& t, int s) {
 
 void DisegnaNodo(Tela& tela) {
   CalcolaSmussi();
+  if (passi.fallito) return;
   PulisciTela(tela);
   if (SenzaMisure(tela)) return;
   const double Dy = MaxDi(nodo.Sezione.H, nodo.LatoY), Dz = MaxDi(nodo.Sezione.B, nodo.LatoZ);

@@ -5,5 +5,6 @@
 #include "drawing/tela.h"
 #include "model/node_model.h"
 
-void DisegnaNodo(Tela& tela);                // repaints the plan whole
+// Repaints the plan whole. Where a step of the running command has failed only the chamfers follow, the canvas stays as it was.
+void DisegnaNodo(Tela& tela);
 void DisegnaSezImport(Tela& tela, const Sezione& sezione);

@@ -98,6 +98,7 @@ bool Decifra(const char* b, std::int16_t lato, Sestetto& s) {
   }
   s = {Arrotonda1(v[0]), Arrotonda1(v[1]), Arrotonda1(v[2]), ArrotondaPari(v[3], 0), ArrotondaPari(v[4], 0), ArrotondaPari(v[5], 0)};
   if (lato == 2) s.Ty = -s.Ty;
+  for (double* v : {&s.N, &s.Ty, &s.Tz, &s.Mt, &s.My, &s.Mz}) *v += 0.0;   // no negative zero in the list
   return true;
 }
 

@@ -194,9 +194,7 @@ void InsDati_ComboEsposizione(int) { nodo.Esposizione = insDati.ComboEsposizione
 
 // ---- plan ----
 
-// Repaints the plan Nodo. A step of the running command that failed leaves it as it was.
 void RidisegnaNodo() {
-  if (passi.fallito) return;
   DisegnaNodo(insDati.telaNodo);
   piattaforma.aggiorna(insDati.Nodo);
 }

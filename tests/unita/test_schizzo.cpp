@@ -1,6 +1,7 @@
 // The sketches: chamfers, scale, strokes in their order. Positions by hand from the plate and the section.
 #include <gtest/gtest.h>
 
+#include "core/aritmetica.h"
 #include "corredo/registratore.h"
 #include "drawing/pianta.h"
 #include "drawing/schizzo.h"
@@ -128,6 +129,17 @@ TEST_F(Schizzo, OttoTirafondiOttoCerchi) {
   nodo.NTir = 8;
   DisegnaNodo(t);
   EXPECT_EQ(t.tratti.size(), 28u);
+}
+
+TEST_F(Schizzo, DopoUnPassoFallitoSeguonoSoloGliSmussi) {
+  DisegnaNodo(t);
+  const std::size_t prima = t.tratti.size();
+  nodo.NTir = 0;
+  nodo.HNerv = 90;
+  passi.fallito = true;
+  DisegnaNodo(t);
+  EXPECT_EQ(t.tratti.size(), prima);
+  EXPECT_EQ(nodo.NervTaglio, 30);            // 90 / 3
 }
 
 TEST_F(Schizzo, TelaSenzaMisure) {
