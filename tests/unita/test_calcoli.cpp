@@ -242,7 +242,7 @@ TEST_F(CalcoliTest, MessaggiSulDiametro) {
       const auto relazione = std::find_if(registratore.eventi.begin(), registratore.eventi.end(), Relazione);
       ASSERT_NE(relazione, registratore.eventi.end()) << r.fi;
       Eventi prima(registratore.eventi.begin(), relazione);
-      std::erase(prima, "[messaggio] nessuna | NODO COLONNA - PLINTO | ATTENZIONE: nodo non verificato!");
+      std::erase(prima, "[messaggio] esclamazione | NODO COLONNA - PLINTO | ATTENZIONE: nodo non verificato!");
       EXPECT_EQ(prima, r.prima) << r.fi << ' ' << soll;
       EXPECT_EQ(ris.FlagDiamInterpolato, r.fi == 22);
       EXPECT_EQ(ris.FlagDiamEstrapolato, r.fi == 19 || r.fi == 31);
