@@ -29,7 +29,7 @@ static bool Rispondi(Opzioni& o, std::string_view v) {
 static bool Processi(Opzioni& o, std::string_view v) {
   const char* fine = v.data() + v.size();
   const auto [dove, errore] = std::from_chars(v.data(), fine, o.processi);
-  return errore == std::errc() && dove == fine && o.processi >= 1 && o.processi <= MaxProcessi;
+  return errore == std::errc() && dove == fine && o.processi >= 1;
 }
 
 static bool SenzaProgrammi(Opzioni& o, std::string_view v) {

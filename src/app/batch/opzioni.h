@@ -4,8 +4,6 @@
 #include <string>
 #include <vector>
 
-constexpr int MaxProcessi = 256;
-
 struct Opzioni {
   int metodo = -1;                        // entry of TipoVer to select after a load, -1 what the node says
   char decimale = 0;                      // decimal mark, 0 the system's
