@@ -131,6 +131,8 @@ void ScriviByte(const std::string& percorso, const std::string& byte) {
   std::error_code errore;
   const std::filesystem::path p(percorso);
   if (p.has_parent_path()) std::filesystem::create_directories(p.parent_path(), errore);
+  // A new file each time: some file systems write a truncated one to the disk as it is closed.
+  if (std::filesystem::is_regular_file(std::filesystem::symlink_status(p, errore))) std::filesystem::remove(p, errore);
   std::ofstream f(p, std::ios::binary | std::ios::trunc);
   f.write(byte.data(), static_cast<std::streamsize>(byte.size()));
 }
