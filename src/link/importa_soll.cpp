@@ -19,6 +19,7 @@ namespace {
 constexpr std::int64_t RECORD = 56;          // bytes
 constexpr int RIGHE_INVILUPPO = 12;
 constexpr double ESTREMO = 1E20;             // what a row of the envelope holds until a sextet beats it
+constexpr double MASSIMO = 1E300;            // a value beyond it cannot be rounded, and is no load
 
 struct Sestetto {
   double N = 0, Ty = 0, Tz = 0, Mt = 0, My = 0, Mz = 0;
@@ -94,7 +95,7 @@ bool Decifra(const char* b, std::int16_t lato, Sestetto& s) {
   double v[6];
   for (int k = 0; k < 6; ++k) {
     v[k] = DaByte<double>(b + 8 + 8 * k);
-    if (!std::isfinite(v[k])) return false;
+    if (!(std::fabs(v[k]) <= MASSIMO)) return false;      // nor not-a-number
   }
   s = {Arrotonda1(v[0]), Arrotonda1(v[1]), Arrotonda1(v[2]), ArrotondaPari(v[3], 0), ArrotondaPari(v[4], 0), ArrotondaPari(v[5], 0)};
   if (lato == 2) s.Ty = -s.Ty;

@@ -5,6 +5,7 @@
 #include <limits>
 #include <random>
 
+#include "core/aritmetica.h"
 #include "corredo/modello_minimo.h"
 #include "corredo/registratore.h"
 #include "link/casi.h"
@@ -174,6 +175,41 @@ TEST_F(Importa, InviluppoDiDodiciRighe) {
   EXPECT_EQ(nodo.SollNome[1], "Caso 7 As. 5 Nd. 20");
 }
 
+TEST_F(Importa, OgniRigaDellInviluppoHaLaSuaComponente) {
+  // Sextets 1 to 12 in the order of the rows, each with one extreme, told apart by N's decimals or the name; a thirteenth beats none.
+  std::vector<RecordRisultati> r;
+  double RecordRisultati::*const componenti[] = {&RecordRisultati::N, &RecordRisultati::Tz, &RecordRisultati::Ty,
+                                                 &RecordRisultati::My, &RecordRisultati::Mz, &RecordRisultati::Mt};
+  for (int riga = 1; riga <= 12; ++riga) {
+    RecordRisultati x{5, 0, 0, 0, 0, 0, 0};
+    x.*componenti[(riga - 1) / 2] = riga % 2 == 1 ? 1000 + riga : -1000 - riga;
+    r.push_back(x);
+  }
+  r.push_back({5, 0, 0, 0, 0, 0, 0});
+  Scrivi("astec007.bin", FileRisultatiDi(1, 1, 13, r));
+  ImportaSollecitazioni(true);
+  ASSERT_EQ(nodo.NumSoll, 12);
+  const double* const valori[] = {nodo.SollN, nodo.SollTz, nodo.SollTy, nodo.SollMy, nodo.SollMz, nodo.SollMt};
+  for (int riga = 1; riga <= 12; ++riga)
+    for (int k = 0; k < 6; ++k)
+      EXPECT_EQ(valori[k][riga], k != (riga - 1) / 2 ? 0 : riga % 2 == 1 ? 1000 + riga : -1000 - riga) << riga << " " << k;
+  EXPECT_EQ(c.Presi, 13);
+}
+
+TEST_F(Importa, IlLimiteSiProvaFilePerFileEContaLeAsteNegate) {
+  Scrivi("astec007.bin", FileRisultatiDi(1, 1, 120, std::vector<RecordRisultati>(120, {5, 1, 0, 0, 0, 0, 0})));
+  Scrivi("astec008.bin", FileRisultatiDi(1, 1, 81, std::vector<RecordRisultati>(81, {5, 1, 0, 0, 0, 0, 0})));
+  c.CasiStr[++c.NumCasiStr] = 8;
+  c.SestettiStr[1] = 1;                                   // of each file one is taken
+  ImportaSollecitazioni(false);
+  EXPECT_EQ(nodo.NumSoll, 2);                             // 0 + 120, then 1 + 81
+  EXPECT_TRUE(registratore.eventi.empty());
+  Asta(-6, 0, 1);                                         // skipped, and counted all the same: 2 + 2 * 120
+  ImportaSollecitazioni(false);
+  EXPECT_EQ(nodo.NumSoll, 0);
+  EXPECT_EQ(registratore.eventi.size(), 1u);
+}
+
 TEST_F(Importa, InviluppoSenzaSestettiTieneGliEstremi) {
   Scrivi("astec007.bin", FileRisultatiDi(0, 1, 1, {}));
   c.AstaNodo[1] = -1;
@@ -213,6 +249,17 @@ TEST_F(Importa, ValoreNonFinitoSiSalta) {
   ImportaSollecitazioni(false);
   ASSERT_EQ(nodo.NumSoll, 1);
   EXPECT_EQ(nodo.SollN[1], 8);
+}
+
+TEST_F(Importa, ValoreCheNonSiArrotondaSiSaltaSenzaFault) {
+  const double largo = std::numeric_limits<double>::max();       // ten times it overflows
+  Scrivi("astec007.bin", FileRisultatiDi(1, 1, 3, {{5, 1, largo, 0, 0, 0, 0}, {5, 2, 0, 0, 0, -largo, 0}, {5, 3, 0, 0, 1e300, 0, 0}}));
+  AzzeraFault();
+  ImportaSollecitazioni(false);
+  ASSERT_EQ(nodo.NumSoll, 1);
+  EXPECT_EQ(nodo.SollN[1], 3);
+  EXPECT_EQ(nodo.SollMt[1], 1e300);
+  EXPECT_FALSE(FaultAritmetico());
 }
 
 TEST_F(Importa, FileTroncatiEByteCambiatiNonFannoDanno) {
