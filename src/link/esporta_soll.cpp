@@ -1,6 +1,9 @@
 // link/esporta_soll.cpp - writer of the load list.
 #include "link/esporta_soll.h"
 
+#include <cmath>
+
+#include "core/aritmetica.h"
 #include "core/file.h"
 #include "core/numeri.h"
 #include "core/testo.h"
@@ -17,20 +20,28 @@ std::string Intestazione() {
   return riga + suite.UnitaLung;             // the length unit, though moments follow; deliberate
 }
 
+// One group; false: a value overflows in the user's unit, an arithmetic fault.
+bool ComponiRiga(const ElencoSoll& elenco, int i, std::string& riga) {
+  riga = std::to_string(i - elenco.primo + 1) + "\t" + std::string(Rifila(elenco.nomi[i])) + "\t";
+  for (int k = 0; k < 6; ++k) {
+    const double v = elenco.usa[k] ? elenco.componente[k][i] * (k < 3 ? suite.FattForze : suite.FattMomenti) : 0;
+    if (!std::isfinite(v)) {
+      SegnalaFault();
+      return false;
+    }
+    riga += NumeroPiano(v) + "\t";
+  }
+  return true;
+}
+
 }  // namespace
 
-bool EsportaSollecitazioni(const std::string& nomeFile, const ElencoSoll& elenco) {
+EsitoEsporta EsportaSollecitazioni(const std::string& nomeFile, const ElencoSoll& elenco) {
   FileScrittura f;
-  if (!ApriScrittura(f, nomeFile)) return false;
+  if (!ApriScrittura(f, nomeFile)) return EsitoEsporta::NonAperto;
   ScriviRiga(f, Intestazione());
   ScriviRiga(f, "ses\tdescr.Ses.\tN\tTy\tTz\tMt\tMy\tMz");
-  for (int i = elenco.primo; i < elenco.primo + elenco.conteggio; ++i) {
-    std::string riga = std::to_string(i - elenco.primo + 1) + "\t" + std::string(Rifila(elenco.nomi[i])) + "\t";
-    for (int k = 0; k < 6; ++k) {
-      const double fattore = k < 3 ? suite.FattForze : suite.FattMomenti;
-      riga += (elenco.usa[k] ? NumeroPiano(elenco.componente[k][i] * fattore) : "0") + "\t";
-    }
-    ScriviRiga(f, riga);
-  }
-  return ChiudiScrittura(f);
+  std::string riga;
+  for (int i = elenco.primo; i < elenco.primo + elenco.conteggio && ComponiRiga(elenco, i, riga); ++i) ScriviRiga(f, riga);
+  return ChiudiScrittura(f) ? EsitoEsporta::Scritto : EsitoEsporta::NonScritto;
 }

@@ -9,5 +9,6 @@ struct ElencoSoll {
   const std::string* nomi = nullptr;
   int conteggio = 0, primo = 1;              // groups primo .. primo + conteggio - 1; the ordinal written counts from 1
 };
-// False: the file could not be opened or written (no box).
-bool EsportaSollecitazioni(const std::string& nomeFile, const ElencoSoll& elenco);
+enum class EsitoEsporta { Scritto, NonAperto, NonScritto };
+// No box. A value that overflows in the user's unit is an arithmetic fault: the file is closed with the groups before it.
+EsitoEsporta EsportaSollecitazioni(const std::string& nomeFile, const ElencoSoll& elenco);

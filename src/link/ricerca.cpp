@@ -33,6 +33,7 @@ bool EseguiRicerca(const std::string& programma, const std::string& seguito) {
 }  // namespace
 
 void CercaElemento(const std::string& titolo, std::string& campo, int tipo, bool primoSolo, const std::string& lavoro) {
+  if (lavoro.find_first_of("/\\") != std::string::npos || Contiene(lavoro, "..")) return;   // a neighbour of this job, nothing else
   std::string cartella = suite.DirLavoro;
   if (!lavoro.empty()) cartella = PrimiCaratteri(cartella, NumCaratteri(cartella) - std::min<std::size_t>(6, NumCaratteri(cartella))) + lavoro;
   EliminaFile(cartella + RISPOSTA);

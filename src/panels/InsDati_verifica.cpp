@@ -8,12 +8,6 @@
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"
 
-// The check of the method is advice: a breach only asks.
-static bool BordoAmmesso() {
-  const bool ammesso = nodo.TipoVer == 0 ? ControlloBordoCNR() : ControlloBordoNTC();
-  return ammesso || piattaforma.domanda("Continuare la verifica?", TitoloProg, Icona::Informazione);
-}
-
 // A fault of the checks stops the run with the box that one of the engine has.
 static bool FaultDeiControlli() {
   if (!FaultAritmetico()) return false;
@@ -28,9 +22,10 @@ static EsitoVerifica VerificaNodo() {
     Messaggio("Verifica non possibile", TitoloProg, Icona::Esclamazione);
     return EsitoVerifica::Rifiutata;
   }
-  const bool continua = BordoAmmesso();
+  const bool ammesso = nodo.TipoVer == 0 ? ControlloBordoCNR() : ControlloBordoNTC();
   if (FaultDeiControlli()) return EsitoVerifica::Interrotta;
-  if (!continua) return EsitoVerifica::Annullata;
+  // The check of the method is advice: a breach only asks.
+  if (!ammesso && !piattaforma.domanda("Continuare la verifica?", TitoloProg, Icona::Informazione)) return EsitoVerifica::Annullata;
   return EseguiVerifica() ? EsitoVerifica::Eseguita : EsitoVerifica::Interrotta;
 }
 

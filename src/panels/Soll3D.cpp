@@ -16,7 +16,10 @@ namespace {
 
 constexpr const char* NESSUNO = "0";         // what the commands "A" leave: no empty selection exists
 
-std::string Unisci(const std::string& testo, int numero) { return (testo.empty() ? "" : testo + ",") + std::to_string(numero); }
+void Unisci(std::string& testo, int numero) {
+  if (!testo.empty()) testo += ',';
+  testo += std::to_string(numero);
+}
 
 bool Qualificato(const std::string& tipo) {
   return nodo.TipoVer == 0 ? tipo == "TENSAMM" || tipo == "RARA" : tipo == "SLU";
@@ -31,7 +34,7 @@ void Soll3D_TuttiCdc(int) {
   std::string testo;
   if (LeggiTipiCaso() == EsitoCasi::Letti)
     for (int i = 1; i <= collegamento.NumCasiStr; ++i)
-      if (Qualificato(collegamento.TipiCaso[i])) testo = Unisci(testo, collegamento.CasiStr[i]);
+      if (Qualificato(collegamento.TipiCaso[i])) Unisci(testo, collegamento.CasiStr[i]);
   ImpostaTesto(soll3D.CdCTxt, testo.empty() ? NESSUNO : testo);
 }
 
@@ -42,7 +45,7 @@ void Soll3D_TuttiCdc2(int) {
     return;
   }
   std::string testo;
-  for (int i = 1; i <= std::min<std::int32_t>(n, 32767); ++i) testo = Unisci(testo, i);
+  for (int i = 1; i <= std::min<std::int32_t>(n, 32767); ++i) Unisci(testo, i);
   ImpostaTesto(soll3D.CdC2Txt, testo);
 }
 

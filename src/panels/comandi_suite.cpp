@@ -76,6 +76,9 @@ void InsDati_EsportaSollButt(int) {
   std::string nome;
   int filtro = 1;
   if (!piattaforma.scegliFile(r, nome, filtro)) return;
-  if (!EsportaSollecitazioni(nome, ElencoDelNodo()))
-    Messaggio("Impossibile esportare le sollecitazioni in " + nome, TitoloProg, Icona::Critica);
+  switch (EsportaSollecitazioni(nome, ElencoDelNodo())) {
+    case EsitoEsporta::Scritto: break;
+    case EsitoEsporta::NonAperto: Messaggio("Impossibile esportare le sollecitazioni in " + nome, TitoloProg, Icona::Critica); break;
+    case EsitoEsporta::NonScritto: Messaggio("Salvataggio fallito", TitoloProg, Icona::Esclamazione); break;
+  }
 }

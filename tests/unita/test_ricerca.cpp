@@ -1,6 +1,7 @@
 // Search tools, bar selection, load export: files byte by byte, messages whole.
 #include <gtest/gtest.h>
 
+#include "core/aritmetica.h"
 #include "core/file.h"
 #include "corredo/modello_minimo.h"
 #include "corredo/registratore.h"
@@ -159,6 +160,51 @@ TEST_F(Ricerca, StrutturaAssente) {
   EXPECT_EQ(registratore.eventi.back(), "[messaggio] esclamazione | ERRORE | Errore: file " + suite.DirLavoro + "\\struttur.str errato o mancante.");
 }
 
+TEST_F(Ricerca, AltroLavoroSoloAccantoAQuesto) {
+  registratore.programmi = true;
+  std::string campo = "7";
+  for (const char* altrove : {"..", "../..", "a\\b", "x/y"}) CercaElemento("t", campo, 1, false, altrove);
+  EXPECT_TRUE(registratore.eventi.empty());
+}
+
+// In the selection a node goes by its fourth value, and the bars' ends by its first.
+TEST_F(Ricerca, IlNodoSiCercaPerNomeEGliEstremiPerNumero) {
+  ScriviByte(lavoro + "/struttur.str", "release\r\n0\r\n2\r\n1,0,0,900,a\r\n2,0,0,1,b\r\n2\r\n2,2,0,0\r\n4 1\r\n1,2,0,0\r\n5 1\r\n0\r\n");
+  std::string lista;
+  EXPECT_TRUE(CercaAsta(900, tutte, lista));
+  EXPECT_EQ(lista, "5,");                                 // bar 4 does not touch node number 1
+  EXPECT_TRUE(CercaAsta(2, tutte, lista));                // no node of that name
+  EXPECT_EQ(lista, "5,");
+}
+
+TEST_F(Ricerca, VersioneVecchiaNellaSelezione) {
+  ScriviByte(lavoro + "/struttur.str", STRUTTURA_MINIMA.substr(STRUTTURA_MINIMA.find('\n') + 1));
+  std::string lista;
+  EXPECT_TRUE(CercaAsta(20, tutte, lista));
+  EXPECT_EQ(lista, "5,");
+  ASSERT_EQ(registratore.eventi.size(), 1u);
+  EXPECT_EQ(registratore.eventi[0],
+            "[messaggio] critica | ATTENZIONE! | Versione 3.8 o precedente. Caricare e risalvare la struttura in 'Ambiente Grafico'");
+}
+
+TEST_F(Ricerca, EsportazioneConUnValoreCheTrabocca) {
+  suite.FattForze = 10;
+  suite.FattMomenti = 1;
+  const double zeri[3] = {}, v[3] = {0, 1, 1e308};
+  const std::string nomi[3] = {"", "a", "b"};
+  ElencoSoll e;
+  for (const double*& c : e.componente) c = zeri;
+  e.componente[1] = v;
+  e.nomi = nomi;
+  e.conteggio = 2;
+  AzzeraFault();
+  EXPECT_EQ(EsportaSollecitazioni(lavoro + "\\t.txt", e), EsitoEsporta::Scritto);
+  EXPECT_TRUE(FaultAritmetico());
+  AzzeraFault();
+  const std::string t = LeggiByte(lavoro + "/t.txt");
+  EXPECT_TRUE(t.ends_with("\r\n1\ta\t0\t10\t0\t0\t0\t0\t\r\n")) << t;   // the group before it, and nothing of it
+}
+
 TEST_F(Ricerca, EsportazioneDeiCarichi) {
   suite.UnitaForze = "kN";
   suite.UnitaLung = "cm";
@@ -170,18 +216,18 @@ TEST_F(Ricerca, EsportazioneDeiCarichi) {
   for (int k = 0; k < 6; ++k) e.componente[k] = v[k];
   e.nomi = nomi;
   e.conteggio = 2;
-  ASSERT_TRUE(EsportaSollecitazioni(lavoro + "\\Soll_Qb07.txt", e));
+  ASSERT_EQ(EsportaSollecitazioni(lavoro + "\\Soll_Qb07.txt", e), EsitoEsporta::Scritto);
   // The head: 17 + 2 characters, so the length unit stands in column 29.
   EXPECT_EQ(LeggiByte(lavoro + "/Soll_Qb07.txt"),
             "Unit\xE0 di misura: kN         cm\r\nses\tdescr.Ses.\tN\tTy\tTz\tMt\tMy\tMz\r\n"
             "1\tSoll 1\t-12.5\t3\t0\t.5\t0\t1\t\r\n2\tCaso 7 As. 5 Nd. 20\t.5\t0\t-.01\t0\t.0001\t-25\t\r\n");
   e.usa[1] = e.usa[5] = false;
   e.conteggio = 1;
-  ASSERT_TRUE(EsportaSollecitazioni(lavoro + "\\b.txt", e));
+  ASSERT_EQ(EsportaSollecitazioni(lavoro + "\\b.txt", e), EsitoEsporta::Scritto);
   EXPECT_EQ(LeggiByte(lavoro + "/b.txt"),
             "Unit\xE0 di misura: kN         cm\r\nses\tdescr.Ses.\tN\tTy\tTz\tMt\tMy\tMz\r\n1\tSoll 1\t-12.5\t0\t0\t.5\t0\t0\t\r\n");
   e.conteggio = 0;
-  ASSERT_TRUE(EsportaSollecitazioni(lavoro + "\\c.txt", e));
+  ASSERT_EQ(EsportaSollecitazioni(lavoro + "\\c.txt", e), EsitoEsporta::Scritto);
   EXPECT_EQ(LeggiByte(lavoro + "/c.txt"), "Unit\xE0 di misura: kN         cm\r\nses\tdescr.Ses.\tN\tTy\tTz\tMt\tMy\tMz\r\n");
-  EXPECT_FALSE(EsportaSollecitazioni(lavoro + "\\manca\\c.txt", e));
+  EXPECT_EQ(EsportaSollecitazioni(lavoro + "\\manca\\c.txt", e), EsitoEsporta::NonAperto);
 }
