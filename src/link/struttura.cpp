@@ -47,12 +47,14 @@ struct SezioneFile {
   std::string nome;
 };
 
-// The sections of the section file in order; false: not opened.
+// The sections of the section file in order. Fallito: not opened; Troppe: its count is out of range.
 template <class Procedura>
-bool PerOgniSezione(const std::string& percorso, Procedura procedura) {
+EsitoAste PerOgniSezione(const std::string& percorso, Procedura procedura) {
   FileLettura f;
-  if (!ApriLettura(f, percorso)) return false;
-  for (std::int32_t n = LeggiIntero(f); n > 0 && !FineFile(f); --n) {
+  if (!ApriLettura(f, percorso)) return EsitoAste::Fallito;
+  std::int32_t n = 0;
+  if (!FineFile(f) && !LeggiValore(f, n)) return EsitoAste::Troppe;
+  for (; n > 0 && !FineFile(f); --n) {
     SezioneFile s;
     std::string scarto;
     s.numero = LeggiIntero(f);
@@ -61,7 +63,7 @@ bool PerOgniSezione(const std::string& percorso, Procedura procedura) {
     for (int i = 0; i < RIGHE_SEZIONE && !FineFile(f); ++i) LeggiRiga(f, scarto);
     procedura(s);
   }
-  return true;
+  return EsitoAste::Trovate;
 }
 
 bool TogliPrefisso(std::string& nome) {      // "P_" marks a section of the library
@@ -203,7 +205,7 @@ int ProfiloDaAsta(std::int16_t asta) {
   if (numero < 0) return 0;
   std::string nome;
   const std::string percorso = suite.DirLavoro + SEZIONI;
-  if (!PerOgniSezione(percorso, [&](const SezioneFile& s) { if (s.numero == numero) nome = s.nome; })) {
+  if (PerOgniSezione(percorso, [&](const SezioneFile& s) { if (s.numero == numero) nome = s.nome; }) == EsitoAste::Fallito) {
     FileErrato(percorso, Icona::Esclamazione);
     return 0;
   }
@@ -241,17 +243,15 @@ EsitoAste AsteDelNodo(std::int16_t numeroNodo) {
   return EsitoAste::Trovate;
 }
 
-bool SezioniAsteNodo() {
+EsitoAste SezioniAsteNodo() {
   const std::string percorso = suite.DirLavoro + SEZIONI;
   for (int i = 1; i <= collegamento.NumAsteNodo; ++i) collegamento.SezioniStr[i] = {};
-  const bool letto = PerOgniSezione(percorso, [](const SezioneFile& s) {
+  const EsitoAste esito = PerOgniSezione(percorso, [](const SezioneFile& s) {
     for (int i = 1; i <= collegamento.NumAsteNodo; ++i)
       if (collegamento.SezAsteNodo[i] == s.numero) collegamento.SezioniStr[i].Nome = s.nome;
   });
-  if (!letto) {
-    FileErrato(percorso, Icona::Nessuna);
-    return false;
-  }
+  if (esito == EsitoAste::Fallito) FileErrato(percorso, Icona::Nessuna);
+  if (esito != EsitoAste::Trovate) return esito;
   for (int i = 1; i <= collegamento.NumAsteNodo; ++i) {
     Sezione& s = collegamento.SezioniStr[i];
     std::string nome = SenzaSpazi(s.Nome);
@@ -268,7 +268,7 @@ bool SezioniAsteNodo() {
     s.E = p.E;
     s.R = p.R;
   }
-  return true;
+  return esito;
 }
 
 bool NodiAste() {

@@ -33,6 +33,7 @@ std::int16_t SezioneDiAsta(std::int16_t asta);            // section number of a
 int ProfiloDaAsta(std::int16_t asta);                     // library entry 1..NumProfili of a bar's section; 0: none, its box was shown or nothing to say
 enum class EsitoAste { Trovate, Fallito, Troppe };        // Fallito: its box was shown; Troppe: the caller's box
 EsitoAste AsteDelNodo(std::int16_t numeroNodo);           // NumAsteNodo, AsteNodo, SezAsteNodo
-bool SezioniAsteNodo();                                   // SezioniStr; a section that is not the library's gets "Non app. " before its name
+EsitoAste SezioniAsteNodo();                              // SezioniStr; a section that is not the library's gets "Non app. " before its name;
+                                                          // Troppe: the file's count is out of range
 bool NodiAste();                                          // AstaNodo, LatoAsta for AsteNodo and nodo.NodiStr; false: its box was shown
 bool CondizioniStruttura(std::int32_t& n);                // number of load conditions; false: not readable (no box)

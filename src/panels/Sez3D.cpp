@@ -22,18 +22,15 @@ std::int16_t NodoDalCampo() {
   return sez3D.UltimoNodo;
 }
 
-bool Troppe(const char* testo) {
-  Messaggio(testo, "ERRORE", Icona::Esclamazione);
-  return false;
+// One of the two readings; false: its box was shown.
+bool Riuscita(EsitoAste esito, const char* troppe) {
+  if (esito == EsitoAste::Troppe) Messaggio(troppe, "ERRORE", Icona::Esclamazione);
+  return esito == EsitoAste::Trovate;
 }
 
 bool CercaSezioni() {
-  switch (AsteDelNodo(NodoDalCampo())) {
-    case EsitoAste::Troppe: return Troppe("Errore: numero di aste collegate eccessivo.");
-    case EsitoAste::Fallito: return false;
-    case EsitoAste::Trovate: break;
-  }
-  return SezioniAsteNodo();
+  return Riuscita(AsteDelNodo(NodoDalCampo()), "Errore: numero di aste collegate eccessivo.") &&
+         Riuscita(SezioniAsteNodo(), "Errore: numero di sezioni eccessivo.");
 }
 
 void RiempiComboP() {
@@ -42,6 +39,7 @@ void RiempiComboP() {
     voci.push_back(collegamento.SezioniStr[i].Nome + "  Asta " + std::to_string(collegamento.AsteNodo[i]));
   MostraVoci(sez3D.ComboP, std::move(voci));
   sez3D.UltimaValida = 0;
+  collegamento.SezioneImp = {};              // the choice of a former node counts no more
   if (!sez3D.ComboP.voci.empty()) ImpostaScelta(sez3D.ComboP, 0);
 }
 

@@ -1,52 +1,14 @@
-// The smaller panels: anchor chooser, drawing options, material properties, load import, bar selection, section import, and the main panel's
-// commands that open them. The program is started on a copy of the sample suite; values by hand from what the test itself sets.
-#include <gtest/gtest.h>
+// The smaller panels: anchor chooser, drawing options, material properties, and the main panel's commands that open them, call the unit
+// calculator or export. The program is started on a copy of the sample suite; values by hand from what the test itself sets.
+#include "corredo/banco_pannelli.h"
 
-#include "core/file.h"
-#include "corredo/modello_minimo.h"
-#include "corredo/registratore.h"
-#include "corredo/suite_prova.h"
-#include "link/collegamento.h"
+#include <filesystem>
+
 #include "model/materiali.h"
 #include "panels/FormTF.h"
-#include "panels/InsDati.h"
 #include "panels/Op_Nodo.h"
 #include "panels/PropMateriali.h"
-#include "panels/Sez3D.h"
-#include "panels/Soll3D.h"
 #include "panels/pannelli.h"
-#include "panels/selezione.h"
-
-namespace {
-
-struct Pannelli_ : testing::Test {
-  std::string lavoro;
-  void SetUp() override {
-    const std::string radice = PreparaSuite("pannelli");
-    ASSERT_TRUE(AvviaSuite(radice));
-    lavoro = CartellaLavoro(radice);
-    registratore.eventi.clear();
-  }
-  void Modello() {
-    ScriviByte(RisolviPercorso(suite.DirLavoro + "\\struttur.str"), STRUTTURA_MINIMA);
-    ScriviByte(RisolviPercorso(suite.DirLavoro + "\\sezioni_"),
-               "2\r\n1,\"P_HEA 200\",0\r\nr\r\nr\r\nr\r\nr\r\n2,\"Composta saldata 1\",0\r\nr\r\nr\r\nr\r\nr\r\n");
-  }
-};
-
-Controllo& C(const Pannello& p, const char* nome, int i = SENZA_INDICE) {
-  Controllo* c = TrovaControllo(p, nome, i);
-  EXPECT_NE(c, nullptr) << nome;
-  static Controllo manca;
-  return c == nullptr ? manca : *c;
-}
-
-bool Premi(const Pannello& p, const char* nome, int i = SENZA_INDICE) { return Scatena(p, C(p, nome, i), Evento::Cambio); }
-void Scrivi(const Pannello& p, const char* nome, int i, const char* testo) { EXPECT_TRUE(UtenteScrive(p, C(p, nome, i), testo)); }
-
-std::string UltimoEvento() { return registratore.eventi.empty() ? "" : registratore.eventi.back(); }
-
-}  // namespace
 
 TEST_F(Pannelli_, OgniPannelloHaIlSuoNome) {
   for (const char* nome : {"InsDati", "Op_Nodo", "PropMateriali", "FormTF", "Soll3D", "selezione", "Sez3D"}) EXPECT_NE(TrovaPannello(nome), nullptr) << nome;
@@ -144,6 +106,36 @@ TEST_F(Pannelli_, OpzioniRiempiteAllAvvio) {
   EXPECT_EQ(C(Op_Nodo, "Def").testo, "Salva");
 }
 
+TEST_F(Pannelli_, EtichetteDelleOpzioni) {
+  const TestoAtteso attesi[] = {
+      {"LPar", 0, "Colore disegno nodo"}, {"LPar", 1, "Colore assi sezioni"}, {"LPar", 2, "Colore sezioni"}, {"LPar", 3, "Colore quote"},
+      {"LPar", 4, "Colore linee quote"}, {"LPar", 5, "Colore testo"}, {"LPar", 6, "Colore distinta"}, {"LPar", 7, "Altezza quote"},
+      {"LPar", 8, "Larghezza quote"}, {"LPar", 9, "Altezza testi"}, {"LPar", 10, "Larghezza testi"}, {"LPar", 11, "Altezza testi distinta"},
+      {"LPar", 12, "Larghezza testi distinta"}, {"LPar", 13, "Distanza testo-quote"}, {"LPar", 14, "Diametro indicatori quote"},
+      {"LPar", 15, "Scala nodo/Scala tiraf."}, {"LPar", 16, "Colore saldature"}, {"LPar", 25, "Stile quote particolari GRB"},
+      {"LPar", 26, "Stile testi GRB"}, {"LPar", 27, "Stile quote GRB"}, {"CheckQuote", -1, "Quote"}, {"CheckDistinta", -1, "Distinta"},
+      {"Option1", 0, "Quote sup."}, {"Option1", 1, "Quote inf."}, {"Annulla", -1, "Annulla"}, {"Def", -1, "Salva"}};
+  for (const auto& a : attesi) EXPECT_EQ(C(Op_Nodo, a.nome, a.i).testo, a.testo) << a.nome << a.i;
+}
+
+// Every entry of its own value, so that each field shows its own; and each field goes back to its own entry.
+TEST_F(Pannelli_, OgniCampoHaLaSuaVoce) {
+  for (int i = 0; i < 28; ++i) suite.ParNodo[i] = 100 + i;
+  RiempiOpNodo();
+  const struct { int campo, voce; } coppie[] = {{0, 0},   {1, 1},   {2, 2},   {3, 3},   {4, 4},   {5, 5},   {6, 6},   {7, 7},   {8, 8},   {9, 9},
+                                                {10, 10}, {11, 11}, {12, 12}, {13, 13}, {14, 14}, {15, 19}, {16, 20}, {25, 25}, {26, 26}, {27, 27}};
+  for (const auto& c : coppie) EXPECT_EQ(C(Op_Nodo, "Par_Nodo", c.campo).testo, std::to_string(100 + c.voce));
+  EXPECT_EQ(suite.ParNodo[17], 113);                      // from entry 13
+  EXPECT_EQ(opNodo.Option1[1].scelta, 1);                 // entry 16 is not 0
+  EXPECT_EQ(opNodo.CheckQuote.scelta, 0);                 // entry 15 is not 1
+  for (const auto& c : coppie) Scrivi(Op_Nodo, "Par_Nodo", c.campo, std::to_string(200 + c.voce).c_str());
+  UtenteSceglie(Op_Nodo, opNodo.Option1[0], 1);
+  ApplicaOpzioni();
+  for (const auto& c : coppie) EXPECT_EQ(suite.ParNodo[c.voce], 200 + c.voce);
+  EXPECT_EQ(suite.ParNodo[17], 213);
+  for (int i = 21; i <= 24; ++i) EXPECT_EQ(suite.ParNodo[i], 100 + i);   // kept in the file, not shown
+}
+
 TEST_F(Pannelli_, QuoteInferioriCapovolgonoLaDistanza) {
   Scrivi(Op_Nodo, "Par_Nodo", 7, "20");
   Scrivi(Op_Nodo, "Par_Nodo", 13, "5");
@@ -230,218 +222,48 @@ TEST_F(Pannelli_, ProprietaDeiMateriali) {
   EXPECT_TRUE(propMateriali.FrameTir.visibile);
 }
 
+TEST_F(Pannelli_, ProprietaConTuttiIRiquadri) {
+  materiali.UsaAccPiastre = materiali.UsaViti = true;
+  suite.FattTensioni = 1;
+  suite.DecTensioni = 1;
+  nodo.MatPiastra = {};
+  nodo.MatPiastra.Nome = "S 355";
+  nodo.MatPiastra.SAmm = 2400;
+  nodo.MatPiastra.Fyk = 3550;
+  nodo.MatPiastra.Fyk40 = 3350;
+  nodo.MatPiastra.GammaM = 1.05;
+  nodo.MatPiastra.GammaMT = 1.25;
+  nodo.MatVit = {};
+  nodo.MatVit.Nome = "8.8";
+  nodo.MatVit.SAmm = 3730;
+  nodo.MatVit.TauAmm = 2640;
+  nodo.MatVit.Fy = 6490;
+  nodo.MatVit.Ft = 8000;
+  nodo.MatVit.GammaM2 = 1.25;
+  nodo.MatTir.SAmm = 1600;
+  Premi(InsDati, "PropMatButton");
+  const TestoAtteso attesi[] = {
+      {"FrameAccPia", -1, "Acciaio piastre - [NTC08 11.3.4.1] - Tipo S 355"},
+      {"fkPLabel", -1, "3550"}, {"gMPLabel", -1, "1.05"}, {"gMTPLabel", -1, "1.25"}, {"fdPLabel", -1, "3381"},      // 3380.95
+      {"fdtPLabel", -1, "2840"}, {"fd40PLabel", -1, "3190.5"}, {"fdt40PLabel", -1, "2680"},                        // 3190.48
+      {"sAmmIPLabel", -1, "2400"}, {"sAmmIIPLabel", -1, "2700"},
+      {"FrameBull", -1, "Bulloni - [NTC08 11.3.4.6.1] - Classe 8.8"},
+      {"fyVitiLabel", -1, "6490"}, {"gMVitiLabel", -1, "1.25"}, {"fydVitilabel", -1, "5192"}, {"ftVitiLabel", -1, "8000"},
+      {"ftdVitiLabel", -1, "6400"}, {"SAmmIVitiLabel", -1, "3730"}, {"SAmmIIVitiLabel", -1, "4196.2"},              // 4196.25: tie to even
+      {"TauAmmIVitiLabel", -1, "2640"}, {"TauAmmIIVitiLabel", -1, "2970"},
+      {"SAmmIITirLabel", -1, "1800"}, {"TauAmmITirLabel", -1, "923.8"}};                                            // 1600 / sqrt 3 = 923.76
+  for (const auto& a : attesi) EXPECT_EQ(C(PropMateriali, a.nome).testo, a.testo) << a.nome;
+  EXPECT_TRUE(C(PropMateriali, "FrameAcc").testo.starts_with("Acciaio profili - [NTC08 11.3.4.1] - Tipo "));
+  EXPECT_TRUE(propMateriali.FrameBull.visibile);
+  EXPECT_TRUE(propMateriali.FrameAccPia.visibile);
+  EXPECT_EQ(propMateriali.Unit.coloreSfondo, 0xFFFFC8);   // red 200, green 255, blue 255
+}
+
 TEST_F(Pannelli_, FattoreParzialeNulloNonApreIlPannello) {
   nodo.MatAcc.GammaM = 0;
   Premi(InsDati, "PropMatButton");
   EXPECT_EQ(UltimoEvento(), "[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: il comando non può continuare.");
   EXPECT_FALSE(propMateriali.aperto);
-}
-
-// ---- load import ----
-
-TEST_F(Pannelli_, ElenchiDellImportazione) {
-  EXPECT_EQ(C(Soll3D, "CdCTxt").testo, "0");
-  EXPECT_EQ(C(Soll3D, "NodiTxt").testo, "");
-  EXPECT_EQ(C(Soll3D, "Label2").testo, "Esempio di inserimento: 1,2,3-9");
-  EXPECT_EQ(C(Soll3D, "LCdC").testo, "Casi di carico ");
-  Scrivi(Soll3D, "NodiTxt", SENZA_INDICE, "1");
-  Scrivi(Soll3D, "AsteTxt", SENZA_INDICE, "2");
-  Scrivi(Soll3D, "CdCTxt", SENZA_INDICE, "3");
-  Scrivi(Soll3D, "SesTxt", SENZA_INDICE, "4");
-  Premi(Soll3D, "Annulla", 0);
-  EXPECT_EQ(soll3D.NodiTxt.testo, "");
-  EXPECT_EQ(soll3D.AsteTxt.testo, "2");
-  Premi(Soll3D, "Annulla", 1);
-  Premi(Soll3D, "ACdc");
-  Premi(Soll3D, "ASes");
-  EXPECT_EQ(soll3D.AsteTxt.testo, "");
-  EXPECT_EQ(soll3D.CdCTxt.testo, "0");
-  EXPECT_EQ(soll3D.SesTxt.testo, "0");
-}
-
-TEST_F(Pannelli_, TuttiICasiDelMetodo) {
-  ScriviByte(RisolviPercorso(suite.DirLavoro + "\\combinaz.tot"),
-             "4\r\n1\r\nn\r\na\r\nTIPOVER=TENSAMM|\r\n0\r\n0\r\n2\r\nn\r\na\r\nTIPOVER=SLU|\r\n0\r\n0\r\n"
-             "5\r\nn\r\na\r\nTIPOVER=RARA\r\n0\r\n0\r\n9\r\nn\r\na\r\nx\r\n0\r\n0\r\n");
-  SelezionaVoce(insDati.TipoVer[0], 1);
-  Premi(Soll3D, "TuttiCdc");
-  EXPECT_EQ(soll3D.CdCTxt.testo, "2");
-  SelezionaVoce(insDati.TipoVer[0], 0);
-  Premi(Soll3D, "TuttiCdc");
-  EXPECT_EQ(soll3D.CdCTxt.testo, "1,5");
-  EliminaFile(suite.DirLavoro + "\\combinaz.tot");
-  Premi(Soll3D, "TuttiCdc");
-  EXPECT_EQ(soll3D.CdCTxt.testo, "0");
-  EXPECT_EQ(UltimoEvento(), "[messaggio] esclamazione | ERRORE | Errore: file " + suite.DirLavoro + "\\combinaz.tot errato o mancante.");
-}
-
-TEST_F(Pannelli_, TutteLeCondizioni) {
-  Modello();
-  Premi(Soll3D, "TuttiCdc2");
-  EXPECT_EQ(soll3D.CdC2Txt.testo, "1,2");
-  EliminaFile(suite.DirLavoro + "\\struttur.str");
-  Premi(Soll3D, "TuttiCdc2");
-  EXPECT_EQ(soll3D.CdC2Txt.testo, "1,2");
-  EXPECT_EQ(UltimoEvento(), "[messaggio] nessuna | NODO COLONNA - PLINTO | ERRORE: STRUTTUR.STR errato o mancante");
-}
-
-TEST_F(Pannelli_, ImportaAccodaETogliIDoppi) {
-  Modello();
-  ScriviByte(RisolviPercorso(suite.DirLavoro + "\\astec007.bin"),
-             FileRisultatiDi(1, 1, 3, {{5, 100, 1, 2, 3, 4, 5}, {5, 100, 1, 2, 3, 4, 5}, {5, -7, 0, 0, 0, 0, 0}}));
-  ScriviByte(RisolviPercorso(suite.DirLavoro + "\\aste_001.bin"), FileRisultatiDi(1, 1, 1, {{5, 8, 0, 0, 0, 0, 0}}));
-  Scrivi(Soll3D, "NodiTxt", SENZA_INDICE, "10");
-  Scrivi(Soll3D, "AsteTxt", SENZA_INDICE, "5");
-  Scrivi(Soll3D, "CdCTxt", SENZA_INDICE, "7");
-  Scrivi(Soll3D, "CdC2Txt", SENZA_INDICE, "1");
-  Premi(Soll3D, "Importa");
-  EXPECT_EQ(nodo.NumSoll, 3);
-  EXPECT_EQ(nodo.SollN[1], 100);
-  EXPECT_EQ(nodo.SollN[2], -7);
-  EXPECT_EQ(nodo.SollNome[3], "Cond 1 As. 5 Nd. 10");
-  EXPECT_EQ(UltimoEvento(), "[importazione] LETTI 4, PRESI 4, DOPPI TOLTI 1");
-  EXPECT_TRUE(insDati.EsportaSollButt.abilitato);
-  EXPECT_TRUE(insDati.Lsa[2].visibile);
-  EXPECT_EQ(insDati.Lsa[0].testo, "Caso 7 As. 5 Nd. 10");
-  EXPECT_FALSE(registratore.attesa);
-}
-
-TEST_F(Pannelli_, InviluppoSenzaFileLasciaDueRigheDopoIDoppi) {
-  Modello();
-  UtenteSceglie(InsDati, insDati.CheckMaxMin, 1);
-  Scrivi(Soll3D, "NodiTxt", SENZA_INDICE, "10");
-  Scrivi(Soll3D, "AsteTxt", SENZA_INDICE, "5");
-  Premi(Soll3D, "Importa");                               // case 0: astec000.bin is not there
-  EXPECT_EQ(nodo.NumSoll, 2);
-  EXPECT_EQ(nodo.SollN[1], -1e20);
-  EXPECT_EQ(nodo.SollN[2], 1e20);
-  EXPECT_EQ(UltimoEvento(), "[importazione] LETTI 0, PRESI 0, DOPPI TOLTI 10");
-}
-
-TEST_F(Pannelli_, ImportaSiFermaAlPrimoElencoErrato) {
-  Modello();
-  Scrivi(Soll3D, "NodiTxt", SENZA_INDICE, "10");
-  Premi(Soll3D, "Importa");                               // AsteTxt is empty
-  ASSERT_EQ(registratore.eventi.size(), 1u);
-  EXPECT_EQ(UltimoEvento(), "[messaggio] esclamazione | ERRORE | Inserimento dati errato");
-  Scrivi(Soll3D, "NodiTxt", SENZA_INDICE, "10,20,30");
-  Scrivi(Soll3D, "AsteTxt", SENZA_INDICE, "1-2001");
-  Premi(Soll3D, "Importa");
-  EXPECT_EQ(UltimoEvento(), "[messaggio] esclamazione | ERRORE | Errore: numero di aste o nodi eccessivo");
-}
-
-TEST_F(Pannelli_, ChiudiRidaIlTitoloAlRiquadro) {
-  registratore.dentro.push_back([] {
-    insDati.Soll.testo = "altro";
-    Premi(Soll3D, "Chiudi");
-  });
-  Premi(InsDati, "ImpS3D");
-  EXPECT_FALSE(soll3D.aperto);
-  EXPECT_EQ(insDati.Soll.testo, "n° 0 [" + suite.UnitaForze + ", " + suite.UnitaMomenti + "]");
-}
-
-TEST_F(Pannelli_, SelezioneDelleAste) {
-  Modello();
-  Scrivi(Soll3D, "NodiTxt", SENZA_INDICE, "20,30");
-  registratore.dentro.push_back([] {
-    EXPECT_FALSE(Abilitato(Selezione, selezione.ColoriCh[3]));      // "Tutti": the frame is off
-    UtenteSceglie(Selezione, selezione.ColoriOp[1], 1);
-    EXPECT_TRUE(Abilitato(Selezione, selezione.ColoriCh[3]));
-    EXPECT_FALSE(Abilitato(Selezione, selezione.LineeCh[0]));
-    UtenteSceglie(Selezione, selezione.ColoriCh[3], 1);
-    Scatena(Selezione, selezione.NomiOp[1], Evento::Passa);
-    PassaTempo(800);
-    EXPECT_EQ(selezione.HLabSel.testo, "Cliccare per selezionare le aste con il nome compreso in un'intervallo");
-    PassaSulPannello(Selezione);
-    EXPECT_EQ(selezione.HLabSel.testo, "");
-    Premi(Selezione, "Cerca");
-  });
-  Premi(Soll3D, "Cerca", 0);
-  EXPECT_EQ(soll3D.AsteTxt.testo, "7,7");                 // only bar 7 has colour 3; it meets at both nodes
-  EXPECT_FALSE(selezione.aperto);
-}
-
-TEST_F(Pannelli_, SelezioneSenzaAsteLasciaIlCampo) {
-  Modello();
-  Scrivi(Soll3D, "NodiTxt", SENZA_INDICE, "20");
-  Scrivi(Soll3D, "AsteTxt", SENZA_INDICE, "1");
-  registratore.dentro.push_back([] {
-    UtenteSceglie(Selezione, selezione.NomiOp[1], 1);
-    Scrivi(Selezione, "NomiTxt", 0, "99999");             // clipped to 32767
-    Scrivi(Selezione, "NomiTxt", 1, "3");
-    Premi(Selezione, "Cerca");
-  });
-  Premi(Soll3D, "Cerca", 0);
-  EXPECT_EQ(soll3D.AsteTxt.testo, "1");
-  EXPECT_EQ(UltimoEvento(), "[messaggio] esclamazione | NODO COLONNA - PLINTO | Non esiste nessuna asta corrispondente alle caratteristiche "
-                            "selezionate che concorra nel nodo 20");
-}
-
-TEST_F(Pannelli_, CercaINodiDiRiferimento) {
-  registratore.programmi = true;
-  registratore.eseguito = [](const std::string&) {
-    ScriviByte(RisolviPercorso(suite.DirLavoro + "\\SondaOut.txt"), "12,15\r\n");
-    return true;
-  };
-  Premi(Soll3D, "Cerca", 1);
-  EXPECT_EQ(soll3D.NodiTxt.testo, "12,15");
-  EXPECT_EQ(LeggiByte(RisolviPercorso(suite.DirLavoro + "\\SondaIn.txt")),
-            "NODO COLONNA - PLINTO - IMPORTA SOLLECITAZIONI DA 3D - Cerca nodi\r\n\r\n1\r\n");
-}
-
-// ---- section import and nodes of the model ----
-
-TEST_F(Pannelli_, ImportaSezione) {
-  Modello();
-  piattaforma.apri(Sez3D, false);
-  EXPECT_FALSE(sez3D.geomp[0].visibile);
-  Scrivi(Sez3D, "NodoTxt", SENZA_INDICE, "20");
-  Premi(Sez3D, "Cerca");
-  ASSERT_EQ(sez3D.ComboP.voci.size(), 3u);
-  EXPECT_EQ(sez3D.ComboP.voci[0], "HEA200              Asta 5");   // the name's 18 characters, two blanks
-  EXPECT_EQ(sez3D.ComboP.voci[1], "Non app. Composta   Asta 6");
-  EXPECT_EQ(sez3D.ComboP.scelta, 0);
-  EXPECT_EQ(sez3D.geomp[0].testo, "190");
-  EXPECT_TRUE(sez3D.geomp[4].visibile);
-  EXPECT_FALSE(sez3D.telaDisPri.tratti.empty());
-  UtenteSceglie(Sez3D, sez3D.ComboP, 2);
-  UtenteSceglie(Sez3D, sez3D.ComboP, 1);
-  EXPECT_EQ(UltimoEvento(), "[messaggio] esclamazione | Attenzione | Profilo non applicabile");
-  EXPECT_EQ(sez3D.ComboP.scelta, 2);                      // back to the last valid entry
-  Premi(Sez3D, "OK");
-  EXPECT_EQ(nodo.Sezione.Nome, "HEA200            ");
-  EXPECT_EQ(insDati.TraveP.voci[static_cast<std::size_t>(insDati.TraveP.scelta)], "HEA200");
-  EXPECT_FALSE(sez3D.aperto);
-}
-
-TEST_F(Pannelli_, NodoSenzaAsteNonCambiaLaSezione) {
-  Modello();
-  const std::string prima = nodo.Sezione.Nome;
-  piattaforma.apri(Sez3D, false);
-  Scrivi(Sez3D, "NodoTxt", SENZA_INDICE, "40");
-  Premi(Sez3D, "Cerca");
-  EXPECT_TRUE(sez3D.ComboP.voci.empty());
-  Premi(Sez3D, "OK");
-  EXPECT_EQ(nodo.Sezione.Nome, prima);
-}
-
-TEST_F(Pannelli_, NodiDelModello) {
-  Modello();
-  registratore.programmi = true;
-  registratore.eseguito = [](const std::string&) {
-    ScriviByte(RisolviPercorso(suite.DirLavoro + "\\SondaOut.txt"), "0,2\r\n15\r\n1,5\r\nA\r\nB\r\n");
-    return true;
-  };
-  Premi(InsDati, "Command1");
-  EXPECT_EQ(nodo.NumNodiStr, 1);
-  EXPECT_EQ(nodo.NodiStr[1], 15);
-  EXPECT_EQ(nodo.Sezione.Nome, "HEA200            ");     // bar 5 has section 1
-  registratore.eseguito = [](const std::string&) {
-    ScriviByte(RisolviPercorso(suite.DirLavoro + "\\SondaOut.txt"), "0,1\r\n77\r\n1,0\r\nA\r\nB\r\n");
-    return true;
-  };
-  Premi(InsDati, "Command1");
-  EXPECT_EQ(nodo.NodiStr[1], 15);                         // kind 1 names no node
 }
 
 // ---- unit calculator and export ----
@@ -488,4 +310,15 @@ TEST_F(Pannelli_, EsportaSuFile) {
   registratore.file.emplace_back(suite.DirLavoro + "\\manca\\x.txt", 1);
   Premi(InsDati, "EsportaSollButt");
   EXPECT_EQ(UltimoEvento(), "[messaggio] critica | NODO COLONNA - PLINTO | Impossibile esportare le sollecitazioni in " + suite.DirLavoro + "\\manca\\x.txt");
+}
+
+// /dev/full opens and refuses what is written.
+TEST_F(Pannelli_, EsportaSuUnDiscoPieno) {
+  std::error_code errore;
+  std::filesystem::create_symlink("/dev/full", lavoro + "pieno.txt", errore);
+  if (errore || !std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no /dev/full here";
+  Premi(InsDati, "Singolo");
+  registratore.file.emplace_back(suite.DirLavoro + "\\pieno.txt", 1);
+  Premi(InsDati, "EsportaSollButt");
+  EXPECT_EQ(UltimoEvento(), "[messaggio] esclamazione | NODO COLONNA - PLINTO | Salvataggio fallito");
 }

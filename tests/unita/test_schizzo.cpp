@@ -74,6 +74,20 @@ TEST_F(Schizzo, LaMisuraCheGovernaRiempieLaTela) {
   EXPECT_DOUBLE_EQ(t.sy, 360);
 }
 
+TEST_F(Schizzo, SezionePiuLargaDellaPiastra) {
+  nodo.LatoZ = 60;                           // narrower than B = 100, lower than H = 200
+  nodo.LatoY = 150;
+  t.altezza = 3000;                          // 100 / 2000 and 200 / 3000: the height governs by the section's H
+  DisegnaNodo(t);
+  EXPECT_DOUBLE_EQ(t.sy, 120);
+  EXPECT_DOUBLE_EQ(t.sx, -80);               // r = 3/2
+  t.altezza = 5000;                          // 200 / 5000: the width by the section's B, r = 5/2
+  DisegnaNodo(t);
+  EXPECT_DOUBLE_EQ(t.sx, -60);
+  EXPECT_DOUBLE_EQ(t.sy, 150);
+  Segmento(t.tratti[16], -30, -75, -30, 75); // the plate's outline lies inside the section's
+}
+
 TEST_F(Schizzo, SezionePiastraTirafondi) {
   DisegnaNodo(t);
   ASSERT_EQ(t.tratti.size(), 24u);           // 12 lines and 4 fillets of the section, 4 of the plate, 4 anchors

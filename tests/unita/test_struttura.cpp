@@ -111,11 +111,36 @@ TEST_F(Struttura, TroppeAste) {
 TEST_F(Struttura, SezioniDelleAste) {
   Scrivi("sezioni_", "2\r\n1,\"P_HEA 200\",0\r\nr\r\nr\r\nr\r\nr\r\n2,\"Composta saldata 1\",0\r\nr\r\nr\r\nr\r\nr\r\n");
   ASSERT_EQ(AsteDelNodo(20), EsitoAste::Trovate);
-  ASSERT_TRUE(SezioniAsteNodo());
+  ASSERT_EQ(SezioniAsteNodo(), EsitoAste::Trovate);
   EXPECT_EQ(collegamento.SezioniStr[1].Nome, "HEA200            ");
   EXPECT_EQ(collegamento.SezioniStr[1].H, 190);
   EXPECT_EQ(collegamento.SezioniStr[1].R, 18);
   EXPECT_EQ(collegamento.SezioniStr[2].Nome, "Non app. Composta ");   // cut to 18 characters
+}
+
+TEST_F(Struttura, FileDelleSezioniAssenteOConUnConteggioFuoriMisura) {
+  ASSERT_EQ(AsteDelNodo(20), EsitoAste::Trovate);
+  Scrivi("sezioni_", "99999999999\r\n1,\"P_HEA200\",0\r\nr\r\nr\r\nr\r\nr\r\n");
+  EXPECT_EQ(SezioniAsteNodo(), EsitoAste::Troppe);
+  EXPECT_TRUE(registratore.eventi.empty());               // the panel's box
+  Scrivi("sezioni_", "");
+  EXPECT_EQ(SezioniAsteNodo(), EsitoAste::Trovate);       // truncated: partial data, nothing is said
+  suite.DirLavoro = CartellaProva("senza_sezioni");
+  EXPECT_EQ(SezioniAsteNodo(), EsitoAste::Fallito);
+  AttesoSolo("[messaggio] nessuna | ERRORE | Errore: file " + suite.DirLavoro + "\\sezioni_ errato o mancante.");
+}
+
+// A node's number is its first value; the fourth is its name, which only the selection looks at.
+TEST_F(Struttura, IlNumeroDelNodoEIlPrimoValore) {
+  Scrivi("Struttur.Str", "release\r\n0\r\n2\r\n1,0,0,900,a\r\n2,0,0,1,b\r\n1\r\n1,2,0,0\r\n5 1\r\n0\r\n");
+  EXPECT_EQ(AsteDelNodo(900), EsitoAste::Fallito);
+  EXPECT_EQ(AsteDelNodo(1), EsitoAste::Trovate);
+  Aste({5});
+  Nodi({900});
+  EXPECT_FALSE(NodiAste());
+  Nodi({1});
+  ASSERT_TRUE(NodiAste());
+  EXPECT_EQ(collegamento.LatoAsta[1], 1);
 }
 
 TEST_F(Struttura, LatoDelleAste) {
