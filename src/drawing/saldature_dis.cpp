@@ -6,16 +6,8 @@
 #include "core/numeri.h"
 #include "drawing/Quote.h"
 #include "drawing/edizione.h"
+#include "engine/Saldature.h"
 #include "model/suite.h"
-
-// Direction of a weld, radians. The last form is no plain quadrant rule; deliberate, marks have always been drawn so.
-static double DirezioneSald(double x1, double y1, double x2, double y2) {
-  const double dx = x2 - x1, dy = y2 - y1;
-  if (std::abs(dx) < TOLL_GEO) return y1 < y2 ? PI_PROG / 2 : -PI_PROG / 2;
-  if (std::abs(dy) < TOLL_GEO) return x1 < x2 ? 0 : PI_PROG;
-  if (dx > 0) return std::atan(dy / dx);
-  return dy / std::abs(dy) * PI_PROG / 2 + std::atan(dy / std::abs(dx));
-}
 
 void DisSaldatura(Tela* tela, double x1, double y1, double x2, double y2, int lato, int tipo, int indice) {
   const double g = nodo.Gola;
@@ -23,7 +15,7 @@ void DisSaldatura(Tela* tela, double x1, double y1, double x2, double y2, int la
   const double L = std::sqrt((x1 - x2) * (x1 - x2) + (y1 - y2) * (y1 - y2));
   std::int32_t n = 0;
   if (!InIntero(std::floor(L / g + 0.5), n)) return InterrompiDisegno();
-  const double teta = DirezioneSald(x1, y1, x2, y2), passoX = g * std::cos(teta), passoY = g * std::sin(teta);
+  const double teta = Direzione(x1, y1, x2, y2), passoX = g * std::cos(teta), passoY = g * std::sin(teta);
   const double vx = -lato * passoY, vy = lato * passoX;
   const std::int16_t colore = ColoreOpz(20);
   if (std::abs(vx) < TOLL_GEO && std::abs(vy) < TOLL_GEO) n = 0;      // strokes of no length

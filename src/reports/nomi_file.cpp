@@ -35,11 +35,13 @@ std::string TitoloFrameSoll() {
   return "n° " + std::to_string(nodo.NumSoll) + " [" + suite.UnitaForze + ", " + suite.UnitaMomenti + "]";
 }
 
-std::string TitoloNodi() {
-  std::string t = "VERIFICA TENSIONALE NODI";
+std::string ElencoNodi() {
+  std::string t;
   for (int i = 1; i <= nodo.NumNodiStr; ++i) t.append(i == 1 ? ": " : ",").append(std::to_string(nodo.NodiStr[i]));
   return t;
 }
+
+std::string TitoloNodi() { return "VERIFICA TENSIONALE NODI" + ElencoNodi(); }
 
 std::string NomeProfiloPerRelazione(std::string_view nome) {
   std::string r, parola;

@@ -11,6 +11,7 @@ std::string NomeFileRelazione(std::string_view metodo, std::string_view codice);
 // DirLavoro \ code _ node and .grb, .dis or .dxf; tipo "GRB", "DIS" or "DXF", any other gives no suffix.
 std::string NomeFileDisegno(std::string_view codice, std::string_view tipo);
 std::string TitoloFrameSoll();     // "n° 12 [kN, kN m]", over the load list
+std::string ElencoNodi();          // ": 3,7": the structure's nodes that the joint stands for; none: empty
 std::string TitoloNodi();          // "VERIFICA TENSIONALE NODI: 3,7": the structure's nodes that the joint stands for
 
 // The section's name for the allowable-stress report: the first word and one blank, further words glued behind.

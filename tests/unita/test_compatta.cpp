@@ -97,6 +97,18 @@ TEST_F(Compatta, SporgenteOFuoriLineaRestano) {
   EXPECT_EQ(disegno.NumLinee, 3);
 }
 
+// A point 0.15 mm beside the middle of 1000 mm makes the way longer by 0.000045 only: covered, also across a border of the grid
+// (four cells of 250 mm a side).
+TEST_F(Compatta, AccantoAUnaLineaLunga) {
+  Linea(0, 0, 1000, 1000, 1, 0);
+  Linea(0, 249.9, 1000, 249.9, 1, 0);
+  Linea(500, 250.05, 510, 250.05, 2, 4);
+  Linea(249.9, 0, 249.9, 1000, 1, 0);
+  Linea(250.05, 510, 250.05, 500, 2, 4);
+  CompattaDisegno();
+  EXPECT_EQ(disegno.NumLinee, 3);
+}
+
 TEST_F(Compatta, ColoreZeroNonSiToccaENegativoVia) {
   Linea(0, 0, 10, 0, 1, 0);
   Linea(2, 0, 8, 0, 0, 4);                    // colour not positive: stays

@@ -1,0 +1,86 @@
+// drawing/esecutivo.cpp - the sheet: where each view goes.
+#include "drawing/esecutivo.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "drawing/Quote.h"
+#include "drawing/disegno.h"
+#include "drawing/edizione.h"
+#include "drawing/pianta.h"
+#include "engine/Saldature.h"
+#include "model/suite.h"
+#include "reports/nomi_file.h"
+
+void Rettangolo(double lx, double ly) {
+  DisLinea(nullptr, -lx / 2, -ly / 2, -lx / 2, ly / 2);
+  DisLinea(nullptr, lx / 2, -ly / 2, lx / 2, ly / 2);
+  DisLinea(nullptr, -lx / 2, -ly / 2, lx / 2, -ly / 2);
+  DisLinea(nullptr, -lx / 2, ly / 2, lx / 2, ly / 2);
+}
+
+void LineaConFori(double x1, double y1, double x2, double y2, int n, const double* centri, const double* larghezze) {
+  const bool verticale = std::abs(x1 - x2) < TOLL_GEO;
+  if (!verticale && !(std::abs(y1 - y2) < TOLL_GEO)) return;
+  double v[2 * MaxForiVista + 3] = {};         // 1..m
+  int m = 0;
+  v[++m] = verticale ? y1 : x1;
+  v[++m] = verticale ? y2 : x2;
+  for (int i = 0; i < n; ++i) {
+    v[++m] = centri[i] - larghezze[i] / 2;
+    v[++m] = centri[i] + larghezze[i] / 2;
+  }
+  OrdinaVett(v, m);
+  for (int k = 1; k < m; ++k) {
+    const std::int16_t colore = ColoreOpz(k % 2 == 1 ? 2 : 0);
+    if (verticale) DisLinea(nullptr, x1, v[k], x1, v[k + 1], colore);
+    else DisLinea(nullptr, v[k], y1, v[k + 1], y1, colore);
+  }
+}
+
+static void Titolo(const std::string& testo, double x, double y) { edizione.testo(testo, x - 1, x + 1, y, y); }
+
+// Of the plan, with the slope of the grout, or of the column, whichever is larger.
+static double IngombroY() { return std::max(4 * nodo.TfHMalta + nodo.LatoY, nodo.Sezione.H); }
+
+static void Origine(double x, double y) {
+  disegno.OffX = x;
+  disegno.OffY = y;
+}
+
+void DisegnoEsecutivo() {
+  Esecutivo& e = esecutivo;
+  const double P7 = suite.ParNodo[7], P9 = edizione.AltTesti, P10 = edizione.LargTesti;
+  nodo.NumSaldature = 0;
+  quote.EtichetteSald = false;
+  CostruisciSaldature();
+  CalcolaSmussi();
+  e.HColDis = std::max(nodo.LatoZ, 1.5 * nodo.HNerv);
+
+  Origine(0, 0);
+  VistaBB();
+  Titolo("SEZIONE B-B", 0, 3 * P9 + disegno.YMax);
+
+  Origine(e.BoxBXMin - 0.8 * IngombroY(), 0);
+  VistaAA();
+  Titolo("SEZIONE A-A", 0, 3 * P9 + disegno.YMax);
+
+  Origine(0, e.BoxBYMin - IngombroY() / 2 - 7.5 * P9 - edizione.CaloPianta);
+  VistaCC();
+  const double yTitolo = disegno.YMax - disegno.OffY + 3 * P9;
+  Titolo("SEZIONE C-C", 0, yTitolo);
+  e.YTitoloC = yTitolo + disegno.OffY;
+
+  Origine(0, 0);
+  Titolo("ESECUTIVO NODI" + ElencoNodi(), (e.BoxBXMax + e.BoxAXMin) / 2, 6 * P9 + e.BoxBYMax);
+
+  Origine(e.BoxBXMin - 0.8 * IngombroY(), e.BoxBYMin - (nodo.TfL + nodo.TfLFt) / 2 * suite.ParNodo[19] - 7.5 * P9 - 3 * P7);
+  DettaglioTirafondo();
+  Titolo("TIRAFONDO", 0, e.YTitoloC - disegno.OffY);
+
+  if (suite.ParNodo[18] != 1) return;
+  Origine(5 * P10 + e.BoxBXMax, e.BoxBYMax);
+  disegno.ColCorr = ColoreOpz(6);
+  Distinta();
+  disegno.ColCorr = ColoreOpz(0);
+}
