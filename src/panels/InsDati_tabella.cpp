@@ -1,7 +1,8 @@
 // panels/InsDati_tabella.cpp - the main panel's event table: every control, the frame that holds it, its texts and its handlers.
-// The commands on the executive drawing have no row until the program has it: Gen_Dis, ApriVis.
+// The viewer's command has no row until the program has it: ApriVis.
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"
+#include "panels/comandi_disegno.h"
 #include "panels/righe.h"
 
 // ---- texts that differ by index ----
@@ -151,6 +152,7 @@ static constexpr RigaPannello RIGHE[] = {
   Riga("Verifica",    COMANDO, P.Verifica,    "", "Verifica",    "Verifica tensionale del nodo", InsDati_Verifica),
   Riga("Sav_Nodo",    COMANDO, P.Sav_Nodo,    "", "Salva Nodo",  "Salvataggio del nodo corrente", InsDati_Sav_Nodo),
   Riga("Car_Nodo",    COMANDO, P.Car_Nodo,    "", "Carica Nodo", "Caricamento di un nodo salvato in precedenza", InsDati_Car_Nodo),
+  Riga("Gen_Dis",     COMANDO, P.Gen_Dis,     "", "Salva Disegno", "Generazione del file disegno rappresentante l'esecutivo del nodo", InsDati_Gen_Dis),
   Riga("Opz",         COMANDO, P.Opz,         "", "",            "Opzioni di visualizzazione del disegno", InsDati_Opz),
   Riga("Command1",    COMANDO, P.Command1,    "", "Importa nodi 3D", {}, InsDati_Command1),
   Riga("LegendaButt", COMANDO, P.LegendaButt, "", "<",           {}, InsDati_LegendaButt),

@@ -155,7 +155,8 @@ TEST_F(Modello, TroncatoTieneGliStiliLetti) {
   EXPECT_NE(registratore.eventi[0].find("[messaggio] critica | NODO COLONNA - PLINTO | Errore in lettura del file "), std::string::npos);
   EXPECT_NE(registratore.eventi[0].find("cad2dmodello.grb- verranno usati i parametri disegno della versione autonoma."), std::string::npos);
   EXPECT_DOUBLE_EQ(stiliGrb.AltStile[1], 25);
-  EXPECT_EQ(stiliGrb.NumStili, 1);
+  EXPECT_EQ(stiliGrb.NumStili, 3);
+  EXPECT_EQ(stiliGrb.AltStile[2], 0);
 }
 
 TEST_F(Modello, SenzaLeSeiRigheFinali) { EXPECT_FALSE(Leggi("testa\r\n1,2,0\r\nquanti\r\n0\r\n1\r\n2\r\n3\r\n4\r\n5\r\n")); }

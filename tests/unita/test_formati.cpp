@@ -134,8 +134,8 @@ TEST_F(Dis, Figura) {
   EXPECT_NE(f.find("<line x1=\"0\" y1=\"0\" x2=\"100\" y2=\"-50\" stroke=\"#c00000\" stroke-dasharray=\"6 4\"/>"), std::string::npos);
   EXPECT_NE(f.find("<path d=\"M60 -20A10 10 0 0 0 50 -30\" stroke=\"#008000\"/>"), std::string::npos);
   EXPECT_NE(f.find("<circle cx=\"50\" cy=\"-20\" r=\"5\" stroke=\"#008000\"/>"), std::string::npos);
-  EXPECT_NE(f.find("textLength=\"50\""), std::string::npos);
-  EXPECT_NE(f.find("rotate(-90 0 0)\">a&lt;b \xD8</text>"), std::string::npos);
+  // font size 20 / 0.73 = 27.397; stretch 10 / (0.602 x 27.397) = 0.606
+  EXPECT_NE(f.find("<text transform=\"translate(0 0) rotate(-90) scale(.606 1)\" font-size=\"27.397\" fill=\"#000000\">a&lt;b \xD8</text>"), std::string::npos);
   EXPECT_TRUE(registratore.eventi.empty());
 }
 

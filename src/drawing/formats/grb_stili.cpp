@@ -26,8 +26,7 @@ static bool LeggiNumeroStili(FileLettura& f, std::int16_t& n) {
 }
 
 // A comment line, one record (width, height, a size not used, identifier), a comment line.
-static bool LeggiStile(FileLettura& f, double fattore, std::int16_t unita) {
-  const std::int16_t i = static_cast<std::int16_t>(stiliGrb.NumStili + 1);
+static bool LeggiStile(FileLettura& f, int i, double fattore, std::int16_t unita) {
   double larghezza = 0, altezza = 0, terzo = 0;
   std::int16_t id = 0;
   if (!SaltaRighe(f, 1) || !LeggiValore(f, larghezza) || !LeggiValore(f, altezza) || !LeggiValore(f, terzo) ||
@@ -36,7 +35,6 @@ static bool LeggiStile(FileLettura& f, double fattore, std::int16_t unita) {
   stiliGrb.LargStile[i] = ConvStile(larghezza, fattore, unita);
   stiliGrb.AltStile[i] = ConvStile(altezza, fattore, unita);
   stiliGrb.IdStile[i] = id;
-  stiliGrb.NumStili = i;
   return SaltaRighe(f, 1);
 }
 
@@ -46,9 +44,9 @@ static bool LeggiModello(FileLettura& f) {
   if (!SaltaRighe(f, 1) || !LeggiValore(f, fattore) || !LeggiValore(f, unita) || !LeggiValore(f, terzo) ||
       !SaltaRighe(f, 1) || !LeggiNumeroStili(f, n))
     return false;
-  stiliGrb.NumStili = 0;
+  stiliGrb.NumStili = n;
   for (int i = 1; i <= n; ++i)
-    if (!LeggiStile(f, fattore, unita)) return false;
+    if (!LeggiStile(f, i, fattore, unita)) return false;
   return SaltaRighe(f, 6);
 }
 

@@ -23,6 +23,7 @@ double AngoloArco(double px, double py, double cx, double cy);   // degrees, 0 i
 bool SalvaSvg(const std::string& nomeFile, int silenzioso);      // for looking: mm, y upward, a white page
 
 bool ScriviGrb(const std::string& nomeFile, int silenzioso);
+std::string Riga4(const std::string& a, const std::string& b, const std::string& c, const std::string& d);   // a line of four right-aligned texts
 
 // The box of a failed write.
 void ErroreScrittura(const std::string& nomeFile, int silenzioso);

@@ -11,7 +11,7 @@
 #include "model/node_model.h"
 
 constexpr double MARGINE = 20;                // mm of paper around the drawing
-constexpr double MAIUSCOLE = 0.7;             // height of a capital letter in parts of a font's size
+constexpr double MAIUSCOLE = 0.73, PASSO_FONT = 0.602;   // of a usual font of fixed width, in parts of its size: capitals' height, advance
 
 // Colours by index, dark enough for white paper.
 static const char* const COLORI_CARTA[] = {"#000000", "#000000", "#000080", "#c00000", "#008000", "#a08000", "#006000", "#800080"};
@@ -83,17 +83,17 @@ static std::string TestoSvg(const std::string& testo) {
   return Componi(Componi(Componi(s, "&", "&amp;"), "<", "&lt;"), ">", "&gt;");
 }
 
-// Each character as wide as the drawing says, whatever the font of the reader.
+// Each character as wide as the drawing says: a font of fixed width, squeezed or stretched along the line.
 static void Testi(std::string& t) {
   const Disegno& d = disegno;
   for (int i = 0; i < d.NumTesti; ++i) {
     const std::string& testo = d.TesStr[static_cast<std::size_t>(i)];
-    if (testo.empty()) continue;
-    const std::string x = N(d.CoordX[d.TesPos[i]]), y = N(-d.CoordY[d.TesPos[i]]);
-    t += "<text x=\"" + x + "\" y=\"" + y + "\" font-size=\"" + N(d.TesAlt[i] / 10.0 / MAIUSCOLE) + "\" textLength=\"" +
-         N(static_cast<double>(NumCaratteri(testo)) * d.TesLarg[i] / 10) + "\" lengthAdjust=\"spacingAndGlyphs\" fill=\"" + ColoreCarta(d.TesCol[i]) + '"';
-    if (d.TesAng[i] != 0) t += " transform=\"rotate(" + N(-d.TesAng[i]) + ' ' + x + ' ' + y + ")\"";
-    t += '>' + TestoSvg(testo) + "</text>\n";
+    const double corpo = d.TesAlt[i] / 10.0 / MAIUSCOLE;
+    if (testo.empty() || !(corpo > 0)) continue;
+    t += "<text transform=\"translate(" + N(d.CoordX[d.TesPos[i]]) + ' ' + N(-d.CoordY[d.TesPos[i]]) + ')';
+    if (d.TesAng[i] != 0) t += " rotate(" + N(-d.TesAng[i]) + ')';
+    t += " scale(" + N(d.TesLarg[i] / 10.0 / (PASSO_FONT * corpo)) + " 1)\" font-size=\"" + N(corpo) + "\" fill=\"" + ColoreCarta(d.TesCol[i]) + "\">" +
+         TestoSvg(testo) + "</text>\n";
   }
 }
 

@@ -1,0 +1,42 @@
+// drawing/formats/formati.cpp - the table of the drawing's formats.
+#include "drawing/formats/formati.h"
+
+#include "core/aritmetica.h"
+#include "core/testo.h"
+#include "drawing/disegno.h"
+#include "drawing/edizione.h"
+#include "drawing/esecutivo.h"
+#include "drawing/formats/scrittori.h"
+
+bool DisegnaFoglio() {
+  AzzeraFault();
+  AzzeraDisegno();
+  disegno.DestDis = GENDIS;
+  DisegnoEsecutivo();
+  disegno.DestDis = {};
+  if (!FaultAritmetico()) return true;
+  MostraFault();
+  return false;
+}
+
+static bool DisegnaEdizioneDis() {
+  edizione = EdizioneDis();
+  return DisegnaFoglio();
+}
+
+static bool EsportaDis(const std::string& nomeFile, int silenzioso) { return DisegnaEdizioneDis() && SalvaDis(nomeFile, silenzioso); }
+static bool EsportaDxf(const std::string& nomeFile, int silenzioso) { return DisegnaEdizioneDis() && SalvaDxf(nomeFile, 0, 0, 0, 0, silenzioso); }
+static bool EsportaSvg(const std::string& nomeFile, int silenzioso) { return DisegnaEdizioneDis() && SalvaSvg(nomeFile, silenzioso); }
+
+bool EsportaDisegno(const std::string& nomeFile, int silenzioso, std::string_view tipo) {
+  for (const Formato& f : FORMATI)
+    if (f.esporta != ComandoGrb && UgualeSenzaMaiuscole(f.tipo, tipo)) return f.esporta(nomeFile, silenzioso);
+  return false;
+}
+
+const Formato FORMATI[NumFormati] = {
+  {"GRB", "File disegno (*.grb)|*.grb", ComandoGrb},
+  {"DIS", "File disegno (*.dis)|*.dis", EsportaDis},
+  {"DXF", "AutoCAD (*.dxf)|*.dxf", EsportaDxf},
+  {"SVG", "", EsportaSvg},
+};

@@ -1,0 +1,23 @@
+// drawing/formats/formati.h - the formats of the executive drawing, and the commands that draw the sheet anew and write it.
+// nomeFile    suite path; silenzioso: 0 all boxes, 1 and above no success box, 2 no box of a failed write.
+// Returns     true: the file was written. A failure has shown its box; an arithmetic fault ends the drawing and leaves no file.
+#pragma once
+#include <string>
+#include <string_view>
+
+struct Formato {
+  const char* tipo;
+  const char* filtro;              // of the file dialog, "text|pattern"; empty: not offered there
+  bool (*esporta)(const std::string& nomeFile, int silenzioso);
+};
+constexpr int NumFormati = 4;
+extern const Formato FORMATI[NumFormati];              // the row is the filter that the user chose, less one
+
+// The sheet into the store, in the edition that edizione holds. False: a fault, with its box; the destination is reset.
+bool DisegnaFoglio();
+
+// tipo "DIS", "DXF" or "SVG", in any case; any other: nothing, false.
+bool EsportaDisegno(const std::string& nomeFile, int silenzioso, std::string_view tipo);
+
+bool ComandoGrb(const std::string& nomeFile, int silenzioso);
+bool EsportaGrb(const std::string& nomeFile, int silenzioso);
