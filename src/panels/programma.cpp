@@ -6,6 +6,7 @@
 #include "drawing/Quote.h"
 #include "drawing/disegno.h"
 #include "drawing/edizione.h"
+#include "drawing/esecutivo.h"
 #include "drawing/font.h"
 #include "drawing/formats/grb_stili.h"
 #include "drawing/formats/tipi_linea.h"
@@ -21,6 +22,7 @@
 #include "panels/PropMateriali.h"
 #include "panels/Sez3D.h"
 #include "panels/Soll3D.h"
+#include "panels/comandi_disegno.h"
 #include "panels/file_nodo.h"
 #include "panels/pannelli.h"
 #include "panels/selezione.h"
@@ -63,6 +65,8 @@ static void AzzeraDisegni() {
   font = FONT_VUOTO;
   stiliGrb = STILI_VUOTI;
   tipiLinea = {};
+  esecutivo = {};
+  esitoDisegno = {};
 }
 
 static void AzzeraPannelli() {
