@@ -1,44 +1,16 @@
 // app/batch/processi.cpp - programs by posix_spawn; every one that ended is reaped.
 #include "app/batch/processi.h"
 
-#include "core/file.h"
-#include "core/testo.h"
+#include "core/comando.h"
 
 #include <fcntl.h>
 #include <spawn.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
 
 extern char** environ;
-
-static bool Eseguibile(const std::string& percorso) {
-  struct stat s;
-  return stat(percorso.c_str(), &s) == 0 && S_ISREG(s.st_mode) && access(percorso.c_str(), X_OK) == 0;
-}
-
-// The executable file that this head of a command names, "" none.
-static std::string TrovaProgramma(std::string_view testa) {
-  if (testa.empty()) return {};
-  const std::string scritto = RisolviPercorso(testa);
-  if (Eseguibile(scritto)) return scritto;
-  const bool exe = testa.size() > 4 && UgualeSenzaMaiuscole(testa.substr(testa.size() - 4), ".exe");
-  const std::string altro = RisolviPercorso(exe ? std::string(testa.substr(0, testa.size() - 4)) : std::string(testa) + ".exe");
-  return Eseguibile(altro) ? altro : std::string();
-}
-
-bool DividiComando(std::string_view comando, std::string& programma, std::string& argomento) {
-  std::size_t fine = 0;
-  do {
-    fine = comando.find(' ', fine);
-    programma = TrovaProgramma(comando.substr(0, fine));
-    if (programma.empty() && fine != std::string_view::npos) ++fine;
-  } while (programma.empty() && fine != std::string_view::npos);
-  argomento = fine == std::string_view::npos ? std::string() : std::string(comando.substr(fine + 1));
-  return !programma.empty();
-}
 
 // Process number of the started program, 0 none.
 static pid_t Lancia(const std::string& comando) {

@@ -1,0 +1,158 @@
+// app/qt/finestre.cpp - windows from their forms; modal ones wait in an event loop of their own.
+#include "app/qt/finestre.h"
+
+#include "app/qt/ingresso.h"
+#include "app/qt/legame.h"
+#include "app/qt/pitture.h"
+#include "app/qt/quadro.h"
+#include "panels/FormTF.h"
+#include "panels/InsDati.h"
+#include "panels/Op_Nodo.h"
+#include "panels/PropMateriali.h"
+#include "panels/Sez3D.h"
+#include "panels/Soll3D.h"
+#include "panels/pannelli.h"
+#include "panels/selezione.h"
+
+#include "ui_FormTF.h"
+#include "ui_InsDati.h"
+#include "ui_Op_Nodo.h"
+#include "ui_PropMateriali.h"
+#include "ui_Sez3D.h"
+#include "ui_Soll3D.h"
+#include "ui_selezione.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QEventLoop>
+#include <QIcon>
+#include <QTimer>
+
+#include <utility>
+
+// ---- forms ----
+
+template <class Forma, class Finestra>
+static QWidget* Nuova() {
+  auto* f = new Finestra;
+  Forma forma;
+  forma.setupUi(f);
+  return f;
+}
+
+struct RigaForma {
+  const Pannello* pannello;
+  QWidget* (*nuova)();
+};
+static constexpr RigaForma FORME[] = {
+  { &InsDati,       Nuova<Ui::InsDati, QWidget> },
+  { &FormTF,        Nuova<Ui::FormTF, QDialog> },
+  { &Op_Nodo,       Nuova<Ui::Op_Nodo, QDialog> },
+  { &PropMateriali, Nuova<Ui::PropMateriali, QDialog> },
+  { &Sez3D,         Nuova<Ui::Sez3D, QDialog> },
+  { &Soll3D,        Nuova<Ui::Soll3D, QDialog> },
+  { &Selezione,     Nuova<Ui::selezione, QDialog> },
+};
+
+QWidget* NuovaFinestra(const Pannello& p) {
+  for (const RigaForma& r : FORME)
+    if (r.pannello == &p) return r.nuova();
+  return nullptr;
+}
+
+QStringList CreaFinestre() {
+  QStringList differenze;
+  for (const Pannello* p : Pannelli()) {
+    QWidget* w = NuovaFinestra(*p);
+    if (w == nullptr) {
+      differenze += QString::fromLatin1(p->nome) + ": manca la finestra";
+      continue;
+    }
+    differenze += DifferenzeForma(*p, *w);
+    finestre.elenco.push_back({p, w, nullptr});
+  }
+  if (!differenze.isEmpty()) return differenze;
+  for (const FinestraPannello& f : finestre.elenco) {
+    LegaPannello(*f.pannello, *f.finestra);
+    PreparaPitture(*f.finestra);
+    if (f.pannello != &InsDati) f.finestra->setParent(finestre.elenco.front().finestra, f.finestra->windowFlags());
+  }
+  SpiaIngresso();
+  return differenze;
+}
+
+void DistruggiFinestre() {
+  SciogliLegami();
+  if (!finestre.elenco.empty()) delete finestre.elenco.front().finestra;    // the others are its children
+  finestre.elenco.clear();
+}
+
+FinestraPannello* FinestraDi(const Pannello& p) {
+  for (FinestraPannello& f : finestre.elenco)
+    if (f.pannello == &p) return &f;
+  return nullptr;
+}
+
+void AggiornaTitoli() {
+  for (const FinestraPannello& f : finestre.elenco)
+    if (f.pannello->titolo != nullptr) f.finestra->setWindowTitle(Testo(*f.pannello->titolo));
+}
+
+QWidget* FinestraDavanti() {
+  if (QWidget* w = QApplication::activeModalWidget()) return w;
+  const FinestraPannello* f = FinestraDi(InsDati);
+  return f != nullptr && f->finestra->isVisible() ? f->finestra : nullptr;
+}
+
+// ---- showing and hiding ----
+
+// Inside a modal panel the user works on: its events run although the command that opened it has not ended.
+static void AspettaChiusura(FinestraPannello& f) {
+  QEventLoop ciclo;
+  f.ciclo = &ciclo;
+  const int comandi = std::exchange(finestre.comandi, 0);
+  if (finestre.dentroModale != nullptr)
+    QTimer::singleShot(0, f.finestra, [p = f.pannello] { finestre.dentroModale(*p); });
+  ciclo.exec();
+  finestre.comandi = comandi;
+  f.ciclo = nullptr;
+}
+
+void ApriPannello(const Pannello& p, bool modale) {
+  FinestraPannello* f = FinestraDi(p);
+  if (f == nullptr || finestre.finita) return;
+  QWidget& w = *f->finestra;
+  PannelloMostrato(p, modale);
+  DipingiPannello(p);
+  AggiornaTitoli();
+  w.setWindowModality(modale ? Qt::ApplicationModal : Qt::NonModal);
+  w.show();
+  w.raise();
+  w.activateWindow();
+  if (!modale) return;
+  QApplication::setOverrideCursor(Qt::ArrowCursor);
+  AspettaChiusura(*f);
+  QApplication::restoreOverrideCursor();
+}
+
+void ChiudiPannello(const Pannello& p) {
+  PannelloNascosto(p);
+  FinestraPannello* f = FinestraDi(p);
+  if (f == nullptr) return;
+  f->finestra->hide();
+  if (f->ciclo != nullptr) f->ciclo->quit();
+}
+
+void ChiudiConLaCroce(const Pannello& p) {
+  if (!Raggiungibile(p) && p.modale) return;
+  for (const char* nome : {"Annulla", "Chiudi"}) {
+    const RigaPannello* r = TrovaRiga(p, nome);
+    if (r == nullptr || r->indicizzato || r->genere != Genere::Comando) continue;
+    ++finestre.comandi;
+    Scatena(p, *r->controllo, Evento::Cambio);
+    --finestre.comandi;
+    AggiornaTitoli();
+    return;
+  }
+  ChiudiPannello(p);
+}

@@ -1,0 +1,37 @@
+// app/qt/main.cpp - the desktop program. All arguments, joined by one blank, are the command line of the start.
+// Exit      0 the user closed it, 2 the start ended in a message or the windows do not fit the panels.
+#include "app/qt/finestre.h"
+#include "app/qt/lingua.h"
+#include "app/qt/piattaforma_qt.h"
+#include "app/qt/pitture.h"
+#include "model/suite.h"
+#include "panels/InsDati.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+static std::string RigaComando() {
+  const QStringList argomenti = QCoreApplication::arguments().mid(1);
+  return Utf8(argomenti.join(' '));
+}
+
+int main(int argc, char** argv) {
+  QApplication programma(argc, argv);
+  QApplication::setApplicationName("qb07");
+  QGuiApplication::setDesktopFileName("qb07");
+  PreparaLingua();
+  QApplication::setWindowIcon(IconaProgramma());
+  MontaPiattaformaQt();
+  const QStringList differenze = CreaFinestre();
+  if (!differenze.isEmpty()) {
+    for (const QString& d : differenze) std::fprintf(stderr, "%s\n", d.toUtf8().constData());
+    return 2;
+  }
+  suite.Decimale = DecimaleDelDesktop();
+  const bool avviato = CaricaInsDati(RigaComando());
+  int stato = avviato ? 0 : 2;
+  if (avviato && !finestre.finita) stato = QApplication::exec();
+  DistruggiFinestre();
+  return stato;
+}

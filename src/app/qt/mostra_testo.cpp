@@ -1,0 +1,143 @@
+// app/qt/mostra_testo.cpp - text and help files.
+#include "app/qt/mostra_testo.h"
+
+#include "app/qt/finestre.h"
+#include "app/qt/pitture.h"
+#include "core/file.h"
+#include "core/piattaforma.h"
+#include "core/testo.h"
+
+#include <QAction>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QScreen>
+#include <QShortcut>
+#include <QStandardPaths>
+#include <QToolBar>
+#include <QUrl>
+
+#ifdef QB07_STAMPA
+#include <QPrintDialog>
+#include <QPrinter>
+#endif
+
+// ---- the platform's own programs ----
+
+// Unix desktops hand every file to one opener, which says nothing when it knows no program: the kind is asked for first.
+static bool ApriConIlDesktop(const QString& file, const char* genere) {
+#ifdef Q_OS_UNIX
+#ifndef Q_OS_MACOS
+  const QString apri = QStandardPaths::findExecutable("xdg-open"), chiedi = QStandardPaths::findExecutable("xdg-mime");
+  if (apri.isEmpty() || chiedi.isEmpty()) return false;
+  QProcess domanda;
+  domanda.start(chiedi, {"query", "default", genere});
+  if (!domanda.waitForFinished(3000) || domanda.readAllStandardOutput().trimmed().isEmpty()) return false;
+  return QProcess::startDetached(apri, {file});
+#endif
+#endif
+  static_cast<void>(genere);
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(file));
+}
+
+// ---- the window of our own ----
+
+static QString TestoDelFile(const QString& file) {
+  FileLettura f;
+  QString testo;
+  std::string riga;
+  if (!ApriLettura(f, Utf8(file))) return testo;
+  while (!FineFile(f) && LeggiRiga(f, riga)) testo += Testo(riga) + '\n';
+  return testo;
+}
+
+static void Cerca(QPlainTextEdit& testo, QLineEdit& che, bool indietro) {
+  if (che.text().isEmpty()) return;
+  const QTextDocument::FindFlags come = indietro ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+  bool trovato = testo.find(che.text(), come);
+  if (!trovato) {                                       // once more from the other end
+    QTextCursor c = testo.textCursor();
+    c.movePosition(indietro ? QTextCursor::End : QTextCursor::Start);
+    testo.setTextCursor(c);
+    trovato = testo.find(che.text(), come);
+  }
+  QPalette colori;
+  if (!trovato) colori.setColor(QPalette::Text, QColor(200, 40, 40));
+  che.setPalette(colori);
+}
+
+static void Stampa(QPlainTextEdit& testo) {
+#ifdef QB07_STAMPA
+  QPrinter stampante(QPrinter::HighResolution);
+  QPrintDialog dialogo(&stampante, &testo);
+  dialogo.setWindowTitle("Stampa");
+  if (dialogo.exec() == QDialog::Accepted) testo.print(&stampante);
+#else
+  static_cast<void>(testo);
+#endif
+}
+
+QWidget* FinestraTesto(const QString& file) {
+  auto* f = new QMainWindow;
+  f->setAttribute(Qt::WA_DeleteOnClose);
+  f->setObjectName("FinestraTesto");
+  f->setWindowTitle(QFileInfo(file).fileName());
+  f->setWindowIcon(IconaProgramma());
+  auto* testo = new QPlainTextEdit(f);
+  testo->setReadOnly(true);
+  testo->setLineWrapMode(QPlainTextEdit::NoWrap);
+  QFont carattere = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  carattere.setStyleHint(QFont::Monospace);
+  testo->setFont(carattere);
+  testo->setPlainText(TestoDelFile(file));
+  f->setCentralWidget(testo);
+
+  QToolBar* barra = f->addToolBar("Comandi");
+  barra->setMovable(false);
+  barra->setContextMenuPolicy(Qt::PreventContextMenu);
+  barra->addWidget(new QLabel(" Cerca: "));
+  auto* che = new QLineEdit;
+  che->setMaximumWidth(260);
+  che->setClearButtonEnabled(true);
+  barra->addWidget(che);
+  const auto comando = [f, barra](const char* nome, const QKeySequence& tasto, auto fai) {
+    QAction* a = barra->addAction(nome);
+    a->setShortcut(tasto);
+    a->setToolTip(QString("%1 (%2)").arg(nome, tasto.toString(QKeySequence::NativeText)));
+    QObject::connect(a, &QAction::triggered, f, fai);
+  };
+  comando("Precedente", QKeySequence("Shift+F3"), [testo, che] { Cerca(*testo, *che, true); });
+  comando("Successivo", QKeySequence("F3"), [testo, che] { Cerca(*testo, *che, false); });
+  barra->addSeparator();
+#ifdef QB07_STAMPA
+  comando("Stampa...", QKeySequence::Print, [testo] { Stampa(*testo); });
+#else
+  static_cast<void>(Stampa);
+#endif
+  comando("Chiudi", QKeySequence("Esc"), [f] { f->close(); });
+  QObject::connect(che, &QLineEdit::returnPressed, f, [testo, che] { Cerca(*testo, *che, false); });
+  QObject::connect(new QShortcut(QKeySequence::Find, f), &QShortcut::activated, che, [che] {
+    che->setFocus();
+    che->selectAll();
+  });
+  const QSize schermo = f->screen()->availableSize();
+  f->resize(std::min(1000, schermo.width() - 40), std::min(700, schermo.height() - 60));
+  testo->setFocus();
+  return f;
+}
+
+void MostraFileTesto(const std::string& percorso) {
+  const QString file = Testo(RisolviPercorso(percorso));
+  if (!ApriConIlDesktop(file, "text/plain")) FinestraTesto(file)->show();
+}
+
+void MostraFileAiuto(const std::string& percorso) {
+  const QString file = Testo(RisolviPercorso(percorso));
+  if (QFileInfo::exists(file) && ApriConIlDesktop(file, "application/pdf")) return;
+  Messaggio(QFileInfo::exists(file) ? "La guida è nel file " + Utf8(file) : "Manca il file della guida: " + Utf8(file), "", Icona::Informazione);
+}

@@ -1,0 +1,227 @@
+// app/qt/piattaforma_qt.cpp - the operations of the platform with windows.
+#include "app/qt/piattaforma_qt.h"
+
+#include "app/qt/finestre.h"
+#include "app/qt/legame.h"
+#include "app/qt/mostra_testo.h"
+#include "app/qt/quadro.h"
+#include "app/qt/sagome.h"
+#include "core/eventi.h"
+#include "core/file.h"
+#include "panels/InsDati.h"
+#include "panels/Soll3D.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+#include <cfenv>
+#include <utility>
+
+namespace {
+
+struct RiparoFault {
+  std::fexcept_t prima{};
+  RiparoFault() { std::fegetexceptflag(&prima, FE_ALL_EXCEPT); }
+  ~RiparoFault() { std::fesetexceptflag(&prima, FE_ALL_EXCEPT); }
+  RiparoFault(const RiparoFault&) = delete;
+  RiparoFault& operator=(const RiparoFault&) = delete;
+};
+
+// ---- boxes ----
+
+// The wait pointer would stay over the box.
+struct FrecciaNelRiquadro {
+  FrecciaNelRiquadro() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
+  ~FrecciaNelRiquadro() { QApplication::restoreOverrideCursor(); }
+  FrecciaNelRiquadro(const FrecciaNelRiquadro&) = delete;
+  FrecciaNelRiquadro& operator=(const FrecciaNelRiquadro&) = delete;
+};
+
+QMessageBox::Icon IconaRiquadro(Icona i) {
+  switch (i) {
+    case Icona::Critica: return QMessageBox::Critical;
+    case Icona::Esclamazione: return QMessageBox::Warning;
+    case Icona::Informazione: return QMessageBox::Information;
+    case Icona::Nessuna: break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+bool Riquadro(const std::string& testo, const std::string& titolo, Icona icona, bool conAnnulla) {
+  if (finestre.finita) return false;
+  const FrecciaNelRiquadro freccia;
+  QMessageBox box(FinestraDavanti());
+  box.setIcon(IconaRiquadro(icona));
+  box.setWindowTitle(Testo(titolo));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(Testo(testo).replace("\r\n", "\n").replace('\r', '\n'));
+  QPushButton* ok = box.addButton("OK", QMessageBox::AcceptRole);
+  box.setDefaultButton(ok);
+  QPushButton* annulla = conAnnulla ? box.addButton("Annulla", QMessageBox::RejectRole) : nullptr;
+  box.setEscapeButton(annulla != nullptr ? annulla : ok);
+  box.exec();
+  return box.clickedButton() == ok;
+}
+
+void QtMessaggio(const std::string& testo, const std::string& titolo, Icona icona) {
+  const RiparoFault riparo;
+  Riquadro(testo, titolo, icona, false);
+}
+
+bool QtDomanda(const std::string& testo, const std::string& titolo, Icona icona) {
+  const RiparoFault riparo;
+  return Riquadro(testo, titolo, icona, true);
+}
+
+// ---- file dialogs ----
+
+bool HaCartella(const std::string& nome) { return nome.find_first_of("\\/") != std::string::npos; }
+
+void PreparaNome(QFileDialog& d, const RichiestaFile& r) {
+  if (!r.cartella.empty()) d.setDirectory(Testo(RisolviPercorso(r.cartella)));
+  else if (!finestre.ultimaCartella.isEmpty()) d.setDirectory(finestre.ultimaCartella);
+  if (r.nomeIniziale.empty()) return;
+  if (!HaCartella(r.nomeIniziale)) {
+    d.selectFile(Testo(r.nomeIniziale));
+    return;
+  }
+  const QFileInfo file(Testo(RisolviPercorso(r.nomeIniziale)));
+  d.setDirectory(file.absolutePath());
+  d.selectFile(file.fileName());
+}
+
+bool QtScegliFile(const RichiestaFile& r, std::string& percorso, int& filtro) {
+  const RiparoFault riparo;
+  if (finestre.finita) return false;
+  const FrecciaNelRiquadro freccia;
+  QFileDialog d(FinestraDavanti(), Testo(r.titolo));
+  d.setAcceptMode(r.salva ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  d.setFileMode(r.salva ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  d.setNameFilters(FiltriDialogo(r.filtro));
+  d.setDefaultSuffix(Testo(r.estensione));
+  PreparaNome(d, r);
+  if (d.exec() != QDialog::Accepted || d.selectedFiles().isEmpty()) return false;
+  percorso = ConEstensione(r, Utf8(QDir::toNativeSeparators(d.selectedFiles().first())));
+  filtro = std::max(1, static_cast<int>(d.nameFilters().indexOf(d.selectedNameFilter())) + 1);
+  finestre.ultimaCartella = d.directory().absolutePath();
+  return true;
+}
+
+// ---- timers, pointer, focus ----
+
+void QtTimer(Temporizzatore quale, int ms, void (*scaduto)()) {
+  const RiparoFault riparo;
+  static constexpr const char* NOMI[] = {"Timer1", "TimerSel"};
+  const char* nome = NOMI[static_cast<int>(quale)];
+  auto* t = qApp->findChild<QTimer*>(nome);
+  if (t == nullptr) {
+    t = new QTimer(qApp);
+    t->setObjectName(nome);
+    t->setSingleShot(true);
+  }
+  t->disconnect();
+  if (ms <= 0 || scaduto == nullptr) {
+    t->stop();
+    return;
+  }
+  // A timer that comes due while a command runs waits for its end.
+  QObject::connect(t, &QTimer::timeout, t, [t, scaduto] {
+    if (finestre.comandi > 0 || finestre.occupato) t->start(50);
+    else if (!finestre.finita) scaduto();
+  });
+  t->start(ms);
+}
+
+void QtAttesa(bool si) {
+  const RiparoFault riparo;
+  const QCursor* ora = QApplication::overrideCursor();
+  const bool acceso = ora != nullptr && ora->shape() == Qt::WaitCursor;
+  if (si && !acceso) QApplication::setOverrideCursor(Qt::WaitCursor);
+  if (!si && acceso) QApplication::restoreOverrideCursor();
+}
+
+void QtFuoco(Controllo& c) {
+  const RiparoFault riparo;
+  if (const Legame* l = LegameDi(c)) l->oggetto->setFocus(Qt::OtherFocusReason);
+}
+
+void QtAggiorna(Controllo& c) {
+  const RiparoFault riparo;
+  if (&c == &insDati.Nodo)
+    if (const Legame* l = LegameDi(c)) static_cast<Quadro*>(l->oggetto)->Campiture(CampitureNodo());
+  Dipingi(c);
+}
+
+void QtApri(const Pannello& p, bool modale) {
+  const RiparoFault riparo;
+  ApriPannello(p, modale);
+}
+
+void QtChiudi(const Pannello& p) {
+  const RiparoFault riparo;
+  ChiudiPannello(p);
+}
+
+// The counts of an import stand on the panel that was used for it.
+void QtDiario(const std::string& riga) {
+  const RiparoFault riparo;
+  if (const FinestraPannello* f = FinestraDi(Soll3D))
+    if (auto* esito = f->finestra->findChild<QLabel*>("_esito")) esito->setText(Testo(riga));
+}
+
+// The event loops of the modal panels end too; whoever called returns at once.
+void QtFine() {
+  finestre.finita = true;
+  QCoreApplication::exit(0);
+}
+
+bool QtAttivaFinestra(const std::string& titolo) {
+  const RiparoFault riparo;
+  return AttivaFinestraEsterna(titolo);
+}
+
+void QtTasti(const std::string& finestra, const std::string& tasti) {
+  const RiparoFault riparo;
+  TastiAFinestraEsterna(finestra, tasti);
+}
+
+}  // namespace
+
+QStringList FiltriDialogo(const std::string& filtro) {
+  QStringList filtri;
+  const QStringList pezzi = Testo(filtro).split('|');
+  for (qsizetype k = 0; k + 1 < pezzi.size(); k += 2) {
+    const QString nome = pezzi[k].section('(', 0, 0).trimmed();
+    filtri += QString("%1 (%2)").arg(nome, pezzi[k + 1].trimmed().replace(';', ' '));
+  }
+  return filtri;
+}
+
+char DecimaleDelDesktop() { return QLocale::system().decimalPoint() == "," ? ',' : '.'; }
+
+void MontaPiattaformaQt() {
+  piattaforma.messaggio = QtMessaggio;
+  piattaforma.domanda = QtDomanda;
+  piattaforma.scegliFile = QtScegliFile;
+  piattaforma.esegui = [](const std::string& c) { const RiparoFault riparo; return EseguiProgrammaQt(c); };
+  piattaforma.avvia = [](const std::string& c) { const RiparoFault riparo; return AvviaProgrammaQt(c); };
+  piattaforma.attivaFinestra = QtAttivaFinestra;
+  piattaforma.tasti = QtTasti;
+  piattaforma.mostraTesto = [](const std::string& p) { const RiparoFault riparo; MostraFileTesto(p); };
+  piattaforma.mostraAiuto = [](const std::string& p) { const RiparoFault riparo; MostraFileAiuto(p); };
+  piattaforma.timer = QtTimer;
+  piattaforma.apri = QtApri;
+  piattaforma.chiudi = QtChiudi;
+  piattaforma.aggiorna = QtAggiorna;
+  piattaforma.fuoco = QtFuoco;
+  piattaforma.attesa = QtAttesa;
+  piattaforma.diario = QtDiario;
+  piattaforma.fine = QtFine;
+}
