@@ -30,8 +30,9 @@ static Profilo IntegraProfilo(double Pa, double Pb, double ua, double ub, double
 AzioniPiastra AzioniSuPiastra(double pa, double pb, double qa, double qb) {
   const double a = presInfl.PianoDef[1], b = -presInfl.PianoDef[2], c = presInfl.PianoDef[3];
   if (std::fabs(a) <= PIANO_COSTANTE) {
-    if (std::fabs(b) > PIANO_COSTANTE) {     // no change along q: one profile along p
-      const Profilo f = IntegraProfilo(PressioneInPunto(pa, qa), PressioneInPunto(pb, qa), pa, pb, -c / b);
+    if (std::fabs(b) > PIANO_COSTANTE) {     // no change along q: one profile along p, value b p + c
+      const double E = nodo.EcCls / 100;
+      const Profilo f = IntegraProfilo((b * pa + c) * E, (b * pb + c) * E, pa, pb, -c / b);
       return { f.R * std::fabs(qb - qa), 0, f.M * std::fabs(qb - qa) };
     }
     return { c >= 0 ? 0 : c * nodo.EcCls / 100 * (pb - pa) * (qb - qa), 0, 0 };
