@@ -1,9 +1,9 @@
 // panels/InsDati_tabella.cpp - the main panel's event table: every control, the frame that holds it, its texts and its handlers.
-// The viewer's command has no row until the program has it: ApriVis.
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"
 #include "panels/comandi_disegno.h"
 #include "panels/righe.h"
+#include "panels/visualizzatore.h"
 
 // ---- texts that differ by index ----
 
@@ -153,6 +153,7 @@ static constexpr RigaPannello RIGHE[] = {
   Riga("Sav_Nodo",    COMANDO, P.Sav_Nodo,    "", "Salva Nodo",  "Salvataggio del nodo corrente", InsDati_Sav_Nodo),
   Riga("Car_Nodo",    COMANDO, P.Car_Nodo,    "", "Carica Nodo", "Caricamento di un nodo salvato in precedenza", InsDati_Car_Nodo),
   Riga("Gen_Dis",     COMANDO, P.Gen_Dis,     "", "Salva Disegno", "Generazione del file disegno rappresentante l'esecutivo del nodo", InsDati_Gen_Dis),
+  Riga("ApriVis",     COMANDO, P.ApriVis,     "", "Visualizza Disegno", "Apertura del visualizzatore ed aggiornamento del file disegno", InsDati_ApriVis),
   Riga("Opz",         COMANDO, P.Opz,         "", "",            "Opzioni di visualizzazione del disegno", InsDati_Opz),
   Riga("Command1",    COMANDO, P.Command1,    "", "Importa nodi 3D", {}, InsDati_Command1),
   Riga("LegendaButt", COMANDO, P.LegendaButt, "", "<",           {}, InsDati_LegendaButt),

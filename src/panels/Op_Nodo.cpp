@@ -1,12 +1,14 @@
-// panels/Op_Nodo.cpp - the drawing options on their panel. Applica and Chiudi have no row until the executive drawing is there.
+// panels/Op_Nodo.cpp - the drawing options on their panel.
 #include "panels/Op_Nodo.h"
 
 #include "core/aritmetica.h"
 #include "core/numeri.h"
 #include "core/opzioni.h"
 #include "core/piattaforma.h"
+#include "drawing/formats/formati.h"
 #include "model/suite.h"
 #include "panels/righe.h"
+#include "panels/visualizzatore.h"
 
 namespace {
 
@@ -32,6 +34,17 @@ void MostraScelte() {
 }
 
 void Op_Nodo_Annulla(int) { piattaforma.chiudi(Op_Nodo); }
+
+void Op_Nodo_Applica(int) {
+  ApplicaOpzioni();
+  InsDati_ApriVis(0);
+}
+
+void Op_Nodo_Chiudi(int) {
+  piattaforma.chiudi(Op_Nodo);
+  ApplicaOpzioni();
+  EsportaDisegno(suite.DirProgra + "\\nodo.dis", 1, "DIS");
+}
 
 // A failed write is as fatal as a missing file at the start.
 void Op_Nodo_Def(int) {
@@ -60,6 +73,8 @@ constexpr RigaPannello RIGHE[] = {
   Riga("CheckQuote",    Genere::Spunta, P.CheckQuote,    "", "Quote"),
   Riga("CheckDistinta", Genere::Spunta, P.CheckDistinta, "", "Distinta"),
   Riga("Annulla",   COMANDO, P.Annulla, "", "Annulla", {}, Op_Nodo_Annulla),
+  Riga("Applica",   COMANDO, P.Applica, "", "Applica", {}, Op_Nodo_Applica),
+  Riga("Chiudi",    COMANDO, P.Chiudi,  "", "Chiudi",  {}, Op_Nodo_Chiudi),
   Riga("Def",       COMANDO, P.Def,     "", "Salva",   {}, Op_Nodo_Def),
 };
 

@@ -322,3 +322,49 @@ TEST_F(Pannelli_, EsportaSuUnDiscoPieno) {
   Premi(InsDati, "EsportaSollButt");
   EXPECT_EQ(UltimoEvento(), "[messaggio] esclamazione | NODO COLONNA - PLINTO | Salvataggio fallito");
 }
+
+// ---- viewer, options and the drawing ----
+
+TEST_F(Pannelli_, PrimoClicAvviaIlVisualizzatoreEScriveIlDisegno) {
+  registratore.programmi = true;
+  Premi(InsDati, "ApriVis");
+  ASSERT_EQ(registratore.eventi.size(), 1u);
+  EXPECT_EQ(UltimoEvento(), "[avvia] " + suite.DirProgra + "\\lumvet.exe");
+  EXPECT_EQ(LeggiByte(RisolviPercorso(suite.DirProgra + "\\lumvet.inp")), " 2 \r\n" + suite.DirProgra + "\\nodo.dis\r\n 0 \r\n 0 \r\n 8000 \r\n 8000 \r\n");
+  EXPECT_TRUE(EsisteFile(suite.DirLavoro + "\\qb7tmp.grb"));
+  EXPECT_FALSE(EsisteFile(suite.DirProgra + "\\nodo.dis"));
+  EXPECT_FALSE(registratore.attesa);
+}
+
+TEST_F(Pannelli_, SecondoClicLoFaRicaricare) {
+  const std::string finestra = "VISUALIZZAZIONE FILE DISEGNO - " + suite.DirProgra + "\\nodo.dis";
+  registratore.finestre.push_back(finestra);
+  Premi(InsDati, "ApriVis");
+  ASSERT_EQ(registratore.eventi.size(), 1u);
+  EXPECT_EQ(UltimoEvento(), "[tasti] " + finestra + " | ^v");
+  EXPECT_FALSE(EsisteFile(suite.DirProgra + "\\lumvet.inp"));
+  EXPECT_TRUE(EsisteFile(suite.DirLavoro + "\\qb7tmp.grb"));
+}
+
+TEST_F(Pannelli_, VisualizzatoreAssenteNonScriveIlDisegno) {
+  Premi(InsDati, "ApriVis");
+  EXPECT_EQ(UltimoEvento(), "[messaggio] esclamazione | ERRORE | Visualizzatore incompleto o mancante");
+  EXPECT_FALSE(EsisteFile(suite.DirLavoro + "\\qb7tmp.grb"));
+  EXPECT_FALSE(registratore.attesa);
+}
+
+TEST_F(Pannelli_, ApplicaEChiudiDelleOpzioni) {
+  registratore.programmi = true;
+  Premi(InsDati, "Opz");
+  Scrivi(Op_Nodo, "Par_Nodo", 0, "6");
+  Premi(Op_Nodo, "Applica");
+  EXPECT_EQ(suite.ParNodo[0], 6);
+  EXPECT_TRUE(opNodo.aperto);
+  EXPECT_EQ(UltimoEvento(), "[avvia] " + suite.DirProgra + "\\lumvet.exe");
+  Scrivi(Op_Nodo, "Par_Nodo", 0, "5");
+  Premi(Op_Nodo, "Chiudi");
+  EXPECT_FALSE(opNodo.aperto);
+  EXPECT_EQ(suite.ParNodo[0], 5);
+  EXPECT_EQ(LeggiByte(RisolviPercorso(suite.DirProgra + "\\nodo.dis")).substr(0, 20), "                   4");
+  EXPECT_EQ(UltimoEvento(), "[avvia] " + suite.DirProgra + "\\lumvet.exe");   // written without a box
+}
