@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <cmath>
 #include <cstring>
 #include <fstream>
 #include <utility>
@@ -19,7 +18,7 @@ namespace {
 constexpr std::int64_t RECORD = 56;          // bytes
 constexpr int RIGHE_INVILUPPO = 12;
 constexpr double ESTREMO = 1E20;             // what a row of the envelope holds until a sextet beats it
-constexpr double MASSIMO = 1E300;            // a value beyond it cannot be rounded, and is no load
+constexpr int ESPONENTE_MASSIMO = 1000;      // a value of 2^1000 or more cannot be rounded, and is no load
 
 struct Sestetto {
   double N = 0, Ty = 0, Tz = 0, Mt = 0, My = 0, Mz = 0;
@@ -91,11 +90,15 @@ void PostiDelleAste(FileRisultati& f) {
   }
 }
 
+// Told from the exponent's bits, which infinities and not-a-numbers share: to compare one of these would be an arithmetic fault.
+bool Arrotondabile(const char* b) { return static_cast<int>(DaByte<std::uint64_t>(b) >> 52 & 0x7FF) - 1023 < ESPONENTE_MASSIMO; }
+
 bool Decifra(const char* b, std::int16_t lato, Sestetto& s) {
   double v[6];
   for (int k = 0; k < 6; ++k) {
-    v[k] = DaByte<double>(b + 8 + 8 * k);
-    if (!(std::fabs(v[k]) <= MASSIMO)) return false;      // nor not-a-number
+    const char* byte = b + 8 + 8 * k;
+    if (!Arrotondabile(byte)) return false;
+    v[k] = DaByte<double>(byte);
   }
   s = {Arrotonda1(v[0]), Arrotonda1(v[1]), Arrotonda1(v[2]), ArrotondaPari(v[3], 0), ArrotondaPari(v[4], 0), ArrotondaPari(v[5], 0)};
   if (lato == 2) s.Ty = -s.Ty;

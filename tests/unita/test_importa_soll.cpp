@@ -253,7 +253,10 @@ TEST_F(Importa, ValoreNonFinitoSiSalta) {
 
 TEST_F(Importa, ValoreCheNonSiArrotondaSiSaltaSenzaFault) {
   const double largo = std::numeric_limits<double>::max();       // ten times it overflows
-  Scrivi("astec007.bin", FileRisultatiDi(1, 1, 3, {{5, 1, largo, 0, 0, 0, 0}, {5, 2, 0, 0, 0, -largo, 0}, {5, 3, 0, 0, 1e300, 0, 0}}));
+  std::string b = FileRisultatiDi(1, 1, 4, {{5, 1, largo, 0, 0, 0, 0}, {5, 2, 0, 0, 0, -largo, 0}, {5, 3, 0, 0, 1e300, 0, 0}, {5, 4, 0, 0, 0, 0, 0}});
+  const std::uint64_t segnale = 0x7FF0000000000001;              // a not-a-number whose comparison is a fault
+  std::memcpy(&b[4 * 56 + 8], &segnale, 8);
+  Scrivi("astec007.bin", b);
   AzzeraFault();
   ImportaSollecitazioni(false);
   ASSERT_EQ(nodo.NumSoll, 1);
