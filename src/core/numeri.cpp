@@ -7,6 +7,7 @@
 #include <cstring>
 #include <limits>
 
+#include "core/aritmetica.h"
 #include "model/suite.h"
 
 namespace {
@@ -141,7 +142,9 @@ std::string Testo(double v, char mark, bool zeroIniziale) {
 }  // namespace
 
 int ScriviNumero(double v, char* a, char mark, bool zeroIniziale) {
-  if (v == 0) {
+  const bool finito = std::isfinite(v);
+  if (!finito) SegnalaFault();
+  if (v == 0 || !finito) {
     a[0] = '0';
     return 1;
   }
@@ -189,7 +192,7 @@ bool ValLocale(std::string_view testo, char mark, double& v) {
     if (c == mark) punto += '.';
     else if (c != '.' && c != ',') punto += c;
   }
-  return Val(punto, v);
+  return !TestaNumerica(punto).empty() && Val(punto, v);
 }
 
 bool InIntero(double v, std::int16_t& n) { return InInteroDi(v, n); }

@@ -4,7 +4,7 @@
 //   NumeroPiano      the same without the blanks (fields, labels, drawing texts, arguments)
 //   NumeroRelazione  the user's decimal mark (suite.Decimale), with the zero before it (reports)
 // Digits: correctly rounded to 15 significant ones, trailing zeros dropped; an exponent (1E+20, 1E-05) below 1E-4 and
-// from 1E15 on; negative zero is 0. The argument is finite.
+// from 1E15 on; negative zero is 0. An argument that is not finite is an arithmetic fault and is written 0.
 #pragma once
 #include <cstdint>
 #include <string>
@@ -19,6 +19,7 @@ int ScriviNumero(double v, char* a, char mark, bool zeroIniziale);   // into a[3
 // "nan" and "inf" have no head. False, v untouched: the number overflows a double.
 bool Val(std::string_view testo, double& v);
 // The same with the locale's mark as decimal mark and the other one of point and comma dropped (material catalogue only).
+// False also: no head.
 bool ValLocale(std::string_view testo, char mark, double& v);
 
 // Ties to even into an integer; false, n untouched: out of range.

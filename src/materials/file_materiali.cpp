@@ -18,9 +18,7 @@ namespace {
 
 // A number of the catalogue. A word without a number, or one that overflows, is a failed step: v stays, nothing is told.
 void NumeroCatalogo(std::string_view parola, double& v) {
-  const std::size_t p = parola.find_first_not_of("+-.,");
-  const bool numero = p != std::string_view::npos && parola[p] >= '0' && parola[p] <= '9';
-  if (!numero || !ValLocale(parola, suite.Decimale, v)) passi.fallito = true;
+  if (!ValLocale(parola, suite.Decimale, v)) passi.fallito = true;
 }
 
 template <class Record>

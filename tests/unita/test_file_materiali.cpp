@@ -134,7 +134,7 @@ TEST_F(FileMateriali, OltreCinquantaVoci) {
 }
 
 TEST_F(FileMateriali, NumeriSbagliatiRestanoComErano) {
-  Catalogo("VITI\r\n1\r\n8.8\r\n1 2 3 4 5 6\r\nVITI\r\n1\r\n8.9\r\nabc 1e400 - . nan 60\r\nCALCESTRUZZI\r\n1\r\nC\r\n300\r\n");
+  Catalogo("VITI\r\n1\r\n8.8\r\n1 2 3 4 5 6\r\nVITI\r\n1\r\n8.9\r\nabc 1e400 --5 . nan 60\r\nCALCESTRUZZI\r\n1\r\nC\r\n300\r\n");
   const MatViti& v = materiali.VitiBase[1];
   EXPECT_EQ(v.Nome, "8.9");
   EXPECT_EQ(v.SAmm, 1);

@@ -135,6 +135,13 @@ TEST(Numeri, ValoreSecondoLaLocalita) {
   EXPECT_EQ(v, 1.05);
 }
 
+TEST(Numeri, SenzaNumeroIlValoreLocaleResta) {
+  double v = 7;
+  for (const char* t : {"", "abc", "-", ".", "--5", "+-5", "..5", "nan"}) EXPECT_FALSE(ValLocale(t, '.', v)) << t;
+  EXPECT_FALSE(ValLocale("1e400", '.', v));
+  EXPECT_EQ(v, 7);
+}
+
 TEST(Numeri, InteriConParitaAlPariEIntervallo) {
   std::int16_t n = 5;
   EXPECT_TRUE(InIntero(2.5, n));
@@ -169,6 +176,16 @@ TEST(Numeri, Arrotondamenti) {
   EXPECT_EQ(MaxDi(1, 2), 2);
   EXPECT_EQ(MinDi(1, 2), 1);
   EXPECT_EQ(MinDi(2, 1), 1);
+}
+
+TEST(Numeri, UnNumeroNonFinitoEUnFault) {
+  for (const double v : {HUGE_VAL, -HUGE_VAL, std::nan("")}) {
+    AzzeraFault();
+    EXPECT_EQ(NumeroPiano(v), "0");
+    EXPECT_TRUE(FaultAritmetico());
+    EXPECT_EQ(NumeroFile(v), " 0 ");
+  }
+  AzzeraFault();
 }
 
 TEST(Numeri, ScrivereELeggereNonAlzaFault) {
