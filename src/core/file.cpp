@@ -87,6 +87,14 @@ bool LeggiIntero(FileLettura& f, Intero& v) {
   return true;
 }
 
+// A file that nobody may write: a rename would replace it all the same.
+bool SolaLettura(const std::string& sistema) {
+  std::error_code e;
+  const fs::file_status stato = fs::status(sistema, e);
+  constexpr fs::perms SCRIVE = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  return !e && fs::exists(stato) && (stato.permissions() & SCRIVE) == fs::perms::none;
+}
+
 bool ScriviByteFile(std::FILE* file, const std::string& byte) {
   const bool scritto = std::fwrite(byte.data(), 1, byte.size(), file) == byte.size();
   const bool svuotato = std::fflush(file) == 0;
@@ -205,6 +213,7 @@ bool SostituisciFile(std::string_view percorso, std::string_view testo) {
     if (e) return false;
     sistema = vero.string();
   }
+  if (SolaLettura(sistema)) return false;
   const std::string accanto = sistema + ".~nuovo";
   std::FILE* file = std::fopen(accanto.c_str(), "wb");
   if (file == nullptr) return false;

@@ -39,5 +39,5 @@ struct FileScrittura {
 bool ApriScrittura(FileScrittura& f, std::string_view percorso);
 inline void ScriviRiga(FileScrittura& f, std::string_view t) { f.testo.append(t).append("\r\n"); }
 bool ChiudiScrittura(FileScrittura& f);                     // false: a write, flush or close failed; safe when not open
-// Writes aside and renames: a failure at any step leaves the former file whole. testo is UTF-8 with CR LF in place.
+// Writes aside and renames: a failure at any step leaves the former file whole; a read-only file is a failure. testo is UTF-8 with CR LF in place.
 bool SostituisciFile(std::string_view percorso, std::string_view testo);

@@ -141,6 +141,16 @@ TEST_F(File, SostituireLasciaInteroIlFileDiPrimaSeFallisce) {
   EXPECT_FALSE(SostituisciFile(radice + "\\d", "x"));
 }
 
+TEST_F(File, UnFileDiSolaLetturaNonSiSostituisce) {
+  ScriviByte(radice + "/d/nodo.qb7", "prima");
+  fs::permissions(radice + "/d/nodo.qb7", fs::perms::owner_read | fs::perms::group_read);
+  EXPECT_FALSE(SostituisciFile(radice + "\\d\\nodo.qb7", "dopo"));
+  EXPECT_EQ(LeggiByte(radice + "/d/nodo.qb7"), "prima");
+  EXPECT_FALSE(fs::exists(radice + "/d/nodo.qb7.~nuovo"));
+  fs::permissions(radice + "/d/nodo.qb7", fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_TRUE(SostituisciFile(radice + "\\d\\nodo.qb7", "dopo"));
+}
+
 TEST_F(File, NomeDelNodo) {
   EXPECT_EQ(NomeSenzaEstensione("c:\\lavori\\a.b\\nodo.1.qb7"), "nodo");
   EXPECT_EQ(NomeSenzaEstensione("/x/y/nodo"), "nodo");
