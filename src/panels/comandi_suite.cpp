@@ -76,6 +76,7 @@ void InsDati_EsportaSollButt(int) {
   std::string nome;
   int filtro = 1;
   if (!piattaforma.scegliFile(r, nome, filtro)) return;
+  insDati.CartellaDialogo.clear();
   switch (EsportaSollecitazioni(nome, ElencoDelNodo())) {
     case EsitoEsporta::Scritto: break;
     case EsitoEsporta::NonAperto: Messaggio("Impossibile esportare le sollecitazioni in " + nome, TitoloProg, Icona::Critica); break;

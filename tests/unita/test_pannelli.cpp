@@ -304,8 +304,10 @@ TEST_F(Pannelli_, EsportaSuFile) {
   Premi(InsDati, "Singolo");
   Premi(InsDati, "EsportaSollButt");                      // no queued file: Annulla
   EXPECT_EQ(UltimoEvento(), "[file] salva |  | File di testo (*.txt)|*.txt|Tutti i file (*.*)|*.* | " + suite.DirLavoro + "\\Soll_Qb07.txt -> Annulla");
+  EXPECT_EQ(insDati.CartellaDialogo, suite.DirLavoro);
   registratore.file.emplace_back(suite.DirLavoro + "\\elenco", 1);
   Premi(InsDati, "EsportaSollButt");
+  EXPECT_EQ(insDati.CartellaDialogo, "");                 // the next dialog opens where this one ended
   EXPECT_NE(LeggiByte(RisolviPercorso(suite.DirLavoro + "\\elenco.txt")).find("1\tSoll 1\t0\t0\t0\t0\t0\t0\t\r\n"), std::string::npos);
   registratore.file.emplace_back(suite.DirLavoro + "\\manca\\x.txt", 1);
   Premi(InsDati, "EsportaSollButt");
