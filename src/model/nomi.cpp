@@ -152,3 +152,4 @@ static constexpr RigaNome NOMI[] = {
   VOCE(materiali, MemoriaMateriali, PRIMA_1, CAMPI_ACCIAIO),
 };
 std::span<const RigaNome> NomiModello() { return NOMI; }
+std::span<const RigaNome> CampiSezione() { return CAMPI_SEZIONE; }

@@ -21,6 +21,9 @@ const Pannello* TrovaPannello(std::string_view nome) {
   return nullptr;
 }
 
+static constexpr RigaNome NOMI[] = {VOCE(insDati, StatoTxt)};
+std::span<const RigaNome> NomiPannelli() { return NOMI; }
+
 bool Raggiungibile(const Pannello& p) {
   if (p.aperto == nullptr || !*p.aperto) return false;
   return pannelli.modali.empty() || pannelli.modali.back() == &p;

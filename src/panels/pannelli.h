@@ -2,6 +2,7 @@
 // PannelloMostrato before painting, its chiudi PannelloNascosto.
 // State     pannelli: the modal panels on screen, innermost last.
 #pragma once
+#include "model/nomi.h"
 #include "panels/controlli.h"
 
 #include <span>
@@ -14,6 +15,7 @@ struct StatoPannelli {
 inline StatoPannelli pannelli;
 
 std::span<const Pannello* const> Pannelli();
+std::span<const RigaNome> NomiPannelli();                // what the panels keep by a name of the model: StatoTxt
 const Pannello* TrovaPannello(std::string_view nome);    // nullptr: none of that name
 bool Raggiungibile(const Pannello& p);                   // on screen, and no modal panel in front of it
 void PannelloMostrato(const Pannello& p, bool modale);

@@ -1,16 +1,25 @@
 // test_nomi - every variable and result table by its name: spelling, indices, forms, and refusals that read nothing.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <string>
+#include <vector>
 
+#include "drawing/disegno.h"
+#include "drawing/nomi_disegno.h"
 #include "engine/Calcoli.h"
 #include "engine/PresInfl.h"
 #include "engine/nomi_motore.h"
+#include "link/collegamento.h"
+#include "link/nomi_collegamento.h"
 #include "model/materiali.h"
 #include "model/node_model.h"
 #include "model/nomi.h"
 #include "model/suite.h"
+#include "panels/InsDati.h"
+#include "panels/pannelli.h"
 
 static const Risultati RIS_VUOTI;
 static const Suite SUITE_VUOTA;
@@ -230,6 +239,35 @@ TEST_F(Nomi, ScalariDellaVerifica) {
   EXPECT_EQ(valore("K(2,3)"), "5");
   EXPECT_EQ(valore("AreaTf"), "245");
   EXPECT_EQ(valore("SommaR2"), "0");
-  for (const RigaNome& r : NomiMotore())
-    for (const RigaNome& q : NomiModello()) EXPECT_STRNE(r.nome, q.nome);
+}
+
+// The rooms beside the model: import, drawing store, panels; no name stands twice, or one would hide the other.
+TEST_F(Nomi, AltreStanze) {
+  const std::span<const RigaNome> altri[] = {NomiMotore(), NomiCollegamento(), NomiDisegno(), NomiPannelli()};
+  const auto valore = [&altri](const char* nome) {
+    std::string v;
+    return ValoreModello(nome, v, altri) ? v : "rifiuto";
+  };
+  collegamento.SezioneImp.Nome = "IPE200";
+  collegamento.SezioniStr[2].H = 120;
+  collegamento.AsteNodo[1] = -12;
+  disegno.NumLinee = 3;
+  disegno.CoordY[0] = 2.5;
+  insDati.StatoTxt = "Opzioni";
+  EXPECT_EQ(valore("SezioneImp.Nome"), "IPE200");
+  EXPECT_EQ(valore("SezioniStr(2).H"), "120");
+  EXPECT_EQ(valore("AsteNodo(1)"), "-12");
+  EXPECT_EQ(valore("AsteNodo(0)"), "rifiuto");
+  EXPECT_EQ(valore("AsteNodo(2001)"), "rifiuto");
+  EXPECT_EQ(valore("NumLinee"), "3");
+  EXPECT_EQ(valore("CoordY(0)"), "2.5");
+  EXPECT_EQ(valore("CoordY(50001)"), "rifiuto");
+  EXPECT_EQ(valore("StatoTxt"), "Opzioni");
+  std::vector<std::string> nomi;
+  for (const RigaNome& r : NomiModello()) nomi.emplace_back(r.nome);
+  for (const std::span<const RigaNome> righe : altri)
+    for (const RigaNome& r : righe) nomi.emplace_back(r.nome);
+  std::sort(nomi.begin(), nomi.end());
+  const auto doppio = std::adjacent_find(nomi.begin(), nomi.end());
+  EXPECT_EQ(doppio, nomi.end()) << *doppio;
 }

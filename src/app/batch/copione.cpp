@@ -5,7 +5,9 @@
 #include "core/eventi.h"
 #include "core/testo.h"
 #include "drawing/tela.h"
+#include "drawing/nomi_disegno.h"
 #include "engine/nomi_motore.h"
+#include "link/nomi_collegamento.h"
 #include "model/nomi.h"
 #include "panels/InsDati.h"
 #include "panels/pannelli.h"
@@ -237,7 +239,7 @@ static bool Voci(std::string_view resto) {
 static bool Modello(std::string_view resto) {
   const std::string nome(Rifila(resto));
   std::string valore;
-  const std::span<const RigaNome> altri[] = { NomiMotore() };
+  const std::span<const RigaNome> altri[] = { NomiMotore(), NomiCollegamento(), NomiDisegno(), NomiPannelli() };
   if (nome.empty() || !ValoreModello(nome, valore, altri)) return false;
   Stampa(nome + " = " + SuUnaRiga(valore));
   return true;
