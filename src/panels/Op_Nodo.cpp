@@ -7,6 +7,7 @@
 #include "core/piattaforma.h"
 #include "drawing/formats/formati.h"
 #include "model/suite.h"
+#include "panels/InsDati_eventi.h"
 #include "panels/righe.h"
 #include "panels/visualizzatore.h"
 
@@ -49,8 +50,8 @@ void Op_Nodo_Chiudi(int) {
 // A failed write is as fatal as a missing file at the start.
 void Op_Nodo_Def(int) {
   ApplicaOpzioni();
-  if (ScriviOpzioni()) return;
-  Messaggio("Errore: file " + suite.DirCustom + "\\OpzioniNodi1-5.txt errato o mancante.", "ERRORE", Icona::Nessuna);
+  if (FaultAritmetico() || ScriviOpzioni()) return;
+  Messaggio("Errore: file " + suite.DirCustom + FILE_OPZIONI + " errato o mancante.", "ERRORE", Icona::Nessuna);
   piattaforma.fine();
 }
 
@@ -83,7 +84,6 @@ constexpr RigaPannello RIGHE[] = {
 const Pannello Op_Nodo = {"Op_Nodo", RIGHE, false, &opNodo.titolo, nullptr, nullptr, nullptr, &opNodo.aperto, &opNodo.caricato};
 
 void RiempiOpNodo() {
-  suite.ParNodo[DISTANZA_SEGNO] = suite.ParNodo[DISTANZA_TESTO];   // so a signed distance shows signed after a restart; deliberate
   for (const CampoOpzione& c : CAMPI) ImpostaTesto(opNodo.Par_Nodo[c.campo], NumeroPiano(suite.ParNodo[c.voce]));
   MostraScelte();
 }
@@ -95,7 +95,7 @@ void ApplicaOpzioni() {
   if (!Val(opNodo.Par_Nodo[CAMPO_DISTANZA].testo, par[DISTANZA_SEGNO])) passi.fallito = true;
   const bool inf = VoceScelta(opNodo.Option1[0]) == 1;
   par[QUOTE_INF] = inf ? 1 : 0;
-  if (inf) par[DISTANZA_TESTO] = -par[DISTANZA_TESTO] - par[ALTEZZA_QUOTE];
+  if (inf) AssegnaFinito(par[DISTANZA_TESTO], -par[DISTANZA_TESTO] - par[ALTEZZA_QUOTE]);
   par[QUOTE] = opNodo.CheckQuote.scelta == 1 ? 1 : 0;
   par[DISTINTA] = opNodo.CheckDistinta.scelta == 1 ? 1 : 0;
 }

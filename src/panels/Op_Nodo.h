@@ -14,6 +14,6 @@ struct StatoOpNodo {
 inline StatoOpNodo opNodo;
 extern const Pannello Op_Nodo;
 
-void RiempiOpNodo();               // after the options file was read: every field, and entry 17 from entry 13
+void RiempiOpNodo();               // after the options file was read: every field and choice
 void ApplicaOpzioni();             // fields into suite.ParNodo
 void InsDati_Opz(int);             // shows the panel with the options' values
