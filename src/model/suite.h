@@ -6,6 +6,7 @@
 
 constexpr const char* TitoloProg = "NODO COLONNA - PLINTO";
 constexpr int MaxProfili = 2000;   // library entries 1..2000
+constexpr int ProfiloBase = 32;    // library entry of a new joint
 constexpr int MaxDiam = 99;        // last row of the diameter table, rows from 0
 constexpr int NumParNodo = 28;     // drawing options 0..27
 

@@ -35,6 +35,13 @@ bool AssegnaFinito(double& variabile, double v) {
   return true;
 }
 
+void ImpostaNumero(Controllo& c, double v) {
+  if (std::isfinite(v))
+    ImpostaTesto(c, NumeroPiano(v));
+  else
+    passi.fallito = true;
+}
+
 // ---- section and plate ----
 
 void AggiornaGeomp() {

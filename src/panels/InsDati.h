@@ -51,6 +51,7 @@ bool CaricaInsDati(const std::string& rigaComando);
 void AzzeraNodo();                                    // the reset of a node, through the fields
 
 // Fields and model.
+void ImpostaNumero(Controllo& c, double v);           // a field's text from a number; one that is not finite is a failed step
 void ScriviTitolo();                                  // caption from nodo.NomeNodo
 void PosizioniTirafondi();                            // NTir, TfZ, TfY from DTf 1..4, the sides and the pattern
 void AggiornaTFLab();                                 // the anchor's read-only labels

@@ -6,7 +6,6 @@
 #include "core/aritmetica.h"
 #include "core/avvio.h"
 #include "core/diametri.h"
-#include "core/numeri.h"
 #include "core/opzioni.h"
 #include "core/piattaforma.h"
 #include "core/testo.h"
@@ -24,7 +23,6 @@
 #include "panels/Op_Nodo.h"
 #include "panels/programma.h"
 
-constexpr int SezionePredefinita = 32;     // library entry of a new joint
 constexpr int DiametroPredefinito = 7;     // row of the diameter table, from 1: M20
 constexpr double RAGGIO_TIPO = 30;         // anchor marks of the typology pictures, picture units
 
@@ -60,8 +58,6 @@ void PreparaInsDati() {
 }
 
 // ---- reset of a joint ----
-
-static void ImpostaNumero(Controllo& c, double v) { ImpostaTesto(c, NumeroPiano(v)); }
 
 static void AzzeraPiastra() {
   SelezionaVoce(insDati.GeoP[0], 1);
@@ -113,7 +109,7 @@ static void AzzeraMateriali() {
 void AzzeraNodo() {
   ImpostaScelta(insDati.SSTab, 0);
   // A library with fewer entries selects nothing: the section stays as it is.
-  if (suite.NumProfili >= SezionePredefinita) ImpostaScelta(insDati.TraveP, SezionePredefinita - 1);
+  if (suite.NumProfili >= ProfiloBase) ImpostaScelta(insDati.TraveP, ProfiloBase - 1);
   AzzeraPiastra();
   AzzeraNervature();
   AzzeraTirafondi();

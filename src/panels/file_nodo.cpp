@@ -4,21 +4,17 @@
 #include "panels/file_nodo.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstring>
 
 #include "core/aritmetica.h"
 #include "core/file.h"
 #include "core/layout_nodo.h"
-#include "core/numeri.h"
 #include "core/piattaforma.h"
 #include "core/testo.h"
 #include "model/materiali.h"
 #include "model/suite.h"
 #include "panels/FormTF.h"
 #include "panels/InsDati.h"
-
-constexpr int PROFILO_BASE = 32;   // library entry of a new node
 
 // The name and the caption change before anything is read or written, also when that fails then.
 static bool ScegliFileNodo(bool salva, std::string& percorso) {
@@ -101,11 +97,6 @@ static void EseguiPasso(PassoNodo passo) {
 }
 
 // --- the panel in line with the model -------------------------------------------------------------------------------------
-
-static void ImpostaNumero(Controllo& c, double v) {
-  if (std::isfinite(v)) ImpostaTesto(c, NumeroPiano(v));
-  else passi.fallito = true;
-}
 
 static void MostraPiastra() {                        // sides first, margins behind them: each change stores its value
   ImpostaNumero(insDati.LatoTxt[0], nodo.LatoZ);
@@ -208,5 +199,5 @@ void InsDati_Sav_Nodo(int) { Esegui(SalvaNodo, "Errore: salvataggio fallito"); }
 
 void InsDati_Car_Nodo(int) {
   Esegui(CaricaNodo, "Errore: caricamento fallito");
-  if (esitoFile.fallito) nodo.Sezione.Nome = suite.ProfiliLib[PROFILO_BASE].Nome;
+  if (esitoFile.fallito) nodo.Sezione.Nome = suite.ProfiliLib[ProfiloBase].Nome;
 }

@@ -172,6 +172,41 @@ TEST(AvvioPannello, BoxesComeInTheOrderOfTheStart) {
   EXPECT_EQ(registratore.eventi[4], "[fine]");
 }
 
+// Everything is missing at first; each file put back lets the start come one step further.
+TEST(AvvioPannello, TheFirstFailureInTheOrderOfTheStartEndsIt) {
+  const std::string radice = PreparaSuite("avvio_tutto"), altrove = PreparaSuite("avvio_intera");
+  const struct { const char* file; const char* box; } passi_[] = {
+      {"/impostazioni/dirlav", "dirlav errato o mancante"},
+      {"/impostazioni/lavoro", "lavoro errato o mancante"},
+      {"/lavori/NODI01/parametrilavoro", "Errore aritmetico: il comando non può continuare."},
+      {"/progra/font.001", "Errore: file font.001 errato o mancante."},
+      {"/custom/prof_pro", "Profilario errato o mancante"},
+      {"/custom/MaterialiNTC08.tx1", "non trovato o non valido"},
+      {"/custom/OpzioniNodi1-5.txt", "OpzioniNodi1-5.txt errato o mancante."},
+  };
+  const std::string dirlav = LeggiByte(radice + "/impostazioni/dirlav");
+  for (const auto& p : passi_) Togli(radice + p.file);
+  for (const auto& p : passi_) {
+    EXPECT_FALSE(Avvia(radice));
+    ASSERT_EQ(registratore.eventi.size(), 2u) << p.file;
+    EXPECT_TRUE(Finisce(registratore.eventi[0], p.box)) << registratore.eventi[0];
+    ScriviByte(radice + p.file, std::string(p.file).ends_with("dirlav") ? dirlav : LeggiByte(altrove + p.file));
+  }
+  EXPECT_TRUE(Avvia(radice));
+}
+
+// The parameters are read before the caption is written, the caption before the font is read.
+TEST(AvvioPannello, TheCaptionFollowsTheUnits) {
+  const std::string radice = PreparaSuite("avvio_titolo");
+  Togli(radice + "/progra/font.001");
+  EXPECT_FALSE(Avvia(radice));
+  EXPECT_EQ(insDati.titolo, "NODO COLONNA - PLINTO - Lavoro: Nuovo");
+  EXPECT_EQ(insDati.CartellaDialogo, suite.DirLavoro);
+  Togli(CartellaLavoro(radice) + "parametrilavoro");
+  EXPECT_FALSE(Avvia(radice));
+  EXPECT_EQ(insDati.titolo, "");
+}
+
 TEST(AvvioPannello, NoDiameterFileIsNoFailure) {
   const std::string radice = PreparaSuite("avvio_diametri");
   Togli(radice + "/custom/QbDiam.txt");

@@ -121,6 +121,30 @@ TEST_F(LayoutNodo, SenzaNervatureSenzaCarichiSenzaMotivo) {
   EXPECT_EQ(ComponiNodo(), Unisci(r));
 }
 
+// Rows 1 to 200 are written and read; row 0 is neither.
+TEST_F(LayoutNodo, DuecentoCarichiERigaZeroLibera) {
+  Modello();
+  nodo.NumSoll = MaxSoll;
+  for (int n = 1; n <= MaxSoll; ++n) {
+    nodo.SollN[n] = n;
+    nodo.SollNome[n] = "Soll " + std::to_string(n);
+  }
+  nodo.SollN[0] = 777777;
+  nodo.SollNome[0] = "riga zero";
+  nodo.TfZ[0] = 777777;
+  nodo.NodiStr[0] = 7777;
+  const std::string t = ComponiNodo();
+  EXPECT_EQ(t.find("7777"), std::string::npos);
+  EXPECT_EQ(t.find("riga zero"), std::string::npos);
+  EXPECT_NE(t.find("\r\n 200 \r\n 1 \r\n"), std::string::npos);      // the count, then group 1
+  EXPECT_NE(t.find("\r\nSoll 200\r\n 3 \r\n"), std::string::npos);   // group 200, then the structure's count
+  Leggi(t);
+  EXPECT_EQ(nodo.SollN[200], 200);
+  EXPECT_EQ(nodo.SollN[0], 777777);
+  EXPECT_EQ(nodo.SollNome[0], "riga zero");
+  EXPECT_EQ(nodo.NodiStr[0], 7777);
+}
+
 TEST_F(LayoutNodo, ConteggiImpossibiliSiFermanoAiLimiti) {
   Modello();
   nodo.NTir = 30000;
