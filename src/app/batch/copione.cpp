@@ -64,8 +64,8 @@ static bool Trova(std::string_view nome, Bersaglio& b) {
 
 // The control at the line's head, if a user could reach it now.
 static bool Usabile(std::string_view& resto, Bersaglio& b) {
-  return Trova(Parola(resto), b) && !b.intera && Raggiungibile(*b.pannello) && Visibile(*b.pannello, *b.controllo) &&
-         Abilitato(*b.pannello, *b.controllo);
+  return Trova(Parola(resto), b) && !b.intera && Raggiungibile(*b.pannello) && azioniUtente.visibile(*b.pannello, *b.controllo) &&
+         azioniUtente.abilitato(*b.pannello, *b.controllo);
 }
 
 static bool UsabileSolo(std::string_view resto, Bersaglio& b) { return Usabile(resto, b) && Rifila(resto).empty(); }
@@ -77,12 +77,12 @@ constexpr std::string_view COMANDO_SPUNTA = "CheckMatBase";
 
 static bool Scrivi(std::string_view resto) {
   Bersaglio b;
-  return Usabile(resto, b) && UtenteScrive(*b.pannello, *b.controllo, std::string(resto));
+  return Usabile(resto, b) && azioniUtente.scrivi(*b.pannello, *b.controllo, std::string(resto));
 }
 
 static bool Invio(std::string_view resto) {
   Bersaglio b;
-  return UsabileSolo(resto, b) && Scatena(*b.pannello, *b.controllo, Evento::Invio);
+  return UsabileSolo(resto, b) && azioniUtente.scatena(*b.pannello, *b.controllo, Evento::Invio);
 }
 
 // Position of the entry of that text: blanks at the ends do not count; as written first, then without regard to case. -1 none.
@@ -99,13 +99,13 @@ static bool Scegli(std::string_view resto) {
   Bersaglio b;
   if (!Usabile(resto, b)) return false;
   const std::string_view quale = Rifila(resto);
-  if (b.riga->genere == Genere::Scelta) return quale.empty() && UtenteSceglie(*b.pannello, *b.controllo, 1);
+  if (b.riga->genere == Genere::Scelta) return quale.empty() && azioniUtente.sceglie(*b.pannello, *b.controllo, 1);
   if (b.riga->genere != Genere::Lista && b.riga->genere != Genere::Schede) return false;
   int posizione = -1;
   if (quale.size() >= 2 && quale.front() == '"' && quale.back() == '"')
     posizione = PosizioneVoce(*b.controllo, quale.substr(1, quale.size() - 2));
   else if (!Intero(quale, posizione)) return false;
-  return UtenteSceglie(*b.pannello, *b.controllo, posizione);
+  return azioniUtente.sceglie(*b.pannello, *b.controllo, posizione);
 }
 
 static bool Spunta(std::string_view resto) {
@@ -113,8 +113,8 @@ static bool Spunta(std::string_view resto) {
   int valore = -1;
   if (!Usabile(resto, b) || !Intero(Rifila(resto), valore) || valore < 0 || valore > 1) return false;
   if (b.riga->genere == Genere::Comando && b.riga->nome == COMANDO_SPUNTA && valore == 1)
-    return Scatena(*b.pannello, *b.controllo, Evento::Cambio);
-  return b.riga->genere == Genere::Spunta && UtenteSceglie(*b.pannello, *b.controllo, valore);
+    return azioniUtente.scatena(*b.pannello, *b.controllo, Evento::Cambio);
+  return b.riga->genere == Genere::Spunta && azioniUtente.sceglie(*b.pannello, *b.controllo, valore);
 }
 
 static bool Premi(std::string_view resto) {
@@ -122,30 +122,30 @@ static bool Premi(std::string_view resto) {
   if (!UsabileSolo(resto, b)) return false;
   const Genere g = b.riga->genere;
   const bool premibile = g == Genere::Comando || g == Genere::Immagine || g == Genere::Etichetta;
-  return premibile && Scatena(*b.pannello, *b.controllo, Evento::Cambio);
+  return premibile && azioniUtente.scatena(*b.pannello, *b.controllo, Evento::Cambio);
 }
 
 static bool DoppioClic(std::string_view resto) {
   Bersaglio b;
-  return UsabileSolo(resto, b) && Scatena(*b.pannello, *b.controllo, Evento::Doppio);
+  return UsabileSolo(resto, b) && azioniUtente.scatena(*b.pannello, *b.controllo, Evento::Doppio);
 }
 
 static bool Scorri(std::string_view resto) {
   Bersaglio b;
   int valore = 0;
   if (!Usabile(resto, b) || b.riga->genere != Genere::Barra || !Intero(Rifila(resto), valore)) return false;
-  return UtenteSceglie(*b.pannello, *b.controllo, valore);
+  return azioniUtente.sceglie(*b.pannello, *b.controllo, valore);
 }
 
 static bool Passa(std::string_view resto) {
   const std::string_view nome = Rifila(resto);
   if (const Pannello* p = TrovaPannello(nome)) {
     if (!Raggiungibile(*p)) return false;
-    PassaSulPannello(*p);
+    azioniUtente.passaSulPannello(*p);
     return true;
   }
   Bersaglio b;
-  return UsabileSolo(nome, b) && Scatena(*b.pannello, *b.controllo, Evento::Passa);
+  return UsabileSolo(nome, b) && azioniUtente.scatena(*b.pannello, *b.controllo, Evento::Passa);
 }
 
 static bool Attendi(std::string_view resto) {
@@ -218,12 +218,17 @@ std::string ValoreControllo(const Controllo& c, bool intera) {
   return SuUnaRiga(c.testo);
 }
 
+AzioniUtente AzioniSuiRecord() {
+  return {UtenteScrive, UtenteSceglie, Scatena, PassaSulPannello, Visibile, Abilitato, ValoreControllo,
+          [](const Controllo& c) { return c.voci; }};
+}
+
 static bool Mostra(std::string_view resto) {
   Bersaglio b;
   if (!Trova(Rifila(resto), b)) return false;
-  std::string riga = b.nome + " = " + ValoreControllo(*b.controllo, b.intera);
-  if (!Visibile(*b.pannello, *b.controllo)) riga += " [nascosto]";
-  if (!Abilitato(*b.pannello, *b.controllo)) riga += " [disabilitato]";
+  std::string riga = b.nome + " = " + azioniUtente.valore(*b.controllo, b.intera);
+  if (!azioniUtente.visibile(*b.pannello, *b.controllo)) riga += " [nascosto]";
+  if (!azioniUtente.abilitato(*b.pannello, *b.controllo)) riga += " [disabilitato]";
   Stampa(riga);
   return true;
 }
@@ -231,8 +236,8 @@ static bool Mostra(std::string_view resto) {
 static bool Voci(std::string_view resto) {
   Bersaglio b;
   if (!Trova(Rifila(resto), b) || (b.riga->genere != Genere::Lista && b.riga->genere != Genere::Schede)) return false;
-  for (std::size_t k = 0; k < b.controllo->voci.size(); ++k)
-    Stampa(b.nome + "(" + std::to_string(k) + ") = " + SuUnaRiga(b.controllo->voci[k]));
+  const std::vector<std::string> voci = azioniUtente.voci(*b.controllo);
+  for (std::size_t k = 0; k < voci.size(); ++k) Stampa(b.nome + "(" + std::to_string(k) + ") = " + SuUnaRiga(voci[k]));
   return true;
 }
 

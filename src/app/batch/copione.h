@@ -17,6 +17,21 @@ struct StatoCopione {
 };
 inline StatoCopione copione;
 
+// How an instruction reaches the controls. At first straight to the records; a host with windows may put mouse, keyboard and what
+// its widgets show in their place.
+struct AzioniUtente {
+  bool (*scrivi)(const Pannello& p, Controllo& c, const std::string& testo);
+  bool (*sceglie)(const Pannello& p, Controllo& c, int posizione);
+  bool (*scatena)(const Pannello& p, Controllo& c, Evento e);
+  void (*passaSulPannello)(const Pannello& p);
+  bool (*visibile)(const Pannello& p, const Controllo& c);
+  bool (*abilitato)(const Pannello& p, const Controllo& c);
+  std::string (*valore)(const Controllo& c, bool intera);          // as ValoreControllo
+  std::vector<std::string> (*voci)(const Controllo& c);
+};
+AzioniUtente AzioniSuiRecord();
+inline AzioniUtente azioniUtente = AzioniSuiRecord();
+
 void CaricaCopione(std::string_view testo);          // lines ended by LF or CR LF, UTF-8
 bool EseguiRiga(std::string_view riga);              // one line; false: could not be carried out
 void EseguiCopione(const Pannello* modale);          // to the end, a stop, or until that modal panel has closed

@@ -13,7 +13,7 @@ constexpr double BORDO = 6;
 
 Quadro::Quadro(QWidget* padre) : QWidget(padre) { setMinimumSize(40, 20); }
 
-void Quadro::Mostra(const Tela* t) {
+void Quadro::Mostra(Tela* t) {
   tela = t;
   update();
 }

@@ -17,7 +17,8 @@ struct Campitura {                        // an area under the strokes, in the c
 class Quadro : public QWidget {
  public:
   explicit Quadro(QWidget* padre = nullptr);
-  void Mostra(const Tela* t);             // nullptr: no strokes
+  void Mostra(Tela* t);             // nullptr: no strokes
+  Tela* Mostrata() const { return tela; }
   void Campiture(std::vector<Campitura> c) { campiture = std::move(c); }
   QSize sizeHint() const override { return {220, 220}; }
 
@@ -25,6 +26,6 @@ class Quadro : public QWidget {
   void paintEvent(QPaintEvent*) override;
 
  private:
-  const Tela* tela = nullptr;
+  Tela* tela = nullptr;
   std::vector<Campitura> campiture;
 };
