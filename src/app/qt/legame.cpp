@@ -150,9 +150,6 @@ static bool DiSoloAspetto(const QWidget& w) {
   return nome.isEmpty() || nome.startsWith('_') || nome.startsWith("qt_") || dynamic_cast<const QTabBar*>(w.parentWidget()) != nullptr;
 }
 
-// Commands that have their place on the form before the panels' tables have their row; hidden until then.
-static const QStringList IN_ARRIVO{"InsDati.Gen_Dis", "InsDati.ApriVis", "Op_Nodo.Applica", "Op_Nodo.Chiudi"};
-
 QStringList DifferenzeForma(const Pannello& p, const QWidget& forma) {
   QStringList differenze, nomi;
   const QString pannello = QString::fromLatin1(p.nome);
@@ -166,7 +163,7 @@ QStringList DifferenzeForma(const Pannello& p, const QWidget& forma) {
       else if (!ClasseDi(r.genere).serve(*trovati[0])) differenze += pannello + "." + nome + ": di un altro genere nella finestra";
     }
   for (const QWidget* w : forma.findChildren<QWidget*>())
-    if (!DiSoloAspetto(*w) && !nomi.contains(w->objectName()) && !IN_ARRIVO.contains(pannello + "." + w->objectName()))
+    if (!DiSoloAspetto(*w) && !nomi.contains(w->objectName()))
       differenze += pannello + "." + w->objectName() + ": non è un controllo del pannello";
   return differenze;
 }
@@ -186,9 +183,6 @@ static void PreparaOggetto(Legame& l) {
 }
 
 void LegaPannello(const Pannello& p, QWidget& forma) {
-  for (const QString& nome : IN_ARRIVO)
-    if (nome.section('.', 0, 0) == QLatin1String(p.nome) && TrovaRiga(p, nome.section('.', 1).toStdString()) == nullptr)
-      forma.findChild<QWidget*>(nome.section('.', 1))->hide();
   for (const RigaPannello& r : p.righe) {
     QButtonGroup* gruppo = r.genere == Genere::Scelta ? new QButtonGroup(&forma) : nullptr;
     for (int i = r.primo; i <= r.ultimo; ++i) {
