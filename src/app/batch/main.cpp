@@ -2,12 +2,14 @@
 // command line or from a script.
 // Exit      0 done and every sextet verified, 1 done and some sextet is not verified, 2 not done.
 #include "app/batch/copione.h"
+#include "app/batch/disegno.h"
 #include "app/batch/piattaforma_batch.h"
 #include "app/batch/verifica.h"
 #include "core/file.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 
+#include <cstdint>
 #include <cstdio>
 #include <thread>
 
@@ -22,6 +24,11 @@ static int ComandoVerifica() {
   const unsigned nuclei = std::thread::hardware_concurrency();
   const int processi = ospite.opzioni.processi > 0 ? ospite.opzioni.processi : nuclei > 0 ? static_cast<int>(nuclei) : 1;
   return VerificaNodi(ospite.opzioni.argomenti, processi);
+}
+
+static int ComandoDisegno() {
+  AvviaProgrammaOspite();
+  return DisegnaNodo(ospite.opzioni.argomenti[0], ospite.opzioni.argomenti[1]);
 }
 
 static bool LeggiCopione(const std::string& percorso, std::string& testo) {
@@ -51,18 +58,25 @@ static int ComandoEsegui() {
 
 struct RigaComandoOspite {
   const char* nome;
-  std::size_t massimo;             // arguments; 0 any number
+  std::size_t minimo, massimo;     // arguments
   int (*esegui)();
+  bool (*ammesso)() = nullptr;     // of the arguments; null: any
 };
 static constexpr RigaComandoOspite COMANDI[] = {
-  { "verifica", 0, ComandoVerifica },
-  { "esegui", 1, ComandoEsegui },
+  { "verifica", 1, SIZE_MAX, ComandoVerifica },
+  { "disegno", 2, 2, ComandoDisegno, [] { return FormatoAmmesso(ospite.opzioni.argomenti[1]); } },
+  { "esegui", 1, 1, ComandoEsegui },
 };
+
+static bool Ammesso(const RigaComandoOspite& r) {
+  const std::size_t n = ospite.opzioni.argomenti.size();
+  return n >= r.minimo && n <= r.massimo && (r.ammesso == nullptr || r.ammesso());
+}
 
 int main(int argc, char** argv) {
   if (LeggiOpzioni(argc, argv, ospite.opzioni))
     for (const RigaComandoOspite& r : COMANDI)
-      if (ospite.opzioni.comando == r.nome && (r.massimo == 0 || ospite.opzioni.argomenti.size() <= r.massimo)) {
+      if (ospite.opzioni.comando == r.nome && Ammesso(r)) {
         MontaPiattaforma();
         Esci(r.esegui());
       }

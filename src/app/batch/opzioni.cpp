@@ -7,6 +7,7 @@
 
 const char* const USO =
   "uso: qb07-batch [opzioni] \"|diroot=<radice della suite>|\" verifica NODO.qb7...\n"
+  "     qb07-batch [opzioni] \"|diroot=<radice della suite>|\" disegno  NODO.qb7 USCITA.dis|.dxf|.grb|.svg\n"
   "     qb07-batch [opzioni] \"|diroot=<radice della suite>|\" esegui   COPIONE   (- per lo standard input)\n"
   "opzioni: --metodo=ta|slu  --decimale=.|,  --rispondi=ok|annulla  --processi=N  --senza-programmi\n";
 

@@ -27,7 +27,7 @@ struct LavoroNodo {
   int stato = 2;
 };
 
-static bool CaricaNodoOspite(const std::string& percorso) {
+bool CaricaNodoOspite(const std::string& percorso) {
   ospite.file.push_back({true, percorso, 1});
   Scatena(InsDati, insDati.Car_Nodo, Evento::Cambio);
   return !esitoFile.annullato && !esitoFile.fallito;

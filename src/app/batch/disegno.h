@@ -1,0 +1,7 @@
+// app/batch/disegno.h - a node's executive drawing, in the format of the output's extension.
+// Returns   0 written, 2 not written: node not loaded, or a failure told by its box.
+#pragma once
+#include <string>
+
+bool FormatoAmmesso(const std::string& uscita);      // the extension, in any case, is one of the formats
+int DisegnaNodo(const std::string& percorso, const std::string& uscita);
