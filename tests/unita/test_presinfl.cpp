@@ -186,19 +186,27 @@ TEST_F(PresInflTest, AncoraggioFuoriDallaRegione) {
   EXPECT_TRUE(presInfl.DentroBarra[2]);
   EXPECT_TRUE(presInfl.DentroBarra[3]);
   EXPECT_FALSE(presInfl.DentroBarra[4]);
+  nodo.TfZ[1] = 0;                                     // on the left edge: outside
+  Risolvi(-30000, 0, 0);
+  EXPECT_FALSE(presInfl.DentroBarra[1]);
   // Two anchors in the region: 200000 - 2 x 245 + 980 f.
   EXPECT_NEAR(presInfl.K[3][3], 200000 - 490 + 980 * 20000 / 3122.0185778, 1e-6);
 }
 
 TEST_F(PresInflTest, LatoNegativoRovesciato) {
-  // LatoZ negative: the source runs the other way, area -200000. The first polygon is reversed; each cut starts from the source
-  // again, which then counts as negative concrete: a compression ends with no equilibrium like that of the plate. Only that
-  // the first step sees a positive area is looked at: with no load the source is kept as it is and K33 turns negative.
+  // LatoZ -400: the source runs the other way, area -200000. The first polygon is reversed, so that the first matrix is that of a
+  // plate, the pull opens it everywhere, and the anchors carry it alone: N / 4. Without the reversal the first plane would be negative.
   nodo.LatoZ = -400;
-  nodo.NTir = 0;
-  for (double& a : suite.DiamArea) a = 1e-6;
-  Risolvi(0, 0, 0);
+  nodo.TfZ[1] = nodo.TfZ[3] = -50;                     // x = 200 - 50
+  nodo.TfZ[2] = nodo.TfZ[4] = -350;
+  const Esito e = Risolvi(20000, 0, 0);
+  EXPECT_TRUE(e.ok);
   EXPECT_EQ(presInfl.VertX[1], 200);
+  EXPECT_EQ(e.pressione, 0);
+  for (int i = 1; i <= 4; ++i) EXPECT_NEAR(ris.SigmaTir[1][i], 20.4082, 1e-4);
+  // Each cut starts from the source again: nothing to cut, and the area counts as negative.
+  nodo.NTir = 0;
+  Risolvi(0, 0, 0);
   EXPECT_NEAR(presInfl.K[3][3], -200000, 1e-6);
 }
 
@@ -225,6 +233,39 @@ TEST_F(PresInflTest, ResiduoNonAzzerato) {            // the third iteration is 
   Risolvi(-30000, 150000, 200000);
   EXPECT_GE(presInfl.IterPres, 3);
   EXPECT_NEAR(ris.SigmaTir[2][1], ris.SigmaTir[1][1], 1e-12);
+}
+
+TEST_F(PresInflTest, Tolleranza) {
+  // One anchor far beyond the right edge, pulled while the whole plate is compressed: the first matrix takes its concrete out, the
+  // second does not, and the residual of the second iteration grows with the load. The largest load that stops at the third
+  // iteration has it at the tolerance, one unit plus 0.01 per cent, in one component; from each axis and for the force.
+  nodo.NTir = 1;
+  struct Verso { double z, y, kz, ky; };
+  for (const Verso& v : { Verso{ 600, 250, 0.1, 0 }, { 600, 250, -0.1, 0 }, { 600, 400, 0.08, 0.05 } }) {
+    nodo.TfZ[1] = v.z;
+    nodo.TfY[1] = v.y;
+    const auto terza = [&](double L) {
+      nodo.NumSoll = 0;
+      EXPECT_TRUE(Risolvi(-L, -v.kz * L * 40, -v.ky * L * 50).ok);
+      return presInfl.IterPres == 3;
+    };
+    double basso = 1, alto = 1e6;
+    if (v.kz < 0) {                                    // compressed there: the same matrix twice
+      EXPECT_TRUE(terza(alto));
+      continue;
+    }
+    ASSERT_TRUE(terza(basso));
+    ASSERT_FALSE(terza(alto));
+    for (int n = 0; n < 200; ++n) {
+      const double L = (basso + alto) / 2;
+      (terza(L) ? basso : alto) = L;
+    }
+    ASSERT_TRUE(terza(basso));
+    double margine = 1e9;
+    for (int c = 1; c <= 3; ++c) margine = std::min(margine, 1 + 1e-4 * std::fabs(presInfl.Carichi[c]) - presInfl.Residuo[c]);
+    EXPECT_GT(margine, 0);
+    EXPECT_LT(margine, 1e-6);
+  }
 }
 
 TEST_F(PresInflTest, NessunPoligono) {                // no box, nothing written
@@ -283,6 +324,10 @@ TEST_F(PresInflTest, EquilibrioCasuale) {             // fixed seed, all pattern
     nodo.LatoY = std::floor(fra(250, 900));
     nodo.TfFi = n % 3 == 0 ? 20 : n % 3 == 1 ? 24 : 30;
     SchemaProva(n % 4, fra(30, 80), fra(30, 80));
+    for (int i = 1; i <= nodo.NTir; ++i) {             // no symmetry
+      nodo.TfZ[i] += fra(-25, 25);
+      nodo.TfY[i] += fra(-25, 25);
+    }
     const double F = std::pow(10, fra(3, 5.3));
     const int s = SestettoProva(fra(-1, 0.4) * F, 0, 0, 0, fra(-1, 1) * F * 40, fra(-1, 1) * F * 40);
     double scarto[3];
