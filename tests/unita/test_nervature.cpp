@@ -81,6 +81,8 @@ TEST_F(NervatureTest, TuttaCompressa) {
   EXPECT_NEAR(z.V, -7500, 1e-9);
   EXPECT_NEAR(z.MomentoQ, 20000, 1e-8);
   EXPECT_NEAR(z.MomentoP, -10000 * (1 - 1e-4), 1e-8);
+  EXPECT_NEAR(RisultanteSuPiastra(100, 200, 150, -50), -7500, 1e-9);       // the length along q counts by its absolute value
+  EXPECT_NEAR(RisultanteSuPiastra(200, 100, -50, 150), 7500, 1e-9);        // the strips' width by its sign
   EXPECT_EQ(RisultanteSuPiastra(100, 200, -50, 150), z.V);
   EXPECT_EQ(MomentoQSuPiastra(100, 200, -50, 150), z.MomentoQ);
   EXPECT_EQ(MomentoPSuPiastra(100, 200, -50, 150), z.MomentoP);

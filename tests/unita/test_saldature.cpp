@@ -84,6 +84,8 @@ TEST_F(SaldatureTest, Direzioni) {
   EXPECT_EQ(Direzione(4, 2, 1, 2), p);
   EXPECT_DOUBLE_EQ(Direzione(0, 0, 2, 1), std::atan(0.5));
   EXPECT_DOUBLE_EQ(Direzione(0, 0, 2, -1), std::atan(-0.5));
+  EXPECT_DOUBLE_EQ(Direzione(-5, 0, -4.5, 1), std::atan(2.0));
+  EXPECT_DOUBLE_EQ(Direzione(3, 0, 1, 1), std::atan(0.5) + p / 2);
   EXPECT_DOUBLE_EQ(Direzione(0, 0, -2, 1), std::atan(0.5) + p / 2);       // the last branch is odd (deliberate)
   EXPECT_DOUBLE_EQ(Direzione(0, 0, -2, -1), std::atan(-0.5) - p / 2);
 }
@@ -312,6 +314,10 @@ TEST_F(SaldatureTest, EquivalentiEMassime) {
   TensioniEquivalentiSaldature(5);
   EXPECT_EQ(d.SEq1[5], 7);                             // (4 + 9 + 36)^0.5 against (9 + 16 + 1)^0.5; point 2 is not looked at
   EXPECT_EQ(d.SEq2[5], 8);                             // 2 + 6 against 3 + 1
+  ris.Saldature[1] = d;
+  ris.Saldature[1].SEq1[5] = 0;
+  TensioniEquivalentiSaldature(5);
+  EXPECT_EQ(ris.Saldature[1].SEq1[5], 7);              // from the first weld on
   double a, b, c;
   MaxTensioniSaldatura(a, b, c, 2, 5);
   EXPECT_EQ(a, 3);

@@ -74,6 +74,12 @@ TEST_F(TirafondiTest, CostantiTA) {
   ResistenzeTA();
   EXPECT_EQ(nodo.MatCls.SAmm, 14.75);
   EXPECT_EQ(nodo.MatCls.TauCls, 0.1);                  // (35 / 75 + 0.4) 0.15 = 0.13
+  nodo.MatCls.Rck = 599;                               // about Rck 60, where (45 / 75 + 0.4) 0.15 = 0.15: 0.1498 and 0.1502
+  ResistenzeTA();
+  EXPECT_EQ(nodo.MatCls.TauCls, 0.1);
+  nodo.MatCls.Rck = 601;
+  ResistenzeTA();
+  EXPECT_EQ(nodo.MatCls.TauCls, 0.2);
 }
 
 TEST_F(TirafondiTest, AderenzaUncinoTA) {              // by 100 (deliberate)
@@ -207,15 +213,22 @@ TEST_F(TirafondiTest, RifollamentoFraDueTirafondi) {
   nodo.TfZ[8] = 90;
   ResistenzeNTC();
   EXPECT_NEAR(ris.FbRd[8], 0.8454545455 * 0.7575757576 * 11520, 1e-4);
+  // Less than 0.01 mm from the end counts as the end; more takes the pitch, here next to nothing: k = -1.7.
+  nodo.TfZ[8] = 50.00995;
+  ResistenzeNTC();
+  EXPECT_NEAR(ris.FbRd[8], 2.5 * 0.7575757576 * 11520, 1e-4);
+  nodo.TfZ[8] = 50.01005;
+  ResistenzeNTC();
+  EXPECT_NEAR(ris.FbRd[8], (1.4 * 0.01005 / 22 - 1.7) * 0.7575757576 * 11520, 1e-4);
 }
 
 TEST_F(TirafondiTest, TrentaGradiInclusi) {
-  // Anchor 2 lies exactly 30 degrees from anchor 1 towards the lower edge: in line, so that 1 is the far end, 30 mm from the
+  // Anchor 4 lies exactly 30 degrees from anchor 1 towards the lower edge: in line, so that 1 is the far end, 30 mm from the
   // plate's other edge, k = 2.8 x 30 / 22 - 1.7. A hair more and 1 stands alone: 2.8 x 100 / 22 - 1.7 > 2.5.
   suite.ParNodo[5] = 2;
   nodo.LatoZ = 130;
   const double d = 100 * std::tan(3.141592 / 6);
-  const double z[] = { 0, 100, 0, 100, 100 }, y[] = { 0, d, 0, 1000, 1100 };
+  const double z[] = { 0, 100, 100, 100, 0 }, y[] = { 0, d, 1000, 1100, 0 };
   for (int i = 1; i <= 4; ++i) { nodo.TfZ[i] = z[i]; nodo.TfY[i] = y[i]; }
   Prepara();
   ResistenzeNTC();
@@ -259,6 +272,12 @@ TEST_F(TirafondiTest, Rapporti) {
   EXPECT_DOUBLE_EQ(misto[0], 0.75);
   EXPECT_DOUBLE_EQ(misto[1], 0.35);
   EXPECT_DOUBLE_EQ(misto[2], 0.7);
+  EXPECT_DOUBLE_EQ(rapporti(140, -400)[0], 0.75);
+  EXPECT_DOUBLE_EQ(rapporti(-1, 0.5)[0], 0.5 / 800);   // any shear counts, any pull
+  EXPECT_DOUBLE_EQ(rapporti(0.5, 0)[0], 0.5 / 400);
+  resistenze(0.5, 0.5, 0.5, 0.5, 0.5);                 // any resistance above 0
+  EXPECT_DOUBLE_EQ(rapporti(0.7, 1)[0], 3);            // 1 / 0.5 + 0.5 / 0.5
+  EXPECT_DOUBLE_EQ(rapporti(-1, 1)[0], 2);
   resistenze(1000, 2000, 500, 900, 200);               // the other resistance of each pair
   EXPECT_EQ(rapporti(-100, 400), (R{ 0.4, 0.2, 0.5 }));
   // A resistance that is not positive: 100, only where it is used.
@@ -274,8 +293,11 @@ TEST_F(TirafondiTest, Rapporti) {
   EXPECT_EQ(rapporti(100, 0), (R{ 100, 100, 0.5 }));
   EXPECT_EQ(rapporti(100, 400)[0], 100);
   EXPECT_EQ(rapporti(-100, 400), (R{ 0.5, 100, 0.5 }));
+  resistenze(1000, 0, 500, 0, 200);
+  EXPECT_EQ(rapporti(-100, 400), (R{ 100, 100, 0.5 }));
   resistenze(1000, 800, 500, -3, 0);
   EXPECT_EQ(rapporti(100, 0), (R{ 100, 100, 100 }));
+  EXPECT_EQ(ris.Co3[1][4], 100);                       // every anchor, the last too
   EXPECT_FALSE(FaultAritmetico());
 }
 
