@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "drawing/Quote.h"
 #include "drawing/disegno.h"
 #include "drawing/esecutivo.h"
 #include "drawing/saldature_dis.h"
@@ -24,26 +25,30 @@ static Tratta Sotto(double v1, double v2, double limite) {
   return v2 > v1 ? Tratta{0, t} : Tratta{t, 1};
 }
 
-// A line of a rib behind the rod at posAnc: left out where the rod stands in front of it, up to the rod's top.
-static void LineaDietroTirafondo(double x1, double y1, double x2, double y2, double posAnc) {
-  const double Fi = nodo.TfFi, yt = nodo.TfLFt - nodo.SpessPiastra - nodo.TfHMalta;
-  const Tratta t[] = {Sotto(x1, x2, posAnc + Fi / 2), Sotto(-x1, -x2, Fi / 2 - posAnc), Sotto(y1, y2, yt)};
-  const double da = std::max({0.0, t[0].da, t[1].da, t[2].da}), a = std::min({1.0, t[0].a, t[1].a, t[2].a});
-  if (!(da < a)) {
+// A line of a rib behind n rods: left out where one stands in front of it, up to the rod's top.
+static void LineaDietroTirafondi(double x1, double y1, double x2, double y2, const double* posAnc, int n) {
+  if (n == 0) {
     DisLinea(nullptr, x1, y1, x2, y2);
     return;
   }
+  const double Fi = nodo.TfFi, yt = nodo.TfLFt - nodo.SpessPiastra - nodo.TfHMalta;
+  const Tratta t[] = {Sotto(x1, x2, *posAnc + Fi / 2), Sotto(-x1, -x2, Fi / 2 - *posAnc), Sotto(y1, y2, yt)};
+  const double da = std::max({0.0, t[0].da, t[1].da, t[2].da}), a = std::min({1.0, t[0].a, t[1].a, t[2].a});
+  if (!(da < a)) {
+    LineaDietroTirafondi(x1, y1, x2, y2, posAnc + 1, n - 1);
+    return;
+  }
   const double dx = x2 - x1, dy = y2 - y1;
-  DisLinea(nullptr, x1, y1, x1 + da * dx, y1 + da * dy);
-  DisLinea(nullptr, x1 + a * dx, y1 + a * dy, x2, y2);
+  LineaDietroTirafondi(x1, y1, x1 + da * dx, y1 + da * dy, posAnc + 1, n - 1);
+  LineaDietroTirafondi(x1 + a * dx, y1 + a * dy, x2, y2, posAnc + 1, n - 1);
 }
 
 // Edge of a rib seen flat: up at the plate's edge, along the slope, level to the face that it meets at d from the axis.
 static void ProfiloNervatura(int s, double posAnc, double d, double smusso, double lato) {
   const double bordo = s * lato / 2, cima = s * d + s * smusso;
   DisLinea(nullptr, bordo, 0, bordo, nodo.NervTaglio, ColoreOpz(0));
-  LineaDietroTirafondo(bordo, nodo.NervTaglio, cima, nodo.HNerv, posAnc);
-  LineaDietroTirafondo(cima, nodo.HNerv, s * d, nodo.HNerv, posAnc);
+  LineaDietroTirafondi(bordo, nodo.NervTaglio, cima, nodo.HNerv, &posAnc, 1);
+  LineaDietroTirafondi(cima, nodo.HNerv, s * d, nodo.HNerv, &posAnc, 1);
 }
 
 // Foot weld from x1 to x2, left out where the rod stands.
@@ -78,8 +83,9 @@ void NervatureAA() {
   const double H = nodo.Sezione.H, SP = nodo.SpNerv, L = nodo.LatoY;
   for (const int s : {-1, 1})
     NervaturaProspetto(s, -L / 2 + nodo.TfY[s < 0 ? 2 : 4], H / 2, nodo.NervY, L, H / 2 - SP, H / 2);
-  CambiaColore(0);                             // the flat rib runs on across the column
-  LineaDietroTirafondo(-H / 2 + SP, nodo.HNerv, H / 2 - SP, nodo.HNerv, 0);
+  CambiaColore(0);                             // the flat rib runs on across the column, behind every rod of the view
+  const double tirafondi[] = {nodo.TfY[2] - L / 2, nodo.TfY[4] - L / 2, nodo.TfY[6] - L / 2};
+  LineaDietroTirafondi(-H / 2 + SP, nodo.HNerv, H / 2 - SP, nodo.HNerv, tirafondi, TerzoTirafondoY() ? 3 : 2);
 }
 
 // ---- plan --------------------------------------------------------------------------------------------------------------------

@@ -264,6 +264,27 @@ TEST_F(Foglio, TirafondoDavantiAllaNervatura) {
   Linea(128, 150, 98, 150, 2);
 }
 
+// Across the column the flat rib's edge at 150 passes behind the rods of view A-A, where there is one: top at 230 - 70 = 160.
+TEST_F(Foglio, NervaturaDietroITirafondiAttraversoLaColonna) {
+  nodo.TfLFt = 230;
+  Prepara();
+  NervatureAA();
+  Linea(-92, 150, 92, 150, 2);                 // four anchors: none at mid side
+  nodo.OptionNTir = 2;
+  nodo.TfY[6] = 256;                           // 6 from the axis: rod from -4 to 16
+  Prepara();
+  NervatureAA();
+  Linea(-92, 150, -4, 150, 2);
+  Linea(16, 150, 92, 150, 2);
+  nodo.TfY[2] = 200, nodo.TfY[4] = 300;        // anchors beside the web, at -50 and 50
+  Prepara();
+  NervatureAA();
+  Linea(-92, 150, -60, 150, 2);
+  Linea(-40, 150, -4, 150, 2);
+  Linea(16, 150, 40, 150, 2);
+  Linea(60, 150, 92, 150, 2);
+}
+
 TEST_F(Foglio, SaldaturePiedeSoloSePositive) {
   nodo.TfZ[1] = 15;                            // anchor less Fi lies beyond the plate's edge
   Prepara();
