@@ -38,13 +38,13 @@ void Op_Nodo_Annulla(int) { piattaforma.chiudi(Op_Nodo); }
 
 void Op_Nodo_Applica(int) {
   ApplicaOpzioni();
-  InsDati_ApriVis(0);
+  if (!FaultAritmetico()) InsDati_ApriVis(0);
 }
 
 void Op_Nodo_Chiudi(int) {
   piattaforma.chiudi(Op_Nodo);
   ApplicaOpzioni();
-  EsportaDisegno(suite.DirProgra + "\\nodo.dis", 1, "DIS");
+  if (!FaultAritmetico()) EsportaDisegno(suite.DirProgra + "\\nodo.dis", 1, "DIS");
 }
 
 // A failed write is as fatal as a missing file at the start.

@@ -1,4 +1,4 @@
-// The options panel: which entry each field shows and stores, its labels, and the values that Opz leaves alone. The file used
+// The options panel: which entry of the file each field shows and stores, and the values that Opz leaves alone. The file used
 // here holds 100 + its entry's number at each entry, but for the choices 15, 16 and 18.
 #include <gtest/gtest.h>
 
@@ -43,23 +43,6 @@ TEST_F(OpzioniPannello, OgniCampoLaSuaVoce) {
   EXPECT_EQ(VoceScelta(opNodo.Option1[0]), 1);
   EXPECT_EQ(opNodo.CheckQuote.scelta, 0);
   EXPECT_EQ(opNodo.CheckDistinta.scelta, 0);
-}
-
-TEST_F(OpzioniPannello, EtichetteEDidascalie) {
-  Avvia(1, 0, 1);
-  const char* etichette[] = {"Colore disegno nodo", "Colore assi sezioni", "Colore sezioni", "Colore quote", "Colore linee quote", "Colore testo",
-      "Colore distinta", "Altezza quote", "Larghezza quote", "Altezza testi", "Larghezza testi", "Altezza testi distinta", "Larghezza testi distinta",
-      "Distanza testo-quote", "Diametro indicatori quote", "Scala nodo/Scala tiraf.", "Colore saldature"};
-  for (int i = 0; i <= 16; ++i) EXPECT_EQ(opNodo.LPar[i].testo, etichette[i]);
-  EXPECT_EQ(opNodo.LPar[25].testo, "Stile quote particolari GRB");
-  EXPECT_EQ(opNodo.LPar[26].testo, "Stile testi GRB");
-  EXPECT_EQ(opNodo.LPar[27].testo, "Stile quote GRB");
-  EXPECT_EQ(opNodo.Option1[0].testo, "Quote sup.");
-  EXPECT_EQ(opNodo.Option1[1].testo, "Quote inf.");
-  EXPECT_EQ(opNodo.CheckQuote.testo, "Quote");
-  EXPECT_EQ(opNodo.CheckDistinta.testo, "Distinta");
-  EXPECT_EQ(opNodo.Annulla.testo, "Annulla");
-  EXPECT_EQ(opNodo.Def.testo, "Salva");
 }
 
 TEST_F(OpzioniPannello, OgniCampoScriveLaSuaVoce) {
@@ -116,9 +99,14 @@ TEST_F(OpzioniPannello, DistanzaSmisurata) {
   UtenteScrive(Op_Nodo, opNodo.Par_Nodo[7], "1.7E+308");
   UtenteScrive(Op_Nodo, opNodo.Par_Nodo[13], "1.7E+308");
   UtenteSceglie(Op_Nodo, opNodo.Option1[1], 1);
-  Premi(Op_Nodo, "Def");
-  EXPECT_EQ(registratore.eventi,
-            (std::vector<std::string>{"[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: il comando non può continuare."}));
+  for (const char* comando : {"Def", "Applica", "Chiudi"}) {
+    registratore.eventi.clear();
+    Premi(Op_Nodo, comando);
+    EXPECT_EQ(registratore.eventi,
+              (std::vector<std::string>{"[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: il comando non può continuare."})) << comando;
+    EXPECT_EQ(suite.ParNodo[13], 1.7e308);   // as entered
+    EXPECT_FALSE(EsisteFile(suite.DirProgra + "\\nodo.dis"));
+  }
   EXPECT_EQ(File(), prima);
   EXPECT_FALSE(registratore.finito);
 }
