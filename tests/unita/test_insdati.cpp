@@ -432,6 +432,15 @@ TEST_F(Pannello71, VerificaAsksByTheMethod) {
   EXPECT_TRUE(registratore.eventi[registratore.eventi.size() - 2].find("(NTC 2008)") != std::string::npos);
 }
 
+TEST_F(Pannello71, VerificaStopsAtAFaultOfTheEdgeCheck) {
+  Scrivi("LatoTxt", 4, "1e308");                     // six times the thickness overflows
+  Scrivi("DTf", 1, "20");                            // and the distance is a breach: 2 * 20 = 40 > 20
+  Scatena(InsDati, insDati.Verifica, Evento::Cambio);
+  EXPECT_EQ(registratore.eventi.back(), "[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: la verifica non può continuare.");
+  for (const std::string& e : registratore.eventi) EXPECT_EQ(e.find("Continuare"), std::string::npos) << e;
+  EXPECT_EQ(verificaPannello.esito, EsitoVerifica::Interrotta);
+}
+
 TEST_F(Pannello71, VerificaDoneAndStopped) {
   suite.DirLavoro = CartellaProva("insdati_verifica");
   Scatena(InsDati, insDati.Verifica, Evento::Cambio);    // no sextet: the report without combinations

@@ -106,35 +106,6 @@ TEST_F(Pannelli_, OpzioniRiempiteAllAvvio) {
   EXPECT_EQ(C(Op_Nodo, "Def").testo, "Salva");
 }
 
-TEST_F(Pannelli_, EtichetteDelleOpzioni) {
-  const TestoAtteso attesi[] = {
-      {"LPar", 0, "Colore disegno nodo"}, {"LPar", 1, "Colore assi sezioni"}, {"LPar", 2, "Colore sezioni"}, {"LPar", 3, "Colore quote"},
-      {"LPar", 4, "Colore linee quote"}, {"LPar", 5, "Colore testo"}, {"LPar", 6, "Colore distinta"}, {"LPar", 7, "Altezza quote"},
-      {"LPar", 8, "Larghezza quote"}, {"LPar", 9, "Altezza testi"}, {"LPar", 10, "Larghezza testi"}, {"LPar", 11, "Altezza testi distinta"},
-      {"LPar", 12, "Larghezza testi distinta"}, {"LPar", 13, "Distanza testo-quote"}, {"LPar", 14, "Diametro indicatori quote"},
-      {"LPar", 15, "Scala nodo/Scala tiraf."}, {"LPar", 16, "Colore saldature"}, {"LPar", 25, "Stile quote particolari GRB"},
-      {"LPar", 26, "Stile testi GRB"}, {"LPar", 27, "Stile quote GRB"}, {"CheckQuote", -1, "Quote"}, {"CheckDistinta", -1, "Distinta"},
-      {"Option1", 0, "Quote sup."}, {"Option1", 1, "Quote inf."}, {"Annulla", -1, "Annulla"}, {"Def", -1, "Salva"}};
-  for (const auto& a : attesi) EXPECT_EQ(C(Op_Nodo, a.nome, a.i).testo, a.testo) << a.nome << a.i;
-}
-
-// Every entry of its own value, so that each field shows its own; and each field goes back to its own entry.
-TEST_F(Pannelli_, OgniCampoHaLaSuaVoce) {
-  for (int i = 0; i < 28; ++i) suite.ParNodo[i] = 100 + i;
-  RiempiOpNodo();
-  const struct { int campo, voce; } coppie[] = {{0, 0},   {1, 1},   {2, 2},   {3, 3},   {4, 4},   {5, 5},   {6, 6},   {7, 7},   {8, 8},   {9, 9},
-                                                {10, 10}, {11, 11}, {12, 12}, {13, 13}, {14, 14}, {15, 19}, {16, 20}, {25, 25}, {26, 26}, {27, 27}};
-  for (const auto& c : coppie) EXPECT_EQ(C(Op_Nodo, "Par_Nodo", c.campo).testo, std::to_string(100 + c.voce));
-  EXPECT_EQ(opNodo.Option1[1].scelta, 1);                 // entry 16 is not 0
-  EXPECT_EQ(opNodo.CheckQuote.scelta, 0);                 // entry 15 is not 1
-  for (const auto& c : coppie) Scrivi(Op_Nodo, "Par_Nodo", c.campo, std::to_string(200 + c.voce).c_str());
-  UtenteSceglie(Op_Nodo, opNodo.Option1[0], 1);
-  ApplicaOpzioni();
-  for (const auto& c : coppie) EXPECT_EQ(suite.ParNodo[c.voce], 200 + c.voce);
-  EXPECT_EQ(suite.ParNodo[17], 213);
-  for (int i = 21; i <= 24; ++i) EXPECT_EQ(suite.ParNodo[i], 100 + i);   // kept in the file, not shown
-}
-
 TEST_F(Pannelli_, QuoteInferioriCapovolgonoLaDistanza) {
   Scrivi(Op_Nodo, "Par_Nodo", 7, "20");
   Scrivi(Op_Nodo, "Par_Nodo", 13, "5");
