@@ -197,7 +197,8 @@ bool ApriScrittura(FileScrittura& f, std::string_view percorso) {
 
 bool ChiudiScrittura(FileScrittura& f) {
   if (f.file == nullptr) return false;
-  const bool riuscita = ScriviByteFile(f.file, InAnsi(f.testo));
+  if (!SoloAscii(f.testo)) f.testo = InAnsi(f.testo);
+  const bool riuscita = ScriviByteFile(f.file, f.testo);
   f.file = nullptr;
   f.testo.clear();
   return riuscita;

@@ -18,9 +18,42 @@ constexpr double POTENZE[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e
 bool Cifra(char c) { return c >= '0' && c <= '9'; }
 
 struct Decimali {                  // value = 0.d1 d2 ... dn x 10^esp, no trailing zeros
-  char cifre[24] = {};
+  char cifre[40] = {};             // read in blocks of 16
   int n = 0, esp = 0;
 };
+
+// v = p + e exactly, p the product rounded; both factors far from the ends of the range.
+void ProdottoEsatto(double a, double b, double& p, double& e) {
+  const double separa = 134217729;                       // 2^27 + 1: halves of 26 bits multiply without rounding
+  const double ta = separa * a, a1 = ta - (ta - a), a2 = a - a1, tb = separa * b, b1 = tb - (tb - b), b2 = b - b1;
+  p = a * b;
+  e = ((a1 * b1 - p) + a1 * b2 + a2 * b1) + a2 * b2;
+}
+
+// The usual range, 1E-4 to 1E15: the 15 digits are the whole number nearest to v 10^k. The powers up to 10^22 are exact, so that the
+// product is known to the last bit; ties go to the even number.
+bool CifreConsuete(double v, Decimali& d) {
+  if (!(v >= 1e-4 && v < 1e15)) return false;
+  int esp = 1;                                           // v < 10^esp
+  if (v >= 1) {
+    while (v >= POTENZE[esp]) ++esp;
+  } else {
+    for (esp = 0; v * POTENZE[1 - esp] < 1; --esp) {}
+  }
+  double p = 0, e = 0;
+  ProdottoEsatto(v, POTENZE[CIFRE - esp], p, e);
+  constexpr double UNITA = 4503599627370496.0;          // 2^52: from there on doubles are whole numbers
+  double intero = (p + UNITA) - UNITA;
+  const double resto = p - intero;
+  if (resto == 0.5 && e > 0) intero += 1;
+  if (resto == -0.5 && e < 0) intero -= 1;
+  if (intero < 1e14 || intero >= 1e15) return false;     // the power of ten was met by a rounding
+  std::to_chars(d.cifre, d.cifre + sizeof d.cifre, static_cast<std::uint64_t>(intero));
+  d.n = CIFRE;
+  d.esp = esp;
+  while (d.n > 1 && d.cifre[d.n - 1] == '0') --d.n;
+  return true;
+}
 
 // Digits of v > 0, at most 15 significant. The shortest text that gives v back is tried first: with up to 15 digits it is the
 // correctly rounded 15-digit text without its trailing zeros; a longer one is rounded anew from v itself, and so is a
@@ -28,6 +61,7 @@ struct Decimali {                  // value = 0.d1 d2 ... dn x 10^esp, no traili
 Decimali CifreDi(double v) {
   char testo[40];
   Decimali d;
+  if (CifreConsuete(v, d)) return d;
   for (int prova = v < std::numeric_limits<double>::min() ? 1 : 0; prova < 2; ++prova) {
     const auto esito = prova == 0 ? std::to_chars(testo, testo + sizeof testo, v, std::chars_format::scientific)
                                   : std::to_chars(testo, testo + sizeof testo, v, std::chars_format::scientific, CIFRE - 1);
@@ -45,8 +79,9 @@ Decimali CifreDi(double v) {
   return d;
 }
 
+// n characters, at most 15; a whole block is moved, what lies behind is written over next.
 char* Copia(char* a, const char* da, int n) {
-  std::memcpy(a, da, static_cast<std::size_t>(n));
+  std::memcpy(a, da, 16);
   return a + n;
 }
 

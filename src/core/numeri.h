@@ -13,7 +13,7 @@
 std::string NumeroFile(double v);
 std::string NumeroPiano(double v);
 std::string NumeroRelazione(double v);
-int ScriviNumero(double v, char* a, char mark, bool zeroIniziale);   // into a[32]; returns the length; no terminator
+int ScriviNumero(double v, char* a, char mark, bool zeroIniziale);   // into a[32], of which the rest is scratch; returns the length
 
 // The numeric head of a text: blanks, sign, digits, one point, digits, optional exponent; the rest is ignored. No head: 0.
 // "nan" and "inf" have no head. False, v untouched: the number overflows a double.

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace {
 
@@ -92,12 +93,23 @@ std::string DaAnsi(std::string_view byte) {
   return t;
 }
 
+// Where the run of ASCII that begins at i ends; eight characters at a time.
+static std::size_t FineAscii(std::string_view t, std::size_t i) {
+  for (std::uint64_t otto = 0; i + sizeof otto <= t.size(); i += sizeof otto) {
+    std::memcpy(&otto, t.data() + i, sizeof otto);
+    if ((otto & 0x8080808080808080u) != 0) break;
+  }
+  while (i < t.size() && static_cast<unsigned char>(t[i]) < 0x80) ++i;
+  return i;
+}
+
+bool SoloAscii(std::string_view t) { return FineAscii(t, 0) == t.size(); }
+
 std::string InAnsi(std::string_view utf8) {
   std::string byte;
   byte.reserve(utf8.size());
   for (std::size_t i = 0; i < utf8.size();) {
-    std::size_t j = i;                                   // runs of ASCII pass whole
-    while (j < utf8.size() && static_cast<unsigned char>(utf8[j]) < 0x80) ++j;
+    const std::size_t j = FineAscii(utf8, i);            // runs of ASCII pass whole
     byte.append(utf8.substr(i, j - i));
     if (j == utf8.size()) break;
     i = j;

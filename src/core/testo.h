@@ -7,6 +7,7 @@
 
 std::string DaAnsi(std::string_view byte);           // the five undefined bytes pass as the control character of the same value
 std::string InAnsi(std::string_view utf8);           // a character without a place is written '?'
+bool SoloAscii(std::string_view t);                  // the same bytes in both codings
 std::size_t NumCaratteri(std::string_view t);
 std::string PrimiCaratteri(std::string_view t, std::size_t n);
 std::string Maiuscolo(std::string_view t);

@@ -84,7 +84,7 @@ TEST(Numeri, QuindiciCifreComeIlSecondoMetodoSuUnMilioneDiValori) {
   std::uniform_real_distribution<double> piccolo(-1e6, 1e6);
   for (int i = 0; i < 1000000; ++i) {
     double v = 0;
-    switch (i % 4) {
+    switch (i % 6) {
       case 0: {                                           // any bit pattern
         const std::uint64_t b = bit(caso);
         std::memcpy(&v, &b, sizeof v);
@@ -93,6 +93,17 @@ TEST(Numeri, QuindiciCifreComeIlSecondoMetodoSuUnMilioneDiValori) {
       }
       case 1: v = piccolo(caso); break;
       case 2: v = std::nearbyint(piccolo(caso) * 100) / 100; break;
+      case 3: {                                           // ties at the sixteenth digit, where they exist
+        v = static_cast<double>(bit(caso) % 9000000000000000u + 1000000000000000u) / static_cast<double>(1u << (bit(caso) % 20));
+        while (v >= 1e15) v /= 2;
+        break;
+      }
+      case 4: {                                           // at most three steps from a power of ten
+        v = std::pow(10, static_cast<double>(bit(caso) % 19) - 4);
+        const double verso = bit(caso) % 2 == 0 ? 0 : 1e18;
+        for (std::uint64_t k = bit(caso) % 4; k > 0; --k) v = std::nextafter(v, verso);
+        break;
+      }
       default: v = std::nearbyint(piccolo(caso)) + 0.5; break;
     }
     ASSERT_EQ(NumeroPiano(v), PianoDaPrintf(v));

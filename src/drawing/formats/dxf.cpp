@@ -1,7 +1,8 @@
 // drawing/formats/dxf.cpp - the store as a drawing of the CAD exchange format, in its minimal text dialect: header, one layer, entities.
 // Units     mm; angles in degrees. The store is written as it is, without the clean-up.
-#include <charconv>
+#include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <vector>
 
 #include "core/aritmetica.h"
@@ -34,87 +35,84 @@ double AngoloArco(double px, double py, double cx, double cy) {
   return angolo >= 360 ? angolo - 360 : angolo;
 }
 
-// The coordinates as text, each worked out once: entities share them.
-struct TestoCoord {
-  char x[24], y[24];
-  unsigned char nx, ny;
-};
-
 struct Dxf {
   std::string* t = nullptr;
   int mono = 0;
-  std::vector<TestoCoord> coord;
 };
 
-static void Numero(std::string& t, double v) {
-  char a[34];
-  int n = ScriviNumero(v, a, '.', false);
-  a[n++] = '\r';
-  a[n++] = '\n';
-  t.append(a, static_cast<std::size_t>(n));
+// An entity is put together in a field on the stack and goes to the file in one piece.
+struct Entita {
+  char a[512];
+  char* p = a;
+};
+
+template <std::size_t N>
+static void Metti(Entita& e, const char (&letterale)[N]) {
+  std::memcpy(e.p, letterale, N - 1);
+  e.p += N - 1;
 }
 
-static void Coppia(std::string& t, const char* codice, double v) {
-  t += codice;
-  Numero(t, v);
+static void Numero(Entita& e, double v) {
+  e.p += ScriviNumero(v, e.p, '.', false);
+  Metti(e, RIGA);
 }
 
-static void PreparaCoord(Dxf& f) {
-  f.coord.resize(static_cast<std::size_t>(disegno.NumCoord));
-  for (int i = 0; i < disegno.NumCoord; ++i) {
-    TestoCoord& c = f.coord[static_cast<std::size_t>(i)];
-    c.nx = static_cast<unsigned char>(ScriviNumero(disegno.CoordX[i], c.x, '.', false));
-    c.ny = static_cast<unsigned char>(ScriviNumero(disegno.CoordY[i], c.y, '.', false));
-  }
+template <std::size_t N>
+static void Coppia(Entita& e, const char (&codice)[N], double v) {
+  Metti(e, codice);
+  Numero(e, v);
 }
 
-static void Punto(const Dxf& f, const char* codiceX, const char* codiceY, int i) {
-  const TestoCoord& c = f.coord[static_cast<std::size_t>(i)];
-  f.t->append(codiceX).append(c.x, c.nx).append(codiceY).append(c.y, c.ny);
+static void Esce(const Dxf& f, Entita& e) {
+  f.t->append(e.a, static_cast<std::size_t>(e.p - e.a));
+  e.p = e.a;
 }
 
-static void Testata(std::string& t) {
+static void Testata(const Dxf& f) {
   const Disegno& d = disegno;
   const double mx = 0.05 * (d.EstXMax - d.EstXMin), my = 0.05 * (d.EstYMax - d.EstYMin), m = MaxDi(mx, my);
-  t += " 0" RIGA "SECTION" RIGA " 2" RIGA "HEADER" RIGA " 9" RIGA "$EXTMIN" RIGA;
-  Coppia(t, " 10" RIGA, d.EstXMin - m);
-  Coppia(t, " 20" RIGA, d.EstYMin - m);
-  t += " 30" RIGA "0.0" RIGA " 9" RIGA "$EXTMAX" RIGA;
-  Coppia(t, " 10" RIGA, d.EstXMax + m);
-  Coppia(t, " 20" RIGA, d.EstYMax + m);
-  t += " 30" RIGA "0.0" RIGA " 0" RIGA "ENDSEC" RIGA
-       " 0" RIGA "SECTION" RIGA " 2" RIGA "TABLES" RIGA " 0" RIGA "TABLE" RIGA " 2" RIGA "LAYER" RIGA " 70" RIGA "1" RIGA
-       " 0" RIGA "LAYER" RIGA " 2" RIGA "0" RIGA " 70" RIGA "0" RIGA " 62" RIGA "7" RIGA " 6" RIGA "CONTINUOUS" RIGA
-       " 0" RIGA "ENDTAB" RIGA " 0" RIGA "ENDSEC" RIGA
-       " 0" RIGA "SECTION" RIGA " 2" RIGA "ENTITIES" RIGA;
+  Entita e;
+  Metti(e, " 0" RIGA "SECTION" RIGA " 2" RIGA "HEADER" RIGA " 9" RIGA "$EXTMIN" RIGA);
+  Coppia(e, " 10" RIGA, d.EstXMin - m);
+  Coppia(e, " 20" RIGA, d.EstYMin - m);
+  Metti(e, " 30" RIGA "0.0" RIGA " 9" RIGA "$EXTMAX" RIGA);
+  Coppia(e, " 10" RIGA, d.EstXMax + m);
+  Coppia(e, " 20" RIGA, d.EstYMax + m);
+  Esce(f, e);
+  f.t->append(" 30" RIGA "0.0" RIGA " 0" RIGA "ENDSEC" RIGA
+              " 0" RIGA "SECTION" RIGA " 2" RIGA "TABLES" RIGA " 0" RIGA "TABLE" RIGA " 2" RIGA "LAYER" RIGA " 70" RIGA "1" RIGA
+              " 0" RIGA "LAYER" RIGA " 2" RIGA "0" RIGA " 70" RIGA "0" RIGA " 62" RIGA "7" RIGA " 6" RIGA "CONTINUOUS" RIGA
+              " 0" RIGA "ENDTAB" RIGA " 0" RIGA "ENDSEC" RIGA
+              " 0" RIGA "SECTION" RIGA " 2" RIGA "ENTITIES" RIGA);
 }
 
-static void ScriviColore(const Dxf& f, int colore) {
-  f.t->append(" 62" RIGA);
-  Numero(*f.t, ColoreDxf(colore, f.mono));
+static void MettiColore(const Dxf& f, Entita& e, int colore) { Coppia(e, " 62" RIGA, ColoreDxf(colore, f.mono)); }
+
+static void Attributi(const Dxf& f, Entita& e, int colore, int tipo) {
+  if (colore != 1) MettiColore(f, e, colore);
+  if (tipo == 0) return;
+  Metti(e, " 6" RIGA);
+  const char* const nome = NomeTipoDxf(tipo);
+  e.p = std::copy(nome, nome + std::strlen(nome), e.p);
+  Metti(e, RIGA);
 }
 
-static void Attributi(const Dxf& f, int colore, int tipo) {
-  if (colore != 1) ScriviColore(f, colore);
-  if (tipo != 0) f.t->append(" 6" RIGA).append(NomeTipoDxf(tipo)).append(RIGA);
-}
-
-// A line that is not one of the store's: a stroke of a pattern or of a glyph.
-static void ScriviTratto(std::string& t, double x1, double y1, double x2, double y2) {
-  t += " 0" RIGA "LINE" RIGA " 8" RIGA "0" RIGA;
-  Coppia(t, " 10" RIGA, x1);
-  Coppia(t, " 20" RIGA, y1);
-  t += " 30" RIGA "0.0" RIGA;
-  Coppia(t, " 11" RIGA, x2);
-  Coppia(t, " 21" RIGA, y2);
-  t += " 31" RIGA "0.0" RIGA;
+// A segment without its colour and type.
+static void MettiLinea(Entita& e, double x1, double y1, double x2, double y2) {
+  Coppia(e, " 0" RIGA "LINE" RIGA " 8" RIGA "0" RIGA " 10" RIGA, x1);
+  Coppia(e, " 20" RIGA, y1);
+  Coppia(e, " 30" RIGA "0.0" RIGA " 11" RIGA, x2);
+  Coppia(e, " 21" RIGA, y2);
+  Metti(e, " 31" RIGA "0.0" RIGA);
 }
 
 static void ScriviLinea(const Dxf& f, int i) {
-  Punto(f, " 0" RIGA "LINE" RIGA " 8" RIGA "0" RIGA " 10" RIGA, RIGA " 20" RIGA, disegno.LinIni[i]);
-  Punto(f, RIGA " 30" RIGA "0.0" RIGA " 11" RIGA, RIGA " 21" RIGA, disegno.LinFin[i]);
-  f.t->append(RIGA " 31" RIGA "0.0" RIGA);
-  Attributi(f, disegno.LinCol[i], disegno.LinTipo[i]);
+  const Disegno& d = disegno;
+  const int a = d.LinIni[i], b = d.LinFin[i];
+  Entita e;
+  MettiLinea(e, d.CoordX[a], d.CoordY[a], d.CoordX[b], d.CoordY[b]);
+  Attributi(f, e, d.LinCol[i], d.LinTipo[i]);
+  Esce(f, e);
 }
 
 // Returns how many lines were broken.
@@ -133,8 +131,10 @@ static int ScriviLineeSpezzate(const Dxf& f, double scala) {
     }
     ++spezzate;
     for (const TrattoLinea& t : tratti) {
-      ScriviTratto(*f.t, t.x1, t.y1, t.x2, t.y2);
-      Attributi(f, d.LinCol[i], 0);
+      Entita e;
+      MettiLinea(e, t.x1, t.y1, t.x2, t.y2);
+      Attributi(f, e, d.LinCol[i], 0);
+      Esce(f, e);
     }
   }
   return spezzate;
@@ -145,8 +145,10 @@ static void ScriviTestiALinee(const Dxf& f) {
   for (int i = 0; i < d.NumTesti; ++i) {
     const int p = d.TesPos[i];
     for (const TrattoTesto& t : TrattiTesto(d.TesStr[static_cast<std::size_t>(i)], d.CoordX[p], d.CoordY[p], d.TesAng[i], d.TesLarg[i] / 10.0, d.TesAlt[i] / 10.0)) {
-      ScriviTratto(*f.t, t.x1, t.y1, t.x2, t.y2);
-      if (ColoreDxf(d.TesCol[i], f.mono) != 7) ScriviColore(f, d.TesCol[i]);
+      Entita e;
+      MettiLinea(e, t.x1, t.y1, t.x2, t.y2);
+      if (ColoreDxf(d.TesCol[i], f.mono) != 7) MettiColore(f, e, d.TesCol[i]);
+      Esce(f, e);
     }
   }
 }
@@ -161,14 +163,21 @@ static std::string TestoDxf(const std::string& testo) {
 static bool ScriviTesti(const Dxf& f) {
   const Disegno& d = disegno;
   for (int i = 0; i < d.NumTesti; ++i) {
-    Punto(f, " 0" RIGA "TEXT" RIGA " 8" RIGA "0" RIGA " 10" RIGA, RIGA " 20" RIGA, d.TesPos[i]);
-    Coppia(*f.t, RIGA " 30" RIGA "0.0" RIGA " 40" RIGA, d.TesAlt[i] / 10.0);
-    f.t->append(" 1" RIGA).append(TestoDxf(d.TesStr[static_cast<std::size_t>(i)])).append(RIGA);
-    Coppia(*f.t, " 50" RIGA, d.TesAng[i]);
-    f.t->append(" 41" RIGA);
+    Entita e;
+    Coppia(e, " 0" RIGA "TEXT" RIGA " 8" RIGA "0" RIGA " 10" RIGA, d.CoordX[d.TesPos[i]]);
+    Coppia(e, " 20" RIGA, d.CoordY[d.TesPos[i]]);
+    Coppia(e, " 30" RIGA "0.0" RIGA " 40" RIGA, d.TesAlt[i] / 10.0);
+    Metti(e, " 1" RIGA);
+    Esce(f, e);
+    f.t->append(TestoDxf(d.TesStr[static_cast<std::size_t>(i)]));
+    Coppia(e, RIGA " 50" RIGA, d.TesAng[i]);
+    Metti(e, " 41" RIGA);
+    if (d.TesAlt[i] != 0) {
+      Numero(e, d.TesLarg[i] / static_cast<double>(d.TesAlt[i]));
+      Attributi(f, e, d.TesCol[i], 0);
+    }
+    Esce(f, e);
     if (d.TesAlt[i] == 0) return false;
-    Numero(*f.t, d.TesLarg[i] / static_cast<double>(d.TesAlt[i]));
-    Attributi(f, d.TesCol[i], 0);
   }
   return true;
 }
@@ -181,14 +190,18 @@ static void ScriviArchi(const Dxf& f) {
     const double r = std::sqrt((x1 - cx) * (x1 - cx) + (y1 - cy) * (y1 - cy));
     if (r < TOLL_GEO) continue;
     const bool cerchio = std::sqrt((x2 - x1) * (x2 - x1) + (y2 - y1) * (y2 - y1)) < TOLL_GEO;
-    f.t->append(" 0" RIGA).append(cerchio ? "CIRCLE" : "ARC");
-    Punto(f, RIGA " 8" RIGA "0" RIGA " 10" RIGA, RIGA " 20" RIGA, d.ArcCen[i]);
-    Coppia(*f.t, RIGA " 30" RIGA "0.0" RIGA " 40" RIGA, r);
+    Entita e;
+    if (cerchio) Metti(e, " 0" RIGA "CIRCLE");
+    else Metti(e, " 0" RIGA "ARC");
+    Coppia(e, RIGA " 8" RIGA "0" RIGA " 10" RIGA, cx);
+    Coppia(e, " 20" RIGA, cy);
+    Coppia(e, " 30" RIGA "0.0" RIGA " 40" RIGA, r);
     if (!cerchio) {
-      Coppia(*f.t, " 50" RIGA, AngoloArco(x1, y1, cx, cy));
-      Coppia(*f.t, " 51" RIGA, AngoloArco(x2, y2, cx, cy));
+      Coppia(e, " 50" RIGA, AngoloArco(x1, y1, cx, cy));
+      Coppia(e, " 51" RIGA, AngoloArco(x2, y2, cx, cy));
     }
-    Attributi(f, d.ArcCol[i], d.ArcTipo[i]);
+    Attributi(f, e, d.ArcCol[i], d.ArcTipo[i]);
+    Esce(f, e);
   }
 }
 
@@ -210,8 +223,7 @@ bool SalvaDxf(const std::string& nomeFile, int testoLinee, int mono, double scal
   f.mono = mono;
   f.t->reserve(static_cast<std::size_t>(1024 + 144 * (disegno.NumLinee + disegno.NumTesti + disegno.NumArchi)));
   CalcolaEstensioni();
-  PreparaCoord(f);
-  Testata(*f.t);
+  Testata(f);
   int spezzate = 0;
   if (spezzaTratti == 1) {
     LeggiTipiLinea();
