@@ -22,7 +22,7 @@ static bool Leggi(std::vector<const char*> argomenti, Opzioni& o) {
   return LeggiOpzioni(static_cast<int>(argomenti.size()), argomenti.data(), o);
 }
 
-TEST(Opzioni, Predefinite) {
+TEST(OpzioniOspite, Predefinite) {
   Opzioni o;
   ASSERT_TRUE(Leggi({"|diroot=/suite|", "verifica", "a.qb7", "b.qb7"}, o));
   EXPECT_EQ(o.metodo, -1);
@@ -35,7 +35,7 @@ TEST(Opzioni, Predefinite) {
   EXPECT_EQ(o.argomenti, (std::vector<std::string>{"a.qb7", "b.qb7"}));
 }
 
-TEST(Opzioni, Tutte) {
+TEST(OpzioniOspite, Tutte) {
   Opzioni o;
   ASSERT_TRUE(Leggi({"--metodo=slu", "--decimale=,", "--rispondi=annulla", "--processi=7", "--senza-programmi", "", "esegui", "-"}, o));
   EXPECT_EQ(o.metodo, 1);
@@ -52,7 +52,7 @@ TEST(Opzioni, Tutte) {
   EXPECT_TRUE(ta.rispondiOk);
 }
 
-TEST(Opzioni, UsoErrato) {
+TEST(OpzioniOspite, UsoErrato) {
   for (const char* opzione : {"--metodo=sl", "--metodo=", "--metodo", "--decimale=;", "--decimale=", "--rispondi=si", "--processi=0",
                               "--processi=-1", "--processi=2x", "--processi=99999999999", "--processi=", "--senza-programmi=1", "--altro", "--"}) {
     Opzioni o;
