@@ -344,6 +344,21 @@ TEST_F(AzzeramentoInMemoria, ResetBringsBackWhatWasChangedButNotTheMethod) {
   EXPECT_TRUE(disegno.DestDis.empty());
 }
 
+TEST_F(AzzeramentoInMemoria, ResetShowsTheFirstSteelAndTheThirdConcrete) {
+  UtenteSceglie(InsDati, insDati.Acc, 1);
+  UtenteSceglie(InsDati, insDati.Cviti, 2);
+  UtenteSceglie(InsDati, insDati.ComboCalcestruzzo, 0);
+  UtenteSceglie(InsDati, insDati.ComboEsposizione, 2);
+  AzzeraNodo();
+  EXPECT_EQ(insDati.Acc.scelta, 0);
+  EXPECT_EQ(insDati.Cviti.scelta, 0);
+  EXPECT_EQ(nodo.MatTir.Nome, "S 235 (FE 360)");
+  EXPECT_EQ(insDati.LabNormaTir.testo, "norma 1");
+  EXPECT_EQ(insDati.ComboCalcestruzzo.scelta, 2);
+  EXPECT_EQ(nodo.MatCls.Rck, 350);
+  EXPECT_EQ(nodo.Esposizione, 0);
+}
+
 TEST_F(AzzeramentoInMemoria, JobSteelThatIsRefusedTellsSoInTheReset) {
   materiali.MatDaBase = true;
   materiali.MatBaseAcc1.Nome = "ALTRO";

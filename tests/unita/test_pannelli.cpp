@@ -254,8 +254,15 @@ TEST_F(Pannelli_, DoppioClicChiamaLaCalcolatrice) {
   EXPECT_EQ(insDati.TxtSN[0].testo, "7.25");
   EXPECT_EQ(nodo.SollN[1], 725);
   suite.UnitaMomenti = "kNm";
-  Scatena(InsDati, insDati.TxtMz[0], Evento::Doppio);
-  EXPECT_NE(UltimoEvento().find("|uniprinctesto=kNm|categoriadiingresso=5|valoreingresso=0|"), std::string::npos);
+  for (Controllo* c : {&insDati.TxtTy[0], &insDati.TxtTz[0], &insDati.TxtMt[0], &insDati.TxtMy[0], &insDati.TxtMz[0]}) {
+    const bool forza = c == &insDati.TxtTy[0] || c == &insDati.TxtTz[0];
+    EXPECT_TRUE(Scatena(InsDati, *c, Evento::Doppio));
+    EXPECT_NE(UltimoEvento().find(forza ? "|uniprinctesto=kN|categoriadiingresso=4|valoreingresso=0|" : "|uniprinctesto=kNm|categoriadiingresso=5|valoreingresso=0|"),
+              std::string::npos) << c->riga->nome;
+    EXPECT_EQ(c->testo, "7.25");
+  }
+  EXPECT_EQ(nodo.SollTy[1], 725);
+  EXPECT_EQ(nodo.SollTz[1], 725);
 }
 
 TEST_F(Pannelli_, CalcolatriceCheNonParteONonRisponde) {
