@@ -8,6 +8,7 @@
 #include "core/diametri.h"
 #include "core/numeri.h"
 #include "core/piattaforma.h"
+#include "engine/ModuloCalcoliNTC.h"
 #include "engine/Nervature.h"
 #include "engine/Piastra.h"
 #include "engine/PresInfl.h"

@@ -129,13 +129,27 @@ static void ForzeInterne(StatoPresInfl& p, const Simmetrica& k) {
   for (int c = 1; c <= 3; ++c) p.Residuo[c] = std::fabs(p.ForzeInt[c] - p.Carichi[c]);
 }
 
+struct Barre { Simmetrica area[MaxTir + 1], acciaio[MaxTir + 1]; };   // of each anchor, per unit of modulus ratio and as it is
+
+// Concrete of the polygon in hand, less that at the anchors: at all of them in the first iteration, then at the compressed ones;
+// the anchors always count.
+static Simmetrica AssemblaMatrice(const StatoPresInfl& p, const Barre& b) {
+  Simmetrica k = IntegraliPoligono(p);
+  for (int i = 1; i <= p.NumBarre; ++i) {
+    const bool compressa = p.IterPres == 1 || ValorePiano(p.PianoDef, p.BarraX[i], p.BarraY[i]) < 0;
+    Togli(k, b.area[i], p.DentroBarra[i] && compressa ? 1.0 : 0.0);
+  }
+  for (int i = 1; i <= p.NumBarre; ++i) Aggiungi(k, b.acciaio[i]);
+  return k;
+}
+
 // Returns false when 100 iterations did not meet the test. K of the last assembly is left in k.
 static bool Itera(StatoPresInfl& p, Simmetrica& k) {
-  Simmetrica barra[MaxTir + 1], acciaio[MaxTir + 1];
+  Barre barre;
   const double f = E_BARRA / p.ERif;
   for (int i = 1; i <= p.NumBarre; ++i) {
-    barra[i] = ContributoBarra(p.BarraA, p.BarraX[i], p.BarraY[i]);
-    acciaio[i] = Scalata(barra[i], f);
+    barre.area[i] = ContributoBarra(p.BarraA, p.BarraX[i], p.BarraY[i]);
+    barre.acciaio[i] = Scalata(barre.area[i], f);
   }
   p.Carichi[1] *= 10;   // daN cm to daN mm
   p.Carichi[2] *= 10;
@@ -146,12 +160,7 @@ static bool Itera(StatoPresInfl& p, Simmetrica& k) {
   }
   for (p.IterPres = 1; p.IterPres <= ITER_MAX; ++p.IterPres) {
     if (p.IterPres >= ITER_MIN && t[1] > p.Residuo[1] && t[2] > p.Residuo[2] && t[3] > p.Residuo[3]) return true;
-    k = IntegraliPoligono(p);
-    for (int i = 1; i <= p.NumBarre; ++i) {
-      const bool compressa = p.IterPres == 1 || ValorePiano(p.PianoDef, p.BarraX[i], p.BarraY[i]) < 0;
-      Togli(k, barra[i], p.DentroBarra[i] && compressa ? 1.0 : 0.0);
-    }
-    for (int i = 1; i <= p.NumBarre; ++i) Aggiungi(k, acciaio[i]);
+    k = AssemblaMatrice(p, barre);
     if (p.IterPres > 1) ForzeInterne(p, k);
     RisolviSistema(k, b, p.PianoDef);
     TagliaPoligono(p);

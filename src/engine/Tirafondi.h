@@ -1,8 +1,8 @@
-// engine/Tirafondi.h - anchor rods: arms, shear and torsion, bond, resistances and ratios of the limit states.
+// engine/Tirafondi.h - anchor rods: arms, shear and torsion, bond; the constants of the allowable stresses.
 // Units     mm, daN, daN mm; strengths daN/cm2, hence the divisions by 100.
 // Signs     TfY runs against the section's y (deliberate): both shares of the torque are subtracted.
 // State     reads nodo and verifica, writes ris; nodo.MatCls.TauCls (bond stress, N/mm2 in effect) belongs to one verification.
-// Failure   zero divisors are arithmetic faults of the run, found by the driver. A resistance that is not positive gives the ratio 100.
+// Failure   zero divisors are arithmetic faults of the run, found by the driver.
 #pragma once
 #include "model/node_model.h"
 
@@ -18,9 +18,7 @@ void TaglioTirafondi(int s);       // SRfTir, TauTir, TiroTir by allowable stres
 
 // Allowable stresses: MatCls.SAmm, MatCls.TauCls (CNR 10011/88, Rck / 10 in the formulas) and the bond resistance TadRd.
 void ResistenzeTA();
-// Limit states: FvRd, FbRd[], FtRd, BpRd (NTC 2008 4.2.8.1.1), MatCls.TauCls, TadRd with its cap.
-void ResistenzeNTC();
-
-void ForzeTirafondiNTC(int s);     // FtEd of every anchor of sextet s, tension positive
-// Co1, Co2: NTC 2008 4.2.8.1.1 (4.2.65); Co3: Ft,Ed / Tad,Rd. Every sextet and anchor.
-void RapportiTirafondiNTC();
+// Bond of both methods, from the bond stress MatCls.TauCls.
+double TiroUncino();               // hooked rod: straight length, bend and rising leg
+double TiroFusto();                // rod with anchor plate: the length above the plate
+double PerditaPiastrina();         // share of the plate's concrete that is lost near the surface or the footing's edge

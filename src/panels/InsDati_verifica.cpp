@@ -31,7 +31,6 @@ static EsitoVerifica VerificaNodo() {
 
 void InsDati_Verifica(int) {
   piattaforma.attesa(true);
-  verificaPannello.esito = EsitoVerifica::NonEseguita;
   verificaPannello.esito = VerificaNodo();
   piattaforma.attesa(false);
   piattaforma.fuoco(insDati.Verifica);

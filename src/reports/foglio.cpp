@@ -1,6 +1,7 @@
 // reports/foglio.cpp - opening, sextet titles and verdicts, closing.
 #include "reports/foglio.h"
 
+#include "core/numeri.h"
 #include "core/piattaforma.h"
 #include "core/unita.h"
 #include "reports/Relazioni.h"
@@ -57,6 +58,12 @@ bool EsitoCombinazione(Foglio& f, int s) {
                          f.Verificato ? "NODO VERIFICATO IN BASE ALLA COMB. DI SOLLECITAZIONI AGENTI "
                                       : "ATTENZIONE: NODO NON VERIFICATO IN BASE ALLA COMB. DI SOLLECITAZIONI AGENTI ",
                          TestoSuUnaRiga(nodo.SollNome[s]));
+}
+
+double SMaxNervatura(int s, const int (&posizioni)[4]) {
+  double S = ris.SNerv[s][posizioni[0]];
+  for (int p : posizioni) S = MaxDi(S, ris.SNerv[s][p]);
+  return S;
 }
 
 bool Righe(Foglio& f, std::span<const char* const> righe) {

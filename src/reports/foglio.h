@@ -27,6 +27,10 @@ bool EsitoCombinazione(Foglio& f, int s);              // empty line and verdict
 // The weld at a rib's inner edge (one on each side of the column), made only with nodo.SaldInt = 1.
 inline bool SaldaturaInterna(int w) { return w == 9 || w == 19; }
 
+// Rib positions of the results under each label of both reports, and the largest stress at them, daN/mm2.
+constexpr int POSIZIONI_Z[] = {3, 4, 7, 8}, POSIZIONI_Y[] = {1, 2, 5, 6};
+double SMaxNervatura(int s, const int (&posizioni)[4]);
+
 [[nodiscard]] inline bool FineRiga(Foglio& f, std::size_t inizio) {   // inizio: where the line begins in the text
   f.file.testo.append("\r\n");
   if (!FaultAritmetico()) return true;

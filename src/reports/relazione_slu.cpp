@@ -57,9 +57,6 @@ constexpr const char* RIGHE_VER_PIASTRA[] = {"", "Verifica piastra"};
 constexpr const char* RIGHE_VER_NERVATURE[] = {"", "Verifica nervature"};
 constexpr const char* RIGHE_VER_CLS[] = {"", "Verifica pressione sul calcestruzzo"};
 
-// Rib positions of the results under each label.
-constexpr int POSIZIONI_Z[] = {3, 4, 7, 8}, POSIZIONI_Y[] = {1, 2, 5, 6};
-
 bool RigaTitoli(Foglio& f, std::span<const Colonna> colonne) {
   const std::size_t inizio = f.file.testo.size();
   for (const Colonna& c : colonne) AggiungiCella(f.file.testo, c.titolo, c.cella);
@@ -271,11 +268,9 @@ bool BloccoPiastra(Foglio& f, int s, double FdPiastra) {
 }
 
 bool RigaNervatura(Foglio& f, int s, const char* nome, const int (&posizioni)[4], double FdNerv) {
-  double S = ris.SNerv[s][posizioni[0]];
-  for (int p : posizioni) S = MaxDi(S, ris.SNerv[s][p]);
   const std::size_t inizio = f.file.testo.size();
   AggiungiCella(f.file.testo, nome, LB(9));
-  return RigaValoreLimite(f, inizio, S * f.c, FdNerv);
+  return RigaValoreLimite(f, inizio, SMaxNervatura(s, posizioni) * f.c, FdNerv);
 }
 
 bool BloccoNervature(Foglio& f, int s, double FdNerv) {

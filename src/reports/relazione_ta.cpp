@@ -14,7 +14,6 @@
 namespace {
 
 constexpr const char* TITOLO_METODO = " - METODO DELLE TENSIONI AMMISSIBILI (CNR 10011/88)";
-constexpr double CLASSE_II = 1.125;
 
 constexpr const char* RIGHE_PROFILI[] = {"", "GEOMETRIA NODO", "", "\tProfili utilizzati", "\tTipo prof.\th\tb\ta\te\tr"};
 constexpr const char* RIGHE_PIASTRE[] = {"", "\tPiastre", "\tNum.\tlz\tly\ts"};
@@ -25,9 +24,6 @@ constexpr const char* RIGHE_MATERIALI[] = {"", "MATERIALI", ""};
 constexpr const char* RIGHE_STATO[] = {"", "", "SOLLECITAZIONI AGENTI E STATO TENSIONALE", "", "\tCoefficiente di rifollamento"};
 constexpr const char* RIGHE_LIMITI[] = {"", "\tTirafondi", "\t\tS_adm tf\tT_adm tf\tTiro max tf\tS_rf_adm p"};
 constexpr const char* RIGHE_BLOCCO_SALDATURE[] = {"", "\tSaldature", "\tNome\tS_prp\tTau_pa\tTau_pe\t% su adm"};
-
-// Rib positions of the results under each label.
-constexpr int POSIZIONI_Z[] = {3, 4, 7, 8}, POSIZIONI_Y[] = {1, 2, 5, 6};
 
 bool SaldaturaElencata(int w) { return !SaldaturaInterna(w) || nodo.SaldInt == 1; }
 
@@ -135,9 +131,7 @@ bool BloccoPiastra(Foglio& f, int s, const LimitiTA& l) {
 }
 
 bool RigaNervatura(Foglio& f, int s, const char* nome, const int (&posizioni)[4], const LimitiTA& l) {
-  double S = ris.SNerv[s][posizioni[0]];
-  for (int p : posizioni) S = MaxDi(S, ris.SNerv[s][p]);
-  S *= f.c;
+  const double S = SMaxNervatura(s, posizioni) * f.c;
   if (Arrotonda1(S) > l.SAdmNerv) f.Verificato = false;
   return Riga(f, "\t", nome, "\t", RD(S), "\t\t", RD(l.SAdmNerv));
 }

@@ -58,7 +58,7 @@ double CalcolaCoeffRifollamento() {
 
 LimitiTA CalcolaLimitiTA(int s, double CoeffRifollamento) {
   LimitiTA l;
-  l.FattComb = nodo.SollCC[s] == 0 ? 1.0 : 1.125;
+  l.FattComb = nodo.SollCC[s] == 0 ? 1.0 : CLASSE_II;
   l.SAdmPiastra = LimiteAcciaio(nodo.SpessPiastra, l.FattComb);
   l.SAdmNerv = LimiteAcciaio(nodo.SpNerv, l.FattComb);
   l.SAdmTir = Arrotonda1(nodo.MatTir.Fyk / 1.33 / 1.5 * l.FattComb);

@@ -3,6 +3,8 @@
 // Failure   a zero divisor (TfFi, Sadm, a steel without weld coefficients) raises an arithmetic fault; the caller tests it.
 #pragma once
 
+constexpr double CLASSE_II = 1.125;        // load class II raises the allowable stresses of steel
+
 struct LimitiTA {                  // of one sextet; load class II raises the steel's limits, not the concrete's
   double FattComb = 0;             // 1 for class I (SollCC 0), otherwise 1.125
   double SAdmPiastra = 0, SAdmNerv = 0;      // by the plate's and the ribs' thickness, up to and over 40 mm

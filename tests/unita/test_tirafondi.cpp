@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "corredo/nodo_prova.h"
+#include "engine/ModuloCalcoliNTC.h"
 #include "engine/Tirafondi.h"
 
 namespace {
