@@ -286,6 +286,14 @@ TEST_F(CalcoliTest, FaultNellaRelazione) {             // a steel that the weld 
   EXPECT_FALSE(FaultAritmetico());
 }
 
+TEST_F(CalcoliTest, EsitoDiPrimaCancellato) {          // a run that is stopped leaves no outcome of the one before it
+  ASSERT_TRUE(EseguiVerifica());
+  ASSERT_TRUE(esitoRelazione.scritta);
+  nodo.SpessPiastra = 0;
+  EXPECT_FALSE(EseguiVerifica());
+  EXPECT_FALSE(esitoRelazione.scritta);
+}
+
 TEST_F(CalcoliTest, DueVerificheUguali) {              // a report rescales the tables in place; the next run starts from its own rows
   nodo.TipoNodo = 2;
   nodo.TipoVer = 1;

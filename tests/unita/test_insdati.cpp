@@ -455,6 +455,17 @@ TEST_F(Pannello71, VerificaDoneAndStopped) {
   EXPECT_EQ(registratore.fuoco, &insDati.Verifica);
 }
 
+TEST_F(Pannello71, VerificaRunsUnderTheWaitPointer) {
+  static bool sopra;                                 // was it there when the report was shown, before the focus came back?
+  sopra = false;
+  suite.DirLavoro = CartellaProva("insdati_attesa");
+  piattaforma.mostraTesto = [](const std::string&) { sopra = registratore.attesa && registratore.fuoco == nullptr; };
+  Scatena(InsDati, insDati.Verifica, Evento::Cambio);
+  EXPECT_TRUE(sopra);
+  EXPECT_FALSE(registratore.attesa);
+  EXPECT_EQ(registratore.fuoco, &insDati.Verifica);
+}
+
 // ---- window ----
 
 TEST_F(Pannello71, FirstShowSetsColoursAndSearchTitle) {
