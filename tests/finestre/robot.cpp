@@ -90,6 +90,7 @@ static void Scegli() {
     QTest::keyClick(d, Qt::Key_Escape);
     return;
   }
+  QTest::qWait(300);                      // the folder's listing comes from a thread of the toolkit
   auto* filtri = d->findChild<QComboBox*>("fileTypeCombo");
   if (filtri != nullptr && filtri->count() >= robot.file.filtro) {
     filtri->setFocus();

@@ -11,6 +11,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -38,7 +39,7 @@ static QColor Colore(std::int32_t c) { return QColor(c & 0xFF, (c >> 8) & 0xFF, 
 static QColor Leggibile(const QColor& sfondo) { return qGray(sfondo.rgb()) > 140 ? QColor(Qt::black) : QColor(Qt::white); }
 
 static void DipingiColori(QWidget& w, const Controllo& c) {
-  if (c.coloreSfondo < 0 && c.coloreTesto < 0) return;
+  if (c.riga->genere == Genere::Schede || (c.coloreSfondo < 0 && c.coloreTesto < 0)) return;
   QPalette p = w.palette();
   if (c.coloreSfondo >= 0) {
     const QColor sfondo = Colore(c.coloreSfondo);
@@ -99,14 +100,23 @@ static void DipingiBarra(Legame& l) {
   w.setValue(l.controllo->scelta);
 }
 
+// The colour is that of the strip behind the tabs; the pages keep the desktop's.
+static void DipingiStriscia(QTabWidget& w, const QColor& colore) {
+  const QColor desktop = QGuiApplication::palette().color(QPalette::Window);
+  QPalette striscia, pagina;
+  striscia.setColor(QPalette::Window, colore);
+  pagina.setColor(QPalette::Window, desktop);
+  w.setPalette(striscia);
+  w.setAutoFillBackground(true);
+  for (int k = 0; k < w.count(); ++k) w.widget(k)->setPalette(pagina);
+}
+
 static void DipingiSchede(Legame& l) {
   auto& w = *static_cast<QTabWidget*>(l.oggetto);
   for (int k = 0; k < w.count() && k < static_cast<int>(l.controllo->voci.size()); ++k)
     w.setTabText(k, Testo(l.controllo->voci[static_cast<std::size_t>(k)]));
   w.setCurrentIndex(l.controllo->scelta);
-  // The colour is that of the strip of the tabs; the pages keep the desktop's.
-  if (l.controllo->coloreSfondo >= 0)
-    for (int k = 0; k < w.count(); ++k) w.widget(k)->setPalette(QPalette());
+  if (l.controllo->coloreSfondo >= 0) DipingiStriscia(w, Colore(l.controllo->coloreSfondo));
 }
 
 static void DipingiImmagine(Legame& l) { static_cast<Quadro*>(l.oggetto)->Mostra(l.controllo->tela); }
