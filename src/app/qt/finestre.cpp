@@ -1,6 +1,7 @@
 // app/qt/finestre.cpp - windows from their forms; modal ones wait in an event loop of their own.
 #include "app/qt/finestre.h"
 
+#include "app/qt/anteprima.h"
 #include "app/qt/ingresso.h"
 #include "app/qt/legame.h"
 #include "app/qt/pitture.h"
@@ -22,10 +23,11 @@
 #include "ui_Soll3D.h"
 #include "ui_selezione.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QEventLoop>
-#include <QIcon>
+#include <QGridLayout>
 #include <QTimer>
 
 #include <utility>
@@ -60,6 +62,22 @@ QWidget* NuovaFinestra(const Pannello& p) {
   return nullptr;
 }
 
+// What the windows have beside the panels' controls.
+static void CollegaAnteprima() {
+  auto* b = FinestraDi(InsDati)->finestra->findChild<QAbstractButton*>("_Anteprima");
+  if (b == nullptr) return;
+  CollegaTasto(*b);
+  QObject::connect(b, &QAbstractButton::clicked, b, ApriAnteprima);
+}
+
+// The bend of the hooked rod, which the panel itself carries.
+static void CollegaGancio() {
+  auto* q = FinestraDi(FormTF)->finestra->findChild<QWidget*>("_gancio");
+  if (q == nullptr) return;
+  ImpostaScala(formTF.tela, 1800, 4220, 2976, 4880);
+  static_cast<Quadro*>(q)->Mostra(&formTF.tela);
+}
+
 QStringList CreaFinestre() {
   QStringList differenze;
   for (const Pannello* p : Pannelli()) {
@@ -77,6 +95,8 @@ QStringList CreaFinestre() {
     PreparaPitture(*f.finestra);
     if (f.pannello != &InsDati) f.finestra->setParent(finestre.elenco.front().finestra, f.finestra->windowFlags());
   }
+  CollegaAnteprima();
+  CollegaGancio();
   SpiaIngresso();
   return differenze;
 }
@@ -118,12 +138,33 @@ static void AspettaChiusura(FinestraPannello& f) {
   f.ciclo = nullptr;
 }
 
+// A grid of frames of which some may be out of use: those in use stand in order, two to a row.
+static void Impagina(QWidget& finestra) {
+  auto* griglia = finestra.findChild<QGridLayout*>("_griglia");
+  if (griglia == nullptr) return;
+  QList<QWidget*> cornici;
+  while (QLayoutItem* posto = griglia->takeAt(0)) {
+    cornici += posto->widget();
+    delete posto;
+  }
+  int k = 0;
+  for (const bool inUso : {true, false})
+    for (QWidget* c : cornici)
+      if (c->isHidden() != inUso) {
+        griglia->addWidget(c, k / 2, k % 2);
+        ++k;
+      }
+  finestra.layout()->activate();
+  finestra.resize(finestra.sizeHint());
+}
+
 void ApriPannello(const Pannello& p, bool modale) {
   FinestraPannello* f = FinestraDi(p);
   if (f == nullptr || finestre.finita) return;
   QWidget& w = *f->finestra;
   PannelloMostrato(p, modale);
   DipingiPannello(p);
+  Impagina(w);
   AggiornaTitoli();
   w.setWindowModality(modale ? Qt::ApplicationModal : Qt::NonModal);
   w.show();

@@ -70,7 +70,7 @@ static void Premi(QAbstractButton& b) {
   b.click();
 }
 
-static void CollegaTasto(QAbstractButton& b) {
+void CollegaTasto(QAbstractButton& b) {
   const QString tasto = b.property("tasto").toString();
   if (tasto.isEmpty()) return;
   auto* scorciatoia = new QShortcut(QKeySequence(tasto, QKeySequence::PortableText), b.window());

@@ -158,7 +158,7 @@ static void SchemaPiastra(Foglio& f) {
   Quota(f, 1460, 260, 1460, 1260, "Lato Y");
   Quota(f, 300, 1390, 600, 1390, "Margine Z");
   Quota(f, 1080, 1000, 1080, 1260, "Margine Y");
-  Assi(f, 60, 1400, 150);
+  Assi(f, 1610, 1400, 130);
 }
 
 static void SchemaSezione(Foglio& f) {
@@ -200,13 +200,14 @@ static void TirafondoPiastra(Foglio& f) {
   Rettangolo(f, 475, 90, 50, 1110, f.ferro);
   Dadi(f, 500);
   Rettangolo(f, 350, 960, 300, 40, f.ferro);
-  for (const double y : {90.0, 330.0, 1200.0}) Riferimento(f, 525, y, 900, y);
+  for (const double y : {90.0, 330.0, 1200.0}) Riferimento(f, 525, y, 1040, y);
   Riferimento(f, 160, 1000, 350, 1000);
   for (const double x : {350.0, 650.0}) Riferimento(f, x, 1000, x, 1130);
-  Quota(f, 860, 90, 860, 330, "L fuori plinto");
-  Quota(f, 860, 330, 860, 1200, "L");
+  Quota(f, 1000, 90, 1000, 330, "L fuori plinto");
+  Quota(f, 1000, 330, 1000, 1200, "L");
   Quota(f, 200, 330, 200, 1000, "L1");
-  Quota(f, 350, 1110, 650, 1110, "Lato piastra");
+  Quota(f, 350, 1110, 650, 1110, "");
+  Scritta(f, 650, 1110, "Lato piastra", 8 + f.p.fontMetrics().horizontalAdvance("Lato piastra") / 2.0);
   Quota(f, 700, 960, 700, 1000, "LF");
 }
 
@@ -226,10 +227,10 @@ static void TirafondoUncino(Foglio& f) {
   asta.closeSubpath();
   Riempi(f, asta, f.ferro);
   Dadi(f, 600);
-  for (const double y : {90.0, 330.0, 1220.0}) Riferimento(f, 625, y, 900, y);
+  for (const double y : {90.0, 330.0, 1220.0}) Riferimento(f, 625, y, 1040, y);
   for (const double y : {640.0, 1040.0}) Riferimento(f, 120, y, 265, y);
-  Quota(f, 860, 90, 860, 330, "L fuori plinto");
-  Quota(f, 860, 330, 860, 1220, "L");
+  Quota(f, 1000, 90, 1000, 330, "L fuori plinto");
+  Quota(f, 1000, 330, 1000, 1220, "L");
   Quota(f, 160, 640, 160, 1040, "L1");
   Penna(f, f.quota, 1);
   Linea(f, 445, 1040, 318, 1167);
@@ -258,10 +259,10 @@ static const RigaPittura PITTURE[] = {
   { "tipo1",     QRectF(0, 0, 1440, 1440),   Tipo1 },
   { "tipo2",     QRectF(0, 0, 1440, 1440),   Tipo2 },
   { "tirafondi", QRectF(0, 0, 2196, 1548),   SchemaTirafondi },
-  { "piastra",   QRectF(0, 0, 1800, 1500),   SchemaPiastra },
+  { "piastra",   QRectF(240, 40, 1580, 1440), SchemaPiastra },
   { "sezione",   QRectF(120, 0, 960, 1000),  SchemaSezione },
-  { "asta1",     QRectF(40, 40, 1120, 1240), TirafondoPiastra },
-  { "asta2",     QRectF(40, 40, 1120, 1240), TirafondoUncino },
+  { "asta1",     QRectF(40, 40, 1400, 1240), TirafondoPiastra },
+  { "asta2",     QRectF(40, 40, 1400, 1240), TirafondoUncino },
   { "linea0",    QRectF(0, 0, 100, 10),      Linea0 },
   { "linea1",    QRectF(0, 0, 100, 10),      Linea1 },
   { "linea2",    QRectF(0, 0, 100, 10),      Linea2 },
@@ -275,7 +276,7 @@ void DipingiPittura(QPainter& p, const QString& nome, const QWidget& w, const QR
   for (const RigaPittura& r : PITTURE) {
     if (nome != QLatin1String(r.nome)) continue;
     Foglio f{p, VistaSu(r.riquadro, posto), c.color(QPalette::WindowText), scuro ? QColor(120, 190, 255) : QColor(20, 80, 150),
-             scuro ? QColor(88, 108, 132) : QColor(176, 196, 216), scuro ? QColor(60, 64, 70) : QColor(236, 238, 240), QColor(192, 0, 0)};
+             scuro ? QColor(82, 116, 156) : QColor(176, 196, 216), scuro ? QColor(124, 130, 138) : QColor(236, 238, 240), QColor(192, 0, 0)};
     if (!w.isEnabled()) p.setOpacity(0.45);
     p.save();
     r.dipingi(f);

@@ -7,10 +7,10 @@
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "drawing/disegno.h"
+#include "drawing/formats/carta.h"
 #include "drawing/formats/scrittori.h"
 #include "model/node_model.h"
 
-constexpr double MARGINE = 20;                // mm of paper around the drawing
 constexpr double MAIUSCOLE = 0.73, PASSO_FONT = 0.602;   // of a usual font of fixed width, in parts of its size: capitals' height, advance
 
 // Colours by index, dark enough for white paper.
@@ -39,16 +39,18 @@ static Pagina CalcolaPagina() {
     const double h = d.TesAlt[i] / 10.0, x = d.CoordX[d.TesPos[i]], y = d.CoordY[d.TesPos[i]];
     Allarga(p, x + l * std::cos(a) - h * std::sin(a), y + l * std::sin(a) + h * std::cos(a));
   }
-  return {p.x1 - MARGINE, p.y1 - MARGINE, p.x2 + MARGINE, p.y2 + MARGINE};
+  return {p.x1 - MARGINE_CARTA, p.y1 - MARGINE_CARTA, p.x2 + MARGINE_CARTA, p.y2 + MARGINE_CARTA};
 }
 
 static std::string N(double v) { return NumeroPiano(std::floor(v * 1000 + 0.5) / 1000); }
 
-static const char* ColoreCarta(int i) { return COLORI_CARTA[i >= 0 && i <= 7 ? i : 0]; }
+const char* ColoreCarta(int i) { return COLORI_CARTA[i >= 0 && i <= 7 ? i : 0]; }
+
+const char* TratteggioCarta(int tipo) { return TRATTI[tipo >= 1 && tipo <= 4 ? tipo : 0]; }
 
 static std::string Stile(int colore, int tipo) {
   std::string s = std::string("stroke=\"") + ColoreCarta(colore) + '"';
-  if (tipo >= 1 && tipo <= 4) s += std::string(" stroke-dasharray=\"") + TRATTI[tipo] + '"';
+  if (*TratteggioCarta(tipo) != '\0') s += std::string(" stroke-dasharray=\"") + TratteggioCarta(tipo) + '"';
   return s + "/>\n";
 }
 
