@@ -163,7 +163,9 @@ void ApriPannello(const Pannello& p, bool modale) {
   if (f == nullptr || finestre.finita) return;
   QWidget& w = *f->finestra;
   PannelloMostrato(p, modale);
-  DipingiPannello(p);
+  // The main panel comes up when every record has its texts of creation: the others are painted for the first time with it.
+  for (const FinestraPannello& altra : finestre.elenco)
+    if (altra.pannello == &p || &p == &InsDati) DipingiPannello(*altra.pannello);
   Impagina(w);
   AggiornaTitoli();
   w.setWindowModality(modale ? Qt::ApplicationModal : Qt::NonModal);

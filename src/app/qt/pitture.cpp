@@ -276,7 +276,7 @@ void DipingiPittura(QPainter& p, const QString& nome, const QWidget& w, const QR
   for (const RigaPittura& r : PITTURE) {
     if (nome != QLatin1String(r.nome)) continue;
     Foglio f{p, VistaSu(r.riquadro, posto), c.color(QPalette::WindowText), scuro ? QColor(120, 190, 255) : QColor(20, 80, 150),
-             scuro ? QColor(82, 116, 156) : QColor(176, 196, 216), scuro ? QColor(124, 130, 138) : QColor(236, 238, 240), QColor(192, 0, 0)};
+             scuro ? QColor(82, 116, 156) : QColor(176, 196, 216), scuro ? QColor(88, 94, 102) : QColor(236, 238, 240), QColor(192, 0, 0)};
     if (!w.isEnabled()) p.setOpacity(0.45);
     p.save();
     r.dipingi(f);
