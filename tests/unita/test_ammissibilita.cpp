@@ -57,6 +57,7 @@ TEST_F(ControlliTest, Colonna) {                      // as wide as the plate pa
 TEST_F(ControlliTest, Piastra) {
   EXPECT_EQ(Dopo([] { nodo.SpessPiastra = 0; }), Eventi{ Domanda(T2) });
   EXPECT_TRUE(esito);                                  // OK leaves the result
+  EXPECT_EQ(Dopo([] { nodo.SpessPiastra = 0.5; }), Eventi{});
   EXPECT_EQ(Dopo([] { nodo.LatoZ = 0; })[1], Domanda(T2));
   EXPECT_EQ(Dopo([] { nodo.LatoY = 0; })[1], Domanda(T2));
 }
@@ -64,6 +65,7 @@ TEST_F(ControlliTest, Piastra) {
 TEST_F(ControlliTest, Tirafondo) {
   const auto soloT3 = Eventi{ Domanda(T3) };
   EXPECT_EQ(Dopo([] { nodo.TfL = 0; }), soloT3);
+  EXPECT_EQ(Dopo([] { nodo.TfL = 0.5; }), Eventi{});
   EXPECT_EQ(Dopo([] { nodo.TfL1 = 0; nodo.TfR = 0; }), Eventi{});          // these may be 0
   EXPECT_EQ(Dopo([] { nodo.TfL1 = -1; }), soloT3);
   EXPECT_EQ(Dopo([] { nodo.TfR = -1; }), soloT3);
@@ -94,11 +96,16 @@ TEST_F(ControlliTest, ForiSovrapposti) {
   const Coppia COPPIE[] = {
     { 0, 3, 'Y', 149 }, { 1, 8, 'Z', 149 }, { 1, 8, 'Z', 251 }, { 1, 5, 'Y', 149 }, { 1, 5, 'Y', 351 },
     { 2, 5, 'Y', 149 }, { 2, 5, 'Y', 351 }, { 3, 6, 'Z', 149 }, { 3, 6, 'Z', 251 }, { 3, 3, 'Y', 149 },
+    { 1, 3, 'Y', 349 }, { 2, 3, 'Y', 349 },
   };
   for (const Coppia& c : COPPIE)
     EXPECT_EQ(Dopo([&] { SchemaProva(c.schema); (c.asse == 'Z' ? nodo.TfZ : nodo.TfY)[c.sposta] = c.valore; }), Eventi{ Domanda(T4) })
         << c.schema << ' ' << c.sposta;
-  EXPECT_EQ(Dopo([] { nodo.TfZ[2] = 149; nodo.TfZ[4] = 149; }), (Eventi{ Domanda(T4), Avviso(T10) }));
+  for (const int schema : { 0, 1, 2, 3 }) {            // anchors 1 and 2 also meet the column's face; 2 along Y and 4 are in no pair
+    EXPECT_EQ(Dopo([&] { SchemaProva(schema); nodo.TfZ[2] = 149; }), (Eventi{ Domanda(T4), Avviso(T10) })) << schema;
+    EXPECT_EQ(Dopo([&] { SchemaProva(schema); nodo.TfY[1] = 401; }), (Eventi{ Domanda(T4), Avviso(T10) })) << schema;
+    EXPECT_EQ(Dopo([&] { SchemaProva(schema); nodo.TfY[2] = 449; nodo.TfZ[4] = 51; nodo.TfZ[3] = 349; }), Eventi{}) << schema;
+  }
   // Two pairs at fault: one box. Without holes in the footing none, wherever the anchors stand.
   EXPECT_EQ(Dopo([] { nodo.TfDForo = 500; nodo.TfLFt = 520; }), Eventi{ Domanda(T4) });
   EXPECT_EQ(Dopo([] { nodo.TfDForo = 500; nodo.TfLFt = 520; nodo.TfLF = 0; }), Eventi{});
@@ -136,6 +143,7 @@ TEST_F(ControlliTest, OrdineERifiuto) {
 TEST_F(ControlliTest, FuoriDallaPiastra) {
   const auto solo9 = Eventi{ Avviso(T9) };
   EXPECT_EQ(Dopo([] { nodo.TfZ[1] = 0; }), Eventi{});                      // on the edge
+  EXPECT_EQ(Dopo([] { nodo.TfLF = 0; nodo.TfZ[2] = 0; nodo.TfY[4] = 0; nodo.TfY[1] = 500; }), Eventi{ Avviso(T10) });    // on the far edges
   EXPECT_EQ(Dopo([] { nodo.TfZ[1] = -0.1; }), solo9);
   EXPECT_FALSE(esito);
   EXPECT_EQ(Dopo([] { nodo.TfZ[2] = 400.1; }), solo9);

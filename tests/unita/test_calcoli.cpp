@@ -154,11 +154,16 @@ TEST_F(CalcoliTest, PiastraNervataPrendeLaMaggiore) {  // the strips' stresses r
   for (int d = 1; d <= 2; ++d)
     for (int i = 1; i <= 6; ++i) massima = std::max(massima, ris.SPiastraTir[1][d][i]);
   EXPECT_GE(ris.SMaxPiastra[1], massima);
+  // Four anchors: what an earlier verification left still counts, in both directions and for each anchor there is.
   SchemaProva(0);
-  ris.SPiastraTir[1][2][3] = 12345;                    // left from an earlier verification: it still counts
-  ris.SPiastraTir[1][2][5] = 99999;                    // no such anchor
-  ASSERT_TRUE(CalcolaTabelle());
-  EXPECT_EQ(ris.SMaxPiastra[1], 12345);
+  for (int d = 1; d <= 2; ++d)
+    for (int i = 1; i <= 4; ++i) {
+      for (auto& riga : ris.SPiastraTir[1]) std::fill(std::begin(riga), std::end(riga), 0.0);
+      ris.SPiastraTir[1][d][i] = 12345;
+      ris.SPiastraTir[1][d][5] = 99999;                // no such anchor
+      ASSERT_TRUE(CalcolaTabelle());
+      EXPECT_EQ(ris.SMaxPiastra[1], 12345) << d << ' ' << i;
+    }
 }
 
 TEST_F(CalcoliTest, AltraTipologia) {
