@@ -5,6 +5,7 @@
 
 #include <signal.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <cerrno>
 
@@ -44,6 +45,8 @@ static bool ScegliOMuori(const RichiestaFile&, std::string& percorso, int& filtr
   percorso = ospite.file.front().percorso;
   filtro = 1;
   if (percorso.ends_with("muore.qb7")) raise(SIGKILL);
+  if (percorso.ends_with("esce.qb7")) _exit(7);
+  if (percorso.ends_with("/lavori/NODI01/controvento_E1.qb7")) usleep(300000);
   return true;
 }
 
@@ -56,6 +59,24 @@ TEST_F(VerificaOspite, UnProcessoCheMuoreNonEEseguito) {
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD);                   // every process was reaped
   }
+}
+
+TEST_F(VerificaOspite, UnEsitoFuoriRegolaNonEEseguito) {
+  piattaforma.scegliFile = ScegliOMuori;
+  EXPECT_EQ(Verifica({Nodo("esce"), Nodo("pilastro_A1")}, 2), "2|esce.qb7: non eseguito|pilastro_A1.qb7: verificato");
+}
+
+// Two nodes of one name write one report: the later of the list stays, also when the earlier takes longer.
+TEST_F(VerificaOspite, LoStessoNomeInFila) {
+  const std::string altro = radice + "/altrove/Controvento_E1.qb7", relazione = CartellaLavoro(radice) + "RelSLU_QB07_controvento_E1.txt";
+  ScriviByte(altro, LeggiByte(Nodo("pilastro_A1")));
+  EXPECT_EQ(Verifica({altro}, 1), "0|Controvento_E1.qb7: verificato");
+  const std::string sua = LeggiByte(CartellaLavoro(radice) + "RelSLU_QB07_Controvento_E1.txt");
+  ASSERT_NE(sua, "");
+  piattaforma.scegliFile = ScegliOMuori;
+  EXPECT_EQ(Verifica({Nodo("controvento_E1"), altro}, 2), "1|controvento_E1.qb7: non verificato|Controvento_E1.qb7: verificato");
+  EXPECT_EQ(LeggiByte(CartellaLavoro(radice) + "RelSLU_QB07_Controvento_E1.txt"), sua);
+  EXPECT_EQ(LeggiByte(relazione), "");          // one file, in the spelling that was there
 }
 
 TEST_F(VerificaOspite, LoStatoEIlPiuAlto) {
