@@ -13,6 +13,7 @@
 #include "drawing/esecutivo.h"
 #include "drawing/formats/formati.h"
 #include "drawing/pianta.h"
+#include "engine/Saldature.h"
 #include "model/suite.h"
 
 namespace {
@@ -450,6 +451,34 @@ TEST_F(Foglio, NervatureInPianta) {
   Angolo(90, 85, 3);
   Angolo(-90, -85, 1);
   Angolo(-90, 85, 4);
+}
+
+// Every item of the sheet without chains, counted by hand. A mark of length L has Int(L / 7 + 0.5) - 1 strokes, one parallel line, and two
+// strokes more when of kind 1.
+TEST_F(Foglio, OgniElementoContato) {
+  suite.ParNodo[15] = 0;
+  const auto conta = [&](void (*parte)(), int linee, int archi, int testi) {
+    const int l = disegno.NumLinee, a = disegno.NumArchi, t = disegno.NumTesti;
+    parte();
+    EXPECT_EQ(disegno.NumLinee - l, linee);
+    EXPECT_EQ(disegno.NumArchi - a, archi);
+    EXPECT_EQ(disegno.NumTesti - t, testi);
+  };
+  CostruisciSaldature();
+  Prepara();
+  // rod: 2 through the plate, 2 sides and cap, 3 nuts of 5, 4 sides, 4 of the anchor plate, 2 of its welds = 30 and 4 arcs
+  // ribs a side: 4 edges, faces of 150 (20 + 2 + 1 + 1 and 20 + 1 + 1), foot 40 (6) and 22 (3) = 59; plate 12, column 2 + 26 + 2 + 1,
+  // footing 11, sections 6
+  conta(VistaBB, 2 * 59 + 2 * 30 + 12 + 31 + 11 + 6, 4 + 8, 5);
+  // foot 50 (7) and 60 (9), the rib across the column, no foot weld of the column
+  conta(VistaAA, 2 * 66 + 1 + 2 * 30 + 12 + 5 + 11 + 6, 4 + 8, 5);
+  // ribs a side: 4 faces of 150 (22), one of 184 (27), 4 of 102 (16), 6 ends; 3 rectangles, 4 diagonals, 4 crosses; section 12 with marks
+  // 2 of 146 (21), 4 of 73 (10), 2 of 180 (26); 2 inner lines; sections 6. Arcs: 28 corners, 4 anchors, 4 fillets
+  conta(VistaCC, 2 * (88 + 27 + 64 + 6) + 12 + 4 + 8 + 12 + 42 + 40 + 52 + 2 + 6, 28 + 4 + 4, 4 + 8);
+  // head 5, rod 10, four dimensions with two circles each; label
+  conta(DettaglioTirafondo, 15 + 4, 4 + 8, 5);
+  // grids: rows + 1 and columns + 1; cells: 10, 8, 12, 6, 39 x 3
+  conta(Distinta, 9 + 8 + 9 + 7 + 44, 0, 10 + 8 + 12 + 6 + 117);
 }
 
 TEST_F(Foglio, LineaConFori) {
