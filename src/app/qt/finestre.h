@@ -25,7 +25,6 @@ struct StatoFinestre {
   int comandi = 0;                        // events of the user that are running on the panel in front: 0 or 1
   bool occupato = false;                  // an outside program is waited for: input is dropped
   bool finita = false;                    // the program has asked for its end
-  bool spiate = false;                    // the filter of the application is in place
   QString ultimaCartella;                 // of the last file dialog
   void (*dentroModale)(const Pannello& p) = nullptr;   // tests: works inside a modal panel once it is on screen
 };

@@ -311,7 +311,9 @@ struct Filtro : QObject {
 }  // namespace
 
 void SpiaIngresso() {
-  if (finestre.spiate) return;
-  finestre.spiate = true;
-  qApp->installEventFilter(new Filtro(qApp));
+  static constexpr const char* NOME = "SpiaIngresso";
+  if (qApp->findChild<QObject*>(NOME) != nullptr) return;
+  auto* filtro = new Filtro(qApp);
+  filtro->setObjectName(NOME);
+  qApp->installEventFilter(filtro);
 }

@@ -125,6 +125,7 @@ void QtTimer(Temporizzatore quale, int ms, void (*scaduto)()) {
     t = new QTimer(qApp);
     t->setObjectName(nome);
     t->setSingleShot(true);
+    t->setTimerType(Qt::PreciseTimer);       // a coarse one may come 5 per cent early
   }
   t->disconnect();
   if (ms <= 0 || scaduto == nullptr) {

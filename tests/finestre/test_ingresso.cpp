@@ -1,0 +1,164 @@
+// finestre/test_ingresso.cpp - what the user does with mouse and keyboard, on the whole program.
+#include "app/qt/finestre.h"
+#include "app/qt/legame.h"
+#include "model/node_model.h"
+#include "panels/FormTF.h"
+#include "panels/InsDati.h"
+#include "panels/InsDati_eventi.h"
+#include "panels/pannelli.h"
+#include "scena.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+TEST(Ingresso, IlFuocoSelezionaTuttoIlTesto) {
+  const Scena s("fuoco");
+  ASSERT_NE(s.principale, nullptr);
+  MostraPagina(CampoDi(insDati.LatoTxt[2]));
+  QTest::mouseClick(CampoDi(insDati.LatoTxt[2]), Qt::LeftButton);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(CampoDi(insDati.LatoTxt[2])->selectedText(), "100");      // the margin of a new node
+}
+
+// Margins 120 with a column 300 wide: the side is 2 x 120 + 300 = 540, shown when the field is left.
+TEST(Ingresso, LasciareUnCampoValeInvio) {
+  const Scena s("lasciare");
+  Scrivi(insDati.LatoTxt[2], "120");
+  EXPECT_EQ(nodo.LatoZ, 540);
+  EXPECT_EQ(CampoDi(insDati.LatoTxt[0])->text(), "500");
+  QTest::keyClick(CampoDi(insDati.LatoTxt[2]), Qt::Key_Tab);
+  EXPECT_EQ(CampoDi(insDati.LatoTxt[0])->text(), "540");
+}
+
+TEST(Ingresso, LaVirgolaNonEIlSeparatore) {
+  const Scena s("virgola");
+  Scrivi(insDati.LatoTxt[4], "12,5");
+  EXPECT_EQ(nodo.SpessPiastra, 12);
+  EXPECT_TRUE(QToolTip::text().contains("punto")) << Utf8(QToolTip::text());
+  QToolTip::hideText();
+}
+
+TEST(Ingresso, TestiLunghiEAccentiNonFannoDanno) {
+  const Scena s("lunghi");
+  InsDati_Singolo(0);
+  MostraPagina(CampoDi(insDati.Lsa[0]));
+  CampoDi(insDati.Lsa[0])->setFocus();
+  CampoDi(insDati.Lsa[0])->selectAll();
+  CampoDi(insDati.Lsa[0])->insert(QString(20000, QChar(0x00E8)) + QString::fromUtf8("€漢"));
+  QTest::keyClick(CampoDi(insDati.Lsa[0]), Qt::Key_X);
+  EXPECT_EQ(nodo.SollNome[1].size(), 2u * 20000 + 3 + 3 + 1);         // UTF-8: 2 bytes an è, 3 each of the others
+  for (int k = 0; k < 400; ++k) QTest::keyClick(CampoDi(insDati.TxtSN[0]), Qt::Key_9);
+  EXPECT_TRUE(std::isfinite(nodo.SollN[1]));
+}
+
+TEST(Ingresso, RotellaEFrecceMuovonoLaLista) {
+  const Scena s("rotella");
+  for (int k = 0; k < 8; ++k) InsDati_Singolo(0);
+  QLineEdit* campo = CampoDi(insDati.TxtSN[4]);
+  MostraPagina(campo);
+  EXPECT_EQ(insDati.ScrollSa.scelta, 6);                              // eight groups: the last five, 8 - 2
+  QWheelEvent su(QPointF(5, 5), campo->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(campo, &su);
+  EXPECT_EQ(insDati.ScrollSa.scelta, 5);
+  EXPECT_EQ(CampoDi(insDati.Lsa[0])->text(), "Soll 3");
+  campo->setFocus();
+  QTest::keyClick(campo, Qt::Key_Down);
+  EXPECT_EQ(insDati.ScrollSa.scelta, 6);
+  QTest::keyClick(campo, Qt::Key_Up);
+  EXPECT_TRUE(CampoDi(insDati.TxtSN[3])->hasFocus());
+  QTest::keyClick(CampoDi(insDati.TxtSN[3]), Qt::Key_PageUp);
+  EXPECT_EQ(insDati.ScrollSa.scelta, 3);
+}
+
+TEST(Ingresso, DuecentoSestetti) {
+  const Scena s("duecento");
+  for (int k = 0; k < 200; ++k) InsDati_Singolo(0);
+  EXPECT_EQ(static_cast<QScrollBar*>(OggettoDi(insDati.ScrollSa))->maximum(), 198);
+  PoiDavanti([](QWidget* w) {
+    auto* box = dynamic_cast<QMessageBox*>(w);
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->text(), "Errore:numero di sollecitazioni eccessivo");
+    EXPECT_EQ(box->windowTitle(), "ERRORE");
+    EXPECT_EQ(box->icon(), QMessageBox::Warning);
+    box->close();
+  });
+  InsDati_Singolo(0);
+  EXPECT_EQ(nodo.NumSoll, 200);
+}
+
+TEST(Ingresso, LaDomandaSiAnnullaDaTastiera) {
+  const Scena s("domanda");
+  InsDati_Singolo(0);
+  PoiDavanti([](QWidget* w) {
+    auto* box = dynamic_cast<QMessageBox*>(w);
+    ASSERT_NE(box, nullptr);
+    QStringList bottoni;
+    for (const QAbstractButton* b : box->buttons()) bottoni += QString(b->text()).remove('&');
+    bottoni.sort();
+    EXPECT_EQ(bottoni, (QStringList{"Annulla", "OK"}));
+    EXPECT_EQ(box->windowTitle(), "ATTENZIONE!");
+    QTest::keyClick(box, Qt::Key_Escape);
+  });
+  QPushButton* comando = static_cast<QPushButton*>(OggettoDi(insDati.RimuoviTSA));
+  MostraPagina(comando);
+  QTest::mouseClick(comando, Qt::LeftButton);
+  EXPECT_EQ(nodo.NumSoll, 1);
+}
+
+TEST(Ingresso, LaRigaDiStatoDopoOttocentoMillisecondi) {
+  const Scena s("stato");
+  QWidget* w = OggettoDi(insDati.Verifica);
+  QMouseEvent e(QEvent::MouseMove, QPointF(w->rect().center()), w->mapToGlobal(QPointF(w->rect().center())), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+  QElapsedTimer orologio;
+  orologio.start();
+  QApplication::sendEvent(w, &e);
+  EXPECT_FALSE(OggettoDi(insDati.Help)->isVisible());
+  ASSERT_TRUE(QTest::qWaitFor([] { return OggettoDi(insDati.Help)->isVisible(); }, 60000));
+  EXPECT_GE(orologio.elapsed(), 790);
+  EXPECT_EQ(insDati.Help.testo, "Verifica tensionale del nodo");
+}
+
+TEST(Ingresso, LaCrocePrincipaleEIlComandoChiudi) {
+  const Scena s("croce");
+  s.principale->close();
+  EXPECT_TRUE(finestre.finita);
+}
+
+// The cross of the anchor chooser: the model keeps its sizes.
+TEST(Ingresso, LaCroceDeiTirafondiNonPrendeLeMisure) {
+  const Scena s("croce_tf");
+  const double prima = nodo.TfL;
+  PoiDavanti([](QWidget* w) {
+    ASSERT_EQ(w, FinestraDi(FormTF)->finestra);
+    Scrivi(formTF.GeoTfTxt[12], "777");
+    w->close();
+  });
+  MostraPagina(OggettoDi(insDati.DimTf));
+  QTest::mouseClick(OggettoDi(insDati.DimTf), Qt::LeftButton);
+  EXPECT_FALSE(formTF.aperto);
+  EXPECT_EQ(nodo.TfL, prima);
+}
+
+TEST(Ingresso, LaFinestraSiStringeESiAllarga) {
+  const Scena s("misure");
+  for (const QSize m : {QSize(1, 1), QSize(6000, 4000), QSize(1280, 720), QSize(300, 3000)}) {
+    s.principale->resize(m);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(s.principale->grab().isNull());
+  }
+  s.principale->resize(1, 1);
+  EXPECT_LE(s.principale->width(), 1280);
+  EXPECT_LE(s.principale->height(), 720);
+}

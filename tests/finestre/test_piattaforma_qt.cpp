@@ -1,0 +1,156 @@
+// finestre/test_piattaforma_qt.cpp - the operations of the platform with windows.
+#include "app/qt/anteprima.h"
+#include "app/qt/finestre.h"
+#include "app/qt/mostra_testo.h"
+#include "app/qt/piattaforma_qt.h"
+#include "drawing/disegno.h"
+#include "panels/InsDati.h"
+#include "scena.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QImage>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <cfenv>
+
+#include <gtest/gtest.h>
+
+TEST(PiattaformaQt, FiltriDelDialogo) {
+  const QStringList attesi{"File nodo 3 (*.qb7)", "Tutti i file (*.*)", "Immagini (*.a *.b)"};
+  EXPECT_EQ(FiltriDialogo("File nodo 3 (*.qb7)|*.qb7|Tutti i file (*.*)|*.*|Immagini|*.a;*.b"), attesi);
+  EXPECT_EQ(FiltriDialogo(""), QStringList{});
+}
+
+TEST(PiattaformaQt, IlDialogoParlaItalianoESiAnnulla) {
+  MontaPiattaformaQt();
+  finestre = {};
+  PoiDavanti([](QWidget* w) {
+    auto* d = dynamic_cast<QFileDialog*>(w);
+    ASSERT_NE(d, nullptr);
+    QStringList testi;
+    for (const QAbstractButton* b : d->findChildren<QAbstractButton*>()) testi += QString(b->text()).remove('&');
+    EXPECT_TRUE(testi.contains("Annulla")) << Utf8(testi.join(' '));
+    EXPECT_TRUE(testi.contains("Salva"));
+    EXPECT_EQ(d->windowTitle(), "TITOLO");
+    QTest::keyClick(d, Qt::Key_Escape);
+  });
+  RichiestaFile r;
+  r.salva = true;
+  r.titolo = "TITOLO";
+  r.filtro = "Testo|*.txt";
+  std::string percorso;
+  int filtro = 0;
+  EXPECT_FALSE(piattaforma.scegliFile(r, percorso, filtro));
+  EXPECT_EQ(percorso, "");
+}
+
+// The default extension goes on a name without a point; the second filter of two is number 2.
+TEST(PiattaformaQt, IlDialogoDaNomeEFiltro) {
+  MontaPiattaformaQt();
+  const QTemporaryDir cartella;
+  static QString nome;
+  nome = cartella.filePath("prova");
+  PoiDavanti([](QWidget* w) {
+    auto* d = dynamic_cast<QFileDialog*>(w);
+    ASSERT_NE(d, nullptr);
+    d->selectNameFilter(d->nameFilters().at(1));
+    d->findChild<QLineEdit*>("fileNameEdit")->setText(nome);
+    QTest::keyClick(d->findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
+  });
+  RichiestaFile r;
+  r.salva = true;
+  r.filtro = "Testo|*.txt|Tutti|*.*";
+  r.estensione = "qb7";
+  std::string percorso;
+  int filtro = 0;
+  ASSERT_TRUE(piattaforma.scegliFile(r, percorso, filtro));
+  EXPECT_EQ(percorso, Utf8(nome) + ".qb7");
+  EXPECT_EQ(filtro, 2);
+}
+
+TEST(PiattaformaQt, IProgrammiSenzaShell) {
+  MontaPiattaformaQt();
+  const QTemporaryDir cartella;
+  const QString programma = cartella.filePath("Prova con blank");
+  QFile f(programma);
+  ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+  f.write("#!/bin/sh\necho \"$#:$1\" > \"$0.esito\"\n");
+  f.close();
+  f.setPermissions(f.permissions() | QFile::ExeOwner);
+  EXPECT_TRUE(piattaforma.esegui(Utf8(programma) + ".exe |Diroot=a b| $HOME ; x"));
+  QFile esito(programma + ".esito");
+  ASSERT_TRUE(esito.open(QIODevice::ReadOnly));
+  EXPECT_EQ(esito.readAll(), "1:|Diroot=a b| $HOME ; x\n");
+  EXPECT_FALSE(finestre.occupato);
+  EXPECT_FALSE(piattaforma.esegui(Utf8(cartella.filePath("manca.exe")) + " x"));
+  EXPECT_FALSE(piattaforma.avvia(Utf8(cartella.filePath("manca.exe"))));
+  EXPECT_TRUE(piattaforma.avvia(Utf8(programma)));
+}
+
+// What the toolkit computes while it paints is no fault of the program, and hides none.
+TEST(PiattaformaQt, LeOperazioniLascianoIFlagAritmetici) {
+  const Scena s("flag");
+  std::feclearexcept(FE_ALL_EXCEPT);
+  for (Controllo* c : {&insDati.Nodo, &insDati.TraveP, &insDati.Help}) piattaforma.aggiorna(*c);
+  EXPECT_EQ(std::fetestexcept(FE_DIVBYZERO | FE_INVALID | FE_OVERFLOW), 0);
+  std::feraiseexcept(FE_DIVBYZERO);
+  piattaforma.aggiorna(insDati.Nodo);
+  EXPECT_EQ(std::fetestexcept(FE_DIVBYZERO), FE_DIVBYZERO);
+  std::feclearexcept(FE_ALL_EXCEPT);
+}
+
+TEST(PiattaformaQt, LaFinestraDelTestoCerca) {
+  const QTemporaryDir cartella;
+  QFile f(cartella.filePath("RelTA.txt"));
+  ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+  f.write("UNITA' DI MISURA\r\nprofondit\xE0 dei fori\r\nfine\r\n");     // Windows-1252
+  f.close();
+  QWidget* w = FinestraTesto(f.fileName());
+  w->show();
+  auto* testo = w->findChild<QPlainTextEdit*>();
+  EXPECT_EQ(testo->toPlainText(), QString::fromUtf8("UNITA' DI MISURA\nprofondità dei fori\nfine\n"));
+  QLineEdit* che = w->findChild<QLineEdit*>();
+  QTest::keyClicks(che, "FORI");
+  QTest::keyClick(che, Qt::Key_Return);
+  EXPECT_EQ(testo->textCursor().selectedText(), "fori");
+  w->close();
+}
+
+TEST(PiattaformaQt, LAnteprimaHaTuttoIlDisegno) {
+  const Scena s("anteprima");
+  FoglioVisto foglio;
+  ASSERT_TRUE(DisegnaFoglioVisto(foglio));
+  EXPECT_GT(foglio.linee.size(), static_cast<std::size_t>(disegno.NumLinee));    // the lines, and the strokes of the texts
+  EXPECT_EQ(foglio.archi.size(), static_cast<std::size_t>(disegno.NumArchi));
+  for (int i = 0; i < disegno.NumCoord; ++i) {
+    const bool dentro = disegno.CoordX[i] > foglio.carta.left() && disegno.CoordX[i] < foglio.carta.right();
+    ASSERT_TRUE(dentro) << i;
+  }
+  const QTemporaryDir cartella;
+  ASSERT_TRUE(SalvaFoglioPdf(foglio, cartella.filePath("a.pdf")));
+  QFile pdf(cartella.filePath("a.pdf"));
+  ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(pdf.readAll().startsWith("%PDF"));
+  ASSERT_TRUE(SalvaFoglioPng(foglio, cartella.filePath("a.png")));
+  const QImage immagine(cartella.filePath("a.png"));
+  EXPECT_EQ(std::max(immagine.width(), immagine.height()), 4000);
+  EXPECT_FALSE(SalvaFoglioPng(foglio, cartella.filePath("manca/a.png")));
+}
+
+TEST(PiattaformaQt, LAnteprimaSiApreDalSuoComando) {
+  const Scena s("anteprima_comando");
+  QTest::mouseClick(s.principale->findChild<QWidget*>("_Anteprima"), Qt::LeftButton);
+  QWidget* anteprima = nullptr;
+  for (QWidget* w : QApplication::topLevelWidgets())
+    if (w->objectName() == "Anteprima") anteprima = w;
+  ASSERT_NE(anteprima, nullptr);
+  EXPECT_TRUE(anteprima->isVisible());
+  EXPECT_EQ(anteprima->windowTitle(), "Anteprima del disegno - Nuovo");
+}
