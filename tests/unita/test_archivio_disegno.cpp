@@ -203,6 +203,21 @@ TEST_F(Archivio, La32768esimaCoordinataEUnFault) {
   EXPECT_FALSE(disegno.Interrotto);
 }
 
+// Of an arc only the start is tested.
+TEST_F(Archivio, ArcoSenzaPostoPerLaFine) {
+  disegno.NumCoord = 32765;                    // room for the centre and the start
+  DisArco(nullptr, 500, 500, 20, {}, 0, 1);
+  EXPECT_EQ(disegno.NumArchi, 1);
+  EXPECT_EQ(disegno.ArcIni[0], 32766);
+  EXPECT_LT(disegno.ArcFin[0], 0);
+  EXPECT_TRUE(disegno.Interrotto);
+  AzzeraDisegno();
+  AzzeraFault();
+  disegno.NumCoord = 32766;                    // for the centre alone
+  DisArco(nullptr, 700, 700, 20, {}, 0, 1);
+  EXPECT_EQ(disegno.NumArchi, 0);
+}
+
 TEST_F(Archivio, NumeroFuoriDaSediciBit) {
   DisTesto("a", 0, 0, 0, 3276.71, 1);          // 32767.1 rounds into range
   EXPECT_FALSE(FaultAritmetico());

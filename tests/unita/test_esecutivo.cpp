@@ -512,6 +512,52 @@ TEST_F(Foglio, FaultDaGolaMinuscola) {
   EXPECT_TRUE(disegno.DestDis.empty());
 }
 
+// What an earlier sheet or panel left behind counts for nothing.
+TEST_F(Foglio, PartePulito) {
+  nodo.NervTaglio = nodo.NervZ = nodo.NervY = 1;
+  nodo.NumSaldature = 3;
+  quote.EtichetteSald = true;
+  Disegna();
+  EXPECT_EQ(nodo.NervTaglio, 50);
+  EXPECT_EQ(nodo.NervZ, 30);
+  EXPECT_EQ(nodo.NervY, 50);
+  EXPECT_EQ(nodo.NumSaldature, 40);
+  EXPECT_EQ(ContaTesti("S21"), 1);             // in the schedule; the ribs of the plan carry no names
+}
+
+// Ribs of 300 show 450 of the column; a column of 900 is larger than the plan: A-A at -450 - 0.8 x 900, C-C at -872 - 450 - 187.5, where
+// the weld on the upper flange reaches 450 + 7 and the title stands 75 above it.
+TEST_F(Foglio, MisureGrandi) {
+  nodo.HNerv = 300;
+  Disegna();
+  EXPECT_DOUBLE_EQ(esecutivo.HColDis, 450);
+  nodo.HNerv = 150;
+  nodo.Sezione.H = 900;
+  Disegna();
+  TestoA(TrovaTesto("SEZIONE A-A"), -1170 - 11 * 9, 475, 0, 7);
+  TestoA(TrovaTesto("SEZIONE C-C"), -11 * 9, -872 - 450 - 187.5 + 532, 0, 7);
+}
+
+// Holes of 400 around anchors at -140 and 140: from -340 to 340, beyond the grout's slope at 300.
+TEST_F(Foglio, ForiOltreLaMalta) {
+  nodo.TfDForo = 400;
+  Prepara();
+  VistaBB();
+  Linea(-590, -70, -300, -70, 3);
+  Linea(590, -70, 300, -70, 3);
+  Linea(-340, -70, -150, -70, 3);
+}
+
+// Welded inside means 1; with another value the weld table holds 44 rows, the sheet leaves out 9 and 19.
+TEST_F(Foglio, SaldaturaInternaSoloUno) {
+  nodo.SaldInt = 2;
+  Disegna();
+  EXPECT_EQ(nodo.NumSaldature, 44);
+  EXPECT_EQ(ContaTesti("S9"), 0);
+  EXPECT_EQ(ContaTesti("S19"), 0);
+  EXPECT_EQ(ContaTesti("S20"), 1);
+}
+
 TEST_F(Foglio, GolaNullaSenzaMarchi) {
   nodo.Gola = 0;
   nodo.TipoTirafondo = 2;                      // no weld of the anchor plate

@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "core/aritmetica.h"
 #include "corredo/registratore.h"
 #include "drawing/disegno.h"
 #include "drawing/font.h"
@@ -147,6 +148,7 @@ TEST_F(Modello, MancanteAvvisaEProsegue) {
   EXPECT_EQ(registratore.eventi, std::vector<std::string>{
     "[messaggio] critica | NODO COLONNA - PLINTO | Errore in apertura del file C:\\suite\\custom\\cad2dmodello.grb- verranno usati i parametri disegno della versione autonoma."});
   EXPECT_EQ(stiliGrb.AltStile[1], 0);
+  EXPECT_FALSE(passi.fallito);                 // dealt with: the start goes on
 }
 
 TEST_F(Modello, TroncatoTieneGliStiliLetti) {

@@ -286,6 +286,23 @@ TEST_F(Grb, EstensioniDellUltimoDis) {
   EXPECT_EQ(File().find("0\r\n 0             0 \r\n 0             0 \r\n"), std::string::npos);
 }
 
+TEST_F(Grb, QuoteDaCapoAOgniDisegno) {
+  ASSERT_TRUE(EsportaGrb(nome, 1));
+  const int quante = disegno.NumQuote;
+  ASSERT_GT(quante, 0);
+  ASSERT_TRUE(EsportaGrb(nome, 1));
+  EXPECT_EQ(disegno.NumQuote, quante);
+}
+
+// Cut, not rounded: 1.7 is style 1.
+TEST_F(Grb, StileTroncato) {
+  suite.ParNodo[26] = 1.7;
+  suite.ParNodo[27] = 2.9;
+  ASSERT_TRUE(EsportaGrb(nome, 1));
+  EXPECT_EQ(disegno.TesCol[TrovaTesto("SEZIONE B-B")], 1);
+  EXPECT_EQ(disegno.QuoStile[0], 2);
+}
+
 TEST_F(Grb, NonCompattato) {
   ASSERT_TRUE(EsportaGrb(nome, 1));
   const int coord = disegno.NumCoord;
@@ -313,6 +330,12 @@ TEST_F(Grb, BoxDelComando) {
 
 class GenDis : public Grb {
  protected:
+  // Whether the wait pointer was up at each box.
+  static inline std::string puntatore;
+  void SegnaPuntatore() {
+    puntatore.clear();
+    piattaforma.messaggio = [](const std::string&, const std::string&, Icona) { puntatore += registratore.attesa ? '1' : '0'; };
+  }
   std::string Salvato(const std::string& f) { return "[messaggio] informazione | SALVA FILE DISEGNO | File " + f + " salvato."; }
 };
 
@@ -352,6 +375,32 @@ TEST_F(GenDis, FormatoDelFiltro) {
   EXPECT_EQ(File("/b.dis").find(inizi[0]), 0u);
   EXPECT_FALSE(registratore.attesa);
   EXPECT_EQ(registratore.eventi[5], "[messaggio] nessuna | SALVA FILE DXF | File " + cartella + "/a.dxf salvato.");
+}
+
+TEST_F(GenDis, PuntatoreDiAttesa) {
+  SegnaPuntatore();
+  EXPECT_TRUE(ComandoGrb(nome, 0));
+  registratore.file.push_back({cartella + "/a.dis", 2});
+  ScegliFileDisegno();
+  EXPECT_EQ(puntatore, "11");
+  EXPECT_FALSE(registratore.attesa);
+}
+
+TEST_F(GenDis, AltroFiltroEDxf) {
+  registratore.file.push_back({cartella + "/a.svg", 4});
+  ScegliFileDisegno();
+  EXPECT_EQ(File("/a.svg").find(" 0\r\nSECTION"), 0u);
+}
+
+// With a file chosen the store is empty, whatever becomes of the drawing.
+TEST_F(GenDis, FileSceltoVuotaLArchivio) {
+  DisLinea(nullptr, 0, 0, 1, 1);
+  suite.ParNodo[26] = 0;                       // no such style: nothing is drawn
+  registratore.file.push_back({nome, 1});
+  ScegliFileDisegno();
+  EXPECT_TRUE(esitoDisegno.fallito);
+  EXPECT_EQ(disegno.NumLinee, 0);
+  EXPECT_EQ(disegno.NumCoord, 0);
 }
 
 TEST_F(GenDis, DialogoFallitoConUnNome) {

@@ -315,6 +315,15 @@ TEST_F(Pannelli_, PrimoClicAvviaIlVisualizzatoreEScriveIlDisegno) {
   EXPECT_FALSE(registratore.attesa);
 }
 
+TEST_F(Pannelli_, VisualizzatoreColPuntatoreDiAttesa) {
+  static bool attesa;
+  attesa = false;
+  piattaforma.avvia = [](const std::string&) { return attesa = registratore.attesa; };
+  Premi(InsDati, "ApriVis");
+  EXPECT_TRUE(attesa);
+  EXPECT_FALSE(registratore.attesa);
+}
+
 TEST_F(Pannelli_, SecondoClicLoFaRicaricare) {
   const std::string finestra = "VISUALIZZAZIONE FILE DISEGNO - " + suite.DirProgra + "\\nodo.dis";
   registratore.finestre.push_back(finestra);

@@ -140,6 +140,24 @@ TEST_F(Misure, LargaABastanzaAzzeraLAlternanza) {
   EXPECT_DOUBLE_EQ(X(2), 120);                               // across again, since the wide one in between cleared it
 }
 
+// A text of 20 on a link of 20 is not too wide; the narrow link behind it goes across.
+TEST_F(Misure, LargoQuantoLaLineaResta) {
+  const double a[] = {0, 0, 5, 25, 30};
+  CatenaO(a, 4, 100);
+  ASSERT_EQ(disegno.NumTesti, 3);
+  EXPECT_DOUBLE_EQ(Y(0), 80);
+  EXPECT_DOUBLE_EQ(Y(1), 105);
+  EXPECT_DOUBLE_EQ(Y(2), 80);
+}
+
+// Only -1 is text alone; colour 0 arrives as 1.
+TEST_F(Misure, ColoreZeroHaLaLinea) {
+  DisQuota("", 0, 100, 0, 0, 0, 6, 10, 15, 5, 1);
+  ASSERT_EQ(disegno.NumLinee, 1);
+  EXPECT_EQ(disegno.LinCol[0], 1);
+  EXPECT_EQ(disegno.NumArchi, 2);
+}
+
 TEST_F(Misure, FuoriCatenaIlTestoLargoResta) {
   Quota("", 0, 5, 0, 0);
   Quota("", 5, 10, 0, 0);
