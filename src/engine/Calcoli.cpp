@@ -14,6 +14,7 @@
 #include "engine/PresInfl.h"
 #include "engine/Saldature.h"
 #include "engine/Tirafondi.h"
+#include "engine/verifica.h"
 #include "model/suite.h"
 #include "reports/Relazioni.h"
 

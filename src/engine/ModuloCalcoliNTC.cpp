@@ -7,8 +7,8 @@
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "core/unita.h"
-#include "engine/Calcoli.h"
 #include "engine/Tirafondi.h"
+#include "engine/verifica.h"
 #include "model/suite.h"
 
 constexpr double RAPPORTO_SENZA_RESISTENZA = 100;

@@ -4,9 +4,9 @@
 #include <cmath>
 
 #include "core/numeri.h"
-#include "engine/Calcoli.h"
 #include "engine/PresInfl.h"
 #include "engine/Tirafondi.h"
+#include "engine/verifica.h"
 
 constexpr int STRISCE = 100;
 constexpr double PIANO_COSTANTE = 1e-12;     // a coefficient of the plane up to it counts as zero

@@ -5,8 +5,8 @@
 #include <cmath>
 
 #include "core/numeri.h"
-#include "engine/Calcoli.h"
 #include "engine/Tirafondi.h"
+#include "engine/verifica.h"
 
 constexpr double QUOTA_H = 0.95, QUOTA_B = 0.8;     // of the column's sides from where the plate cantilevers; every section
 

@@ -7,8 +7,8 @@
 
 #include "core/numeri.h"
 #include "core/unita.h"
-#include "engine/Calcoli.h"
 #include "engine/Nervature.h"
+#include "engine/verifica.h"
 #include "model/saldature_colonna.h"
 
 // Shear carried by weld w = 1..28: z Tz, y Ty, i Ty only if SaldInt = 1. Index 0 free.

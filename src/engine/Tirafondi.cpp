@@ -5,7 +5,7 @@
 
 #include "core/numeri.h"
 #include "core/unita.h"
-#include "engine/Calcoli.h"
+#include "engine/verifica.h"
 
 void InerziaTirafondi(double& somma, double (&armZ)[MaxTir + 1], double (&armY)[MaxTir + 1]) {
   somma = 0;

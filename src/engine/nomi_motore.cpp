@@ -1,8 +1,8 @@
 // engine/nomi_motore.cpp - names of verifica and presInfl; vectors and matrices from 1, where the program counts from 1.
 #include "engine/nomi_motore.h"
 
-#include "engine/Calcoli.h"
 #include "engine/PresInfl.h"
+#include "engine/verifica.h"
 
 static constexpr RigaNome NOMI[] = {
   VOCE(verifica, AreaTf), VOCE(verifica, ArmZ), VOCE(verifica, ArmY), VOCE(verifica, SommaR2), VOCE(verifica, IzSald),

@@ -1,5 +1,6 @@
 // tests/unita/test_calcoli.cpp - the driver: order, rows, typologies, failures, messages. Base joint of corredo/nodo_prova.h.
 #include "engine/Calcoli.h"
+#include "engine/verifica.h"
 
 #include <gtest/gtest.h>
 

@@ -8,6 +8,7 @@
 #include "corredo/nodo_prova.h"
 #include "engine/Nervature.h"
 #include "engine/PresInfl.h"
+#include "engine/verifica.h"
 
 namespace {
 

@@ -9,9 +9,9 @@
 
 #include "drawing/disegno.h"
 #include "drawing/nomi_disegno.h"
-#include "engine/Calcoli.h"
 #include "engine/PresInfl.h"
 #include "engine/nomi_motore.h"
+#include "engine/verifica.h"
 #include "link/collegamento.h"
 #include "link/nomi_collegamento.h"
 #include "model/materiali.h"

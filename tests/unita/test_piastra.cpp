@@ -9,6 +9,7 @@
 #include "corredo/nodo_prova.h"
 #include "engine/Piastra.h"
 #include "engine/Tirafondi.h"
+#include "engine/verifica.h"
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include "corredo/nodo_prova.h"
 #include "engine/PresInfl.h"
 #include "engine/Saldature.h"
+#include "engine/verifica.h"
 
 namespace {
 

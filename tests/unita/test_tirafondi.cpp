@@ -8,6 +8,7 @@
 #include "corredo/nodo_prova.h"
 #include "engine/ModuloCalcoliNTC.h"
 #include "engine/Tirafondi.h"
+#include "engine/verifica.h"
 
 namespace {
 
