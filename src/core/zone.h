@@ -1,4 +1,4 @@
-// drawing/formats/zone.h - lines of the suite's drawing files: fields in print zones of 14 columns.
+// core/zone.h - lines of the suite's files: fields in print zones of 14 columns.
 // A number has one blank before it if not negative and one behind; a literal stands as it is. The next field begins at the next column
 // that is 1 plus a multiple of 14: a field that ends on a zone's last column is followed by the next zone at once.
 #pragma once

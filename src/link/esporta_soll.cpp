@@ -7,16 +7,15 @@
 #include "core/file.h"
 #include "core/numeri.h"
 #include "core/testo.h"
+#include "core/zone.h"
 #include "model/suite.h"
 
 namespace {
 
-constexpr std::size_t ZONA = 14;             // columns of a print zone
-
 std::string Intestazione() {
   std::string riga = "Unità di misura: " + suite.UnitaForze;
   const std::size_t colonne = NumCaratteri(riga);
-  riga.append((colonne + ZONA - 1) / ZONA * ZONA - colonne, ' ');
+  riga.append((colonne + COLONNE_ZONA - 1) / COLONNE_ZONA * COLONNE_ZONA - colonne, ' ');
   return riga + suite.UnitaLung;             // the length unit, though moments follow; deliberate
 }
 

@@ -1,10 +1,10 @@
 // test_formati.cpp - print zones, the DIS file byte by byte, its boxes, and the picture for looking.
 #include <gtest/gtest.h>
 
+#include "core/zone.h"
 #include "corredo/registratore.h"
 #include "drawing/disegno.h"
 #include "drawing/formats/scrittori.h"
-#include "drawing/formats/zone.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 
 #include "core/file.h"
 #include "core/piattaforma.h"
+#include "core/zone.h"
 #include "drawing/disegno.h"
 #include "drawing/formats/scrittori.h"
-#include "drawing/formats/zone.h"
 
 void ErroreScrittura(const std::string& nomeFile, int silenzioso) {
   if (silenzioso != 2) Messaggio("Errore durante la scrittura sul file" + nomeFile, "ERRORE", Icona::Nessuna);

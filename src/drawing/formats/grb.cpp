@@ -6,11 +6,11 @@
 #include "core/numeri.h"
 #include "core/piattaforma.h"
 #include "core/testo.h"
+#include "core/zone.h"
 #include "drawing/disegno.h"
 #include "drawing/formats/formati.h"
 #include "drawing/formats/grb_edizione.h"
 #include "drawing/formats/scrittori.h"
-#include "drawing/formats/zone.h"
 #include "model/suite.h"
 
 constexpr std::array<std::size_t, 4> CAMPI_RIGA4 = {20, 19, 19, 19};
