@@ -103,6 +103,13 @@ TEST_F(Copione, RigheSenzaIstruzione) {
   for (const char* riga : {"", "   ", "\t", "# premi InsDati.Boh", "  # altro"}) EXPECT_EQ(Stampa(riga), "") << riga;
 }
 
+// Blanks in front of the control do not count; those of the text do.
+TEST_F(Copione, BlankTraLeParole) {
+  EXPECT_EQ(Stampa("  mostra   InsDati.Verifica"), Stampa("mostra InsDati.Verifica"));
+  EXPECT_EQ(Stampa("scrivi   InsDati.GolaTxt  7"), "");
+  EXPECT_EQ(insDati.GolaTxt.testo, " 7");
+}
+
 TEST_F(Copione, RigheDelTesto) {
   CaricaCopione("\xEF\xBB\xBFuno\r\n\ndue\nà\\n");
   EXPECT_EQ(copione.righe, (std::vector<std::string>{"uno", "", "due", "à\\n"}));

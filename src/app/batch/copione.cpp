@@ -4,8 +4,8 @@
 #include "app/batch/piattaforma_batch.h"
 #include "core/eventi.h"
 #include "core/testo.h"
-#include "drawing/tela.h"
 #include "drawing/nomi_disegno.h"
+#include "drawing/tela.h"
 #include "engine/nomi_motore.h"
 #include "link/nomi_collegamento.h"
 #include "model/nomi.h"
@@ -13,6 +13,7 @@
 #include "panels/pannelli.h"
 #include "reports/Relazioni.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
 #include <map>
@@ -280,6 +281,7 @@ bool EseguiRiga(std::string_view riga) {
   if (inizio == std::string_view::npos || riga[inizio] == '#') return true;
   riga.remove_prefix(inizio);
   const std::string_view parola = Parola(riga);
+  riga.remove_prefix(std::min(riga.find_first_not_of(' '), riga.size()));
   for (const Istruzione& i : ISTRUZIONI)
     if (parola == i.parola) return i.esegui(riga);
   return false;
