@@ -4,6 +4,7 @@
 #include "core/zone.h"
 #include "corredo/registratore.h"
 #include "drawing/disegno.h"
+#include "drawing/formats/carta.h"
 #include "drawing/formats/scrittori.h"
 
 namespace {
@@ -137,6 +138,14 @@ TEST_F(Dis, Figura) {
   // font size 20 / 0.73 = 27.397; stretch 10 / (0.602 x 27.397) = 0.606
   EXPECT_NE(f.find("<text transform=\"translate(0 0) rotate(-90) scale(.606 1)\" font-size=\"27.397\" fill=\"#000000\">a&lt;b \xD8</text>"), std::string::npos);
   EXPECT_TRUE(registratore.eventi.empty());
+}
+
+TEST_F(Dis, ColoriETipiDellaFigura) {
+  const char* const colori[] = {"#000000", "#000000", "#000080", "#c00000", "#008000", "#a08000", "#006000", "#800080", "#000000"};
+  for (int i = 0; i <= 8; ++i) EXPECT_STREQ(ColoreCarta(i), colori[i]) << i;
+  EXPECT_STREQ(ColoreCarta(-1), "#000000");
+  const char* const tratti[] = {"", "24 4 4 4", "8 4", "12 4 2 4 2 4", "6 4", ""};
+  for (int t = 0; t <= 5; ++t) EXPECT_STREQ(TratteggioCarta(t), tratti[t]) << t;
 }
 
 }  // namespace

@@ -1,0 +1,375 @@
+// test_viste.cpp - the views of the sheet by hand: lines, arcs and texts of the elevations and of the plan.
+#include <utility>
+
+#include "corredo/foglio_prova.h"
+#include "drawing/Quote.h"
+
+namespace {
+
+TEST_F(Foglio, TirafondiPerVista) {
+  const int attesiB[] = {2, 3, 2, 3}, attesiA[] = {2, 3, 3, 2};
+  for (int i = 0; i < 4; ++i) {
+    nodo.OptionNTir = i;
+    Prepara();
+    VistaBB();
+    EXPECT_EQ(esecutivo.NumFori, attesiB[i]) << i;
+    VistaAA();
+    EXPECT_EQ(esecutivo.NumFori, attesiA[i]) << i;
+  }
+}
+
+TEST_F(Foglio, TerziTirafondiDalloSchema) {
+  nodo.TfZ[8] = 210;
+  nodo.TfZ[6] = 190;
+  for (const auto& [schema, x] : {std::pair{1, 10.0}, std::pair{3, -10.0}}) {
+    nodo.OptionNTir = schema;
+    Prepara();
+    VistaBB();
+    EXPECT_EQ(esecutivo.ForiX[2], x);
+    Linea(x - 10, 50, x + 10, 50, 2);          // the rod's cap
+    Linea(x - 50, -70, x - 10, -70, 3);        // footing up to it
+  }
+}
+
+// View A-A takes the sixth in both patterns, and draws it last.
+TEST_F(Foglio, TerzoTirafondoDiAA) {
+  nodo.TfY[5] = 240, nodo.TfY[6] = 262, nodo.TfY[8] = 75;
+  for (const int schema : {1, 2}) {
+    nodo.OptionNTir = schema;
+    Prepara();
+    VistaAA();
+    EXPECT_EQ(esecutivo.ForiX[0], -180);
+    EXPECT_EQ(esecutivo.ForiX[1], 180);
+    EXPECT_EQ(esecutivo.ForiX[2], 12);
+    Linea(2, 50, 22, 50, 2);
+    Linea(-38, -70, 2, -70, 3);
+  }
+}
+
+// The horizontal chains keep clear of the vertical ones: 700 take the first of these to -20 - 50 - 700, under the section line; then
+// 50 + 45 down, and 75 from chain to chain.
+TEST_F(Foglio, QuoteOrizzontaliSottoLeVerticali) {
+  nodo.TipoTirafondo = 2;                      // no anchor plate, whose thickness is measured all the same
+  nodo.TfLF = 700;
+  Prepara();
+  VistaBB();
+  Linea(-190, -865, -90, -865, 5);
+  Linea(-200, -940, -128, -940, 5);
+  Linea(-140, -1015, 140, -1015, 5);
+  EXPECT_DOUBLE_EQ(esecutivo.BoxBYMin, -1015);
+}
+
+TEST_F(Foglio, VistaBBPiastraEPlinto) {
+  Prepara();
+  VistaBB();
+  Linea(-200, 0, -200, -20, 3);                // plate's ends
+  Linea(200, 0, 200, -20, 3);
+  for (const double y : {0.0, -20.0}) {        // metal, hole, metal, hole, metal
+    Linea(-200, y, -150, y, 3);
+    Linea(-150, y, -130, y, 2);
+    Linea(-130, y, 130, y, 3);
+    Linea(130, y, 150, y, 2);
+    Linea(150, y, 200, y, 3);
+  }
+  Linea(-130, 0, -130, -20, 3);                // through the plate
+  Linea(-150, 0, -150, -20, 3);
+  Linea(-200, -20, -250, -20, 3);              // grout and slope
+  Linea(-250, -20, -300, -70, 3);
+  Linea(250, -20, 300, -70, 3);
+  Linea(-450, -70, -190, -70, 3);              // foundation, 5 M beyond the plate, up to the hole
+  Linea(-190, -70, -150, -70, 3);              // hole's edge to the rod
+  Linea(-130, -70, -90, -70, 3);
+  Linea(-90, -70, 90, -70, 3);
+  Linea(450, -70, 190, -70, 3);
+}
+
+TEST_F(Foglio, VistaBBColonna) {
+  Prepara();
+  VistaBB();
+  Linea(-90, 150, -90, 400, 2);                // above the ribs
+  Linea(90, 150, 90, 400, 2);
+  Linea(-90, 7, 90, 7, 9);                     // foot weld, whole
+  Linea(-5, 0, -5, 400, 2, 4);                 // hidden web
+  Linea(5, 0, 5, 400, 2, 4);
+  Linea(-99, 400, 99, 400, 2, 1);              // axis
+  nodo.TipoNodo = 1;
+  nodo.OptionNTir = 3;
+  Prepara();
+  VistaBB();
+  Linea(-90, 0, -90, 400, 2);
+  Manca(-5, 0, -5, 400);
+  Linea(-90, 7, -20, 7, 9);                    // room for the middle anchor
+  Linea(20, 7, 90, 7, 9);
+  Linea(-99, 400, 99, 400, 2, 1);
+}
+
+TEST_F(Foglio, VistaBBSezioniENome) {
+  Prepara();
+  VistaBB();
+  Linea(-200, 320, 200, 320, 4, 1);            // C at 0.8 x 400
+  Linea(-200, 320, -200, 357.5, 4, 1);
+  Linea(200, 320, 200, 357.5, 4, 1);
+  const int c1 = TrovaTesto("C"), c2 = TrovaTesto("C", c1);
+  TestoA(c1, -220 - 13.5 - 9, 320, 0, 7);      // between -247 and -220
+  TestoA(c2, 220 + 18 - 9, 320, 0, 7);         // between 229 and 247
+  Linea(140, 120, 140, -627, 4, 1);            // A through the right anchor, 1.1 x 570 down
+  Linea(140, 120, 167, 120, 4, 1);
+  Linea(140, -627, 167, -627, 4, 1);
+  const int a1 = TrovaTesto("A"), a2 = TrovaTesto("A", a1);
+  TestoA(a1, 153.5 - 9, 132.5, 0, 7);
+  TestoA(a2, 153.5 - 9, -627 - 37.5, 0, 7);
+  TestoA(TrovaTesto("HEX 200"), -35, 220 - 7 * 9, 90, 7);   // (-90 - 5) / 2 + 12.5, around (40 + 400) / 2
+  EXPECT_EQ(disegno.TipoLinCorr, 0);
+}
+
+TEST_F(Foglio, VistaBBNervature) {
+  Prepara();
+  VistaBB();
+  for (const int s : {-1, 1}) {
+    Linea(s * 200, 0, s * 200, 50, 2);         // plate's edge
+    Linea(s * 200, 50, s * 128, 150, 2);       // slope, whole: the rods end below it
+    Linea(s * 128, 150, s * 98, 150, 2);       // level
+    Linea(s * 90, 150, s * 98, 150, 3);        // the cut rib
+    Linea(s * 98, 0, s * 98, 150, 3);
+    Linea(s * 90, 0, s * 90, 150, 3);
+    Linea(s * 105, 0, s * 105, 150, 9);        // marks away from its steel
+    Linea(s * 83, 0, s * 83, 150, 9);
+    Linea(s * 98, 150, s * 105, 150, 9);       // end strokes on the outer face only
+    Manca(s * 90, 150, s * 83, 150);
+    Angolo(s * 90, 0, s < 0 ? 1 : 2);
+    Angolo(s * 98, 0, s < 0 ? 2 : 1);
+    Linea(s * 200, 7, s * 160, 7, 9);          // foot welds on both sides of the anchor
+    Linea(s * 120, 7, s * 98, 7, 9);
+  }
+}
+
+// Rods of 190 mm: top at 120. Slope from (200, 50) to (128, 150): y = 50 + (200 - x) 100 / 72. Rod 130 to 150: the slope is at 119.44
+// on its outer side and passes the top at x = 149.6.
+TEST_F(Foglio, TirafondoDavantiAllaNervatura) {
+  nodo.TfLFt = 190;
+  Prepara();
+  NervatureBB();
+  Linea(200, 50, 150, 50 + 50 * 100 / 72.0, 2);
+  Linea(149.6, 120, 128, 150, 2);
+  Linea(128, 150, 98, 150, 2);                 // the level part is whole
+  nodo.TfLFt = 215;                            // top at 145: the slope is 147.22 on its inner side, and passes at 131.6
+  Prepara();
+  NervatureBB();
+  Linea(131.6, 145, 128, 150, 2);
+  nodo.TfLFt = 230;                            // top at 160: over the level; rod moved to 110 .. 130, across the bend
+  nodo.TfZ[2] = 320;
+  Prepara();
+  NervatureBB();
+  Linea(200, 50, 130, 50 + 70 * 100 / 72.0, 2);
+  Manca(130, 150, 128, 150);
+  Linea(110, 150, 98, 150, 2);
+  nodo.TfLFt = 200;                            // top at 130, below the level: only the slope is looked at, and stays whole
+  nodo.TfZ[2] = 325;
+  Prepara();
+  NervatureBB();
+  Linea(128, 150, 98, 150, 2);
+}
+
+// Across the column the flat rib's edge at 150 passes behind the rods of view A-A, where there is one: top at 230 - 70 = 160.
+TEST_F(Foglio, NervaturaDietroITirafondiAttraversoLaColonna) {
+  nodo.TfLFt = 230;
+  Prepara();
+  NervatureAA();
+  Linea(-92, 150, 92, 150, 2);                 // four anchors: none at mid side
+  nodo.OptionNTir = 2;
+  nodo.TfY[6] = 256;                           // 6 from the axis: rod from -4 to 16
+  Prepara();
+  NervatureAA();
+  Linea(-92, 150, -4, 150, 2);
+  Linea(16, 150, 92, 150, 2);
+  nodo.TfY[2] = 200, nodo.TfY[4] = 300;        // anchors beside the web, at -50 and 50
+  Prepara();
+  NervatureAA();
+  Linea(-92, 150, -60, 150, 2);
+  Linea(-40, 150, -4, 150, 2);
+  Linea(16, 150, 40, 150, 2);
+  Linea(60, 150, 92, 150, 2);
+}
+
+TEST_F(Foglio, SaldaturePiedeSoloSePositive) {
+  nodo.TfZ[1] = 15;                            // anchor less Fi lies beyond the plate's edge
+  Prepara();
+  NervatureBB();
+  Linea(-165, 7, -98, 7, 9);
+  EXPECT_LT(TrovaLinea(-200, 7, -205, 7), 0);
+}
+
+TEST_F(Foglio, VistaAA) {
+  nodo.OptionNTir = 2;
+  Prepara();
+  VistaAA();
+  for (const int s : {-1, 1}) {
+    Linea(s * 250, 0, s * 250, 50, 2);
+    Linea(s * 250, 50, s * 150, 150, 2);       // 100 + NervY 50
+    Linea(s * 150, 150, s * 100, 150, 2);
+    Linea(s * 92, 150, s * 100, 150, 3);
+    Linea(s * 107, 0, s * 107, 150, 9);
+    Linea(s * 85, 0, s * 85, 150, 9);
+    Angolo(s * 92, 0, s < 0 ? 1 : 2);
+    Angolo(s * 100, 0, s < 0 ? 2 : 1);
+    Linea(s * 100, 150, s * 100, 400, 2);      // flanges above the ribs
+    Linea(s * 85, 150, s * 85, 400, 2);
+  }
+  Linea(-92, 150, 92, 150, 2);                 // the flat rib runs on across the column
+  Manca(-85, 7, 85, 7);                        // no foot weld between the flanges with ribs
+  Linea(-110, 400, 110, 400, 2, 1);
+  Linea(-250, 320, 250, 320, 4, 1);
+  Linea(-180, 120, -180, -627, 4, 1);          // B through the lower anchors, ticks to the left
+  Linea(-180, 120, -207, 120, 4, 1);
+  const int b1 = TrovaTesto("B");
+  TestoA(b1, -193.5 - 9, 132.5, 0, 7);
+  const int c1 = TrovaTesto("C");
+  TestoA(c1, -275 - 13.5 - 9, 320, 0, 7);
+  TestoA(TrovaTesto("HEX 200"), 12.5, 220 - 63, 90, 7);
+  Linea(-50, -70, -10, -70, 3);                // footing up to the middle anchor
+}
+
+TEST_F(Foglio, VistaAASenzaNervature) {
+  nodo.TipoNodo = 1;
+  Prepara();
+  VistaAA();
+  Linea(-85, 7, 85, 7, 9);
+  Linea(-100, 0, -100, 400, 2);
+  Angolo(-100, 0, 2);
+  Angolo(100, 0, 1);
+  Angolo(-85, 0, 1);
+  Angolo(85, 0, 2);
+  nodo.OptionNTir = 2;
+  Prepara();
+  VistaAA();
+  Linea(-85, 7, -20, 7, 9);
+  Linea(20, 7, 85, 7, 9);
+}
+
+TEST_F(Foglio, UncinoDrittoInAA) {
+  nodo.TipoTirafondo = 1;
+  Prepara();
+  VistaBB();
+  EXPECT_GE(TrovaArco(-140 + 10 - 70, -70 - 500 + 70, 70), 0);
+  Prepara();
+  VistaAA();
+  EXPECT_LT(TrovaArco(-180 + 10 - 70, -70 - 500 + 70, 70), 0);
+  Linea(-190, -570, -170, -570, 2);            // its lower end
+}
+
+TEST_F(Foglio, VistaCC) {
+  esecutivo.XQuoteDx = 513;
+  Prepara();
+  VistaCC();
+  Linea(-200, -250, -200, 250, 2);             // plate, grout bed, its slope
+  Linea(-250, 300, 250, 300, 2);
+  Linea(300, -350, 300, 350, 2);
+  for (const int sx : {-1, 1})
+    for (const int sy : {-1, 1}) Linea(sx * 250, sy * 300, sx * 300, sy * 350, 2);
+  Linea(-155, -180, -125, -180, 2);            // anchor 1: cross of 1.5 Fi
+  Linea(-140, -195, -140, -165, 2);
+  EXPECT_GE(TrovaArco(-140, -180, 10), 0);
+  Linea(-90, 100, 90, 100, 3);                 // section, cut
+  Linea(-90, 107, 90, 107, 9);                 // its weld 3, outside the steel
+  Linea(5 + 7, 73, 5 + 7, -73, 9);             // weld 1 right of the web
+  Linea(-330, -180, 330, -180, 4, 1);          // B at the lower anchors, ticks downward
+  Linea(330, -180, 330, -217.5, 4, 1);
+  const int b1 = TrovaTesto("B"), b2 = TrovaTesto("B", b1);
+  TestoA(b1, -330 - 13.5 - 9, -180 - 37.5, 0, 7);
+  TestoA(b2, 330 + 18 - 9, -180 - 37.5, 0, 7);
+  Linea(140, -385, 140, 385, 4, 1);            // A
+  Linea(140, 385, 167, 385, 4, 1);
+  const int a1 = TrovaTesto("A"), a2 = TrovaTesto("A", a1);
+  TestoA(a1, 153.5 - 9, -385 - 37.5, 0, 7);
+  TestoA(a2, 153.5 - 9, 385 + 12.5, 0, 7);
+  for (int w = 1; w <= 8; ++w) EXPECT_EQ(ContaTesti("S" + std::to_string(w)), 0);   // the table was not built here
+  EXPECT_LT(TrovaTesto("HEX 200"), 0);         // with ribs there is no room for the name
+  EXPECT_FALSE(quote.EtichetteSald);
+  EXPECT_DOUBLE_EQ(esecutivo.BoxCXMax, 513 + 150);
+  EXPECT_DOUBLE_EQ(esecutivo.BoxCXMin, -330 - 36 - 45);
+  EXPECT_DOUBLE_EQ(esecutivo.BoxCYMin, -385 - 50 - 45 - 150);
+  EXPECT_DOUBLE_EQ(esecutivo.BoxCYMax, 385);
+}
+
+TEST_F(Foglio, NomeInPiantaSenzaNervature) {
+  nodo.TipoNodo = 1;
+  Prepara();
+  VistaCC();
+  // right end -5 - 7 - 18 = -30; height (100 - 15 - 7) / 2 - 12.5 = 26.5
+  TestoA(TrovaTesto("HEX 200"), -30 - 7 * 18, 26.5, 0, 7);
+}
+
+// Faces of the ribs in plan with their marks on the outer side of the steel, the six ends, the corner arcs.
+TEST_F(Foglio, NervatureInPianta) {
+  Prepara();
+  disegno.ColCorr = 2;
+  NervaturePianta();
+  struct {
+    double x1, y1, x2, y2, mx, my;             // face, displacement of its mark; x times s
+  } facce[] = {
+    {90, -250, 90, -100, -7, 0}, {90, 250, 90, 100, -7, 0}, {98, -250, 98, -100, 7, 0}, {98, -92, 98, 92, 7, 0}, {98, 250, 98, 100, 7, 0},
+    {200, -100, 98, -100, 0, -7}, {200, -92, 98, -92, 0, 7}, {200, 92, 98, 92, 0, -7}, {200, 100, 98, 100, 0, 7},
+  };
+  for (const int s : {-1, 1}) {
+    for (const auto& f : facce) {
+      Linea(s * f.x1, f.y1, s * f.x2, f.y2, 2);
+      Linea(s * (f.x1 + f.mx), f.y1 + f.my, s * (f.x2 + f.mx), f.y2 + f.my, 9);
+    }
+    for (const double y : {-250.0, 250.0}) Linea(s * 90, y, s * 98, y, 2);
+    for (const double x : {200.0, 98.0}) {
+      Linea(s * x, -100, s * x, -92, 2);
+      Linea(s * x, 92, s * x, 100, 2);
+    }
+    const bool d = s > 0;                      // quadrants of the right side; the left one is its mirror
+    Angolo(s * 90, -250, d ? 2 : 1);
+    Angolo(s * 90, -100, d ? 3 : 4);
+    Angolo(s * 90, 250, d ? 3 : 4);
+    Angolo(s * 90, 100, d ? 2 : 1);
+    Angolo(s * 98, -250, d ? 1 : 2);
+    Angolo(s * 98, -100, d ? 4 : 3);
+    Angolo(s * 98, -92, d ? 1 : 2);
+    Angolo(s * 98, 92, d ? 4 : 3);
+    Angolo(s * 98, 250, d ? 4 : 3);
+    Angolo(s * 98, 100, d ? 1 : 2);
+    Angolo(s * 200, -100, d ? 3 : 4);
+    Angolo(s * 200, -92, d ? 2 : 1);
+    Angolo(s * 200, 92, d ? 3 : 4);
+    Angolo(s * 200, 100, d ? 2 : 1);
+  }
+  EXPECT_EQ(disegno.NumArchi, 28);
+  nodo.SaldInt = 1;
+  Prepara();
+  NervaturePianta();
+  EXPECT_EQ(disegno.NumArchi, 32);
+  Angolo(90, -85, 2);
+  Angolo(90, 85, 3);
+  Angolo(-90, -85, 1);
+  Angolo(-90, 85, 4);
+}
+
+TEST_F(Foglio, LineaConFori) {
+  const double centri[] = {10, 50}, larghezze[] = {4, 10};
+  Prepara();
+  LineaConFori(3, 0, 3, 100, 2, centri, larghezze);          // vertical
+  ASSERT_EQ(disegno.NumLinee, 5);
+  Linea(3, 0, 3, 8, 3);
+  Linea(3, 8, 3, 12, 2);
+  Linea(3, 12, 3, 45, 3);
+  Linea(3, 45, 3, 55, 2);
+  Linea(3, 55, 3, 100, 3);
+  Prepara();
+  LineaConFori(0, 0, 50, 50, 2, centri, larghezze);          // neither
+  EXPECT_EQ(disegno.NumLinee, 0);
+}
+
+// Holes of 400 around anchors at -140 and 140: from -340 to 340, beyond the grout's slope at 300.
+TEST_F(Foglio, ForiOltreLaMalta) {
+  nodo.TfDForo = 400;
+  Prepara();
+  VistaBB();
+  Linea(-590, -70, -300, -70, 3);
+  Linea(590, -70, 300, -70, 3);
+  Linea(-340, -70, -150, -70, 3);
+}
+
+}  // namespace
