@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 #include <QToolTip>
@@ -161,4 +162,38 @@ TEST(Ingresso, LaFinestraSiStringeESiAllarga) {
   s.principale->resize(1, 1);
   EXPECT_LE(s.principale->width(), 1280);
   EXPECT_LE(s.principale->height(), 720);
+}
+
+TEST(Ingresso, ControlloENumeroVoltanoPagina) {
+  const Scena s("pagine");
+  OggettoDi(insDati.Chiudi)->setFocus();
+  QTest::keyClick(OggettoDi(insDati.Chiudi), Qt::Key_6, Qt::ControlModifier);
+  EXPECT_EQ(insDati.SSTab.scelta, 5);
+  EXPECT_TRUE(OggettoDi(insDati.Singolo)->isVisible());
+}
+
+// Turning the page leaves the field: margins 120 with a column 300 wide give a side of 2 x 120 + 300 = 540.
+TEST(Ingresso, VoltarePaginaLasciaIlCampo) {
+  const Scena s("pagine_campo");
+  Scrivi(insDati.LatoTxt[2], "120");
+  QTest::keyClick(CampoDi(insDati.LatoTxt[2]), Qt::Key_1, Qt::ControlModifier);
+  EXPECT_EQ(insDati.SSTab.scelta, 0);
+  EXPECT_EQ(CampoDi(insDati.LatoTxt[0])->text(), "540");
+}
+
+TEST(Ingresso, DiUnTestoLungoSiVedeLInizio) {
+  const Scena s("inizio");
+  InsDati_Singolo(0);
+  MostraTesto(insDati.Lsa[0], std::string(200, 'a'));
+  EXPECT_EQ(CampoDi(insDati.Lsa[0])->cursorPosition(), 0);
+}
+
+// The size of the form's own, cut to the screen; never below what its pages need.
+TEST(Ingresso, LaFinestraStaNelloSchermo) {
+  const Scena s("schermo");
+  const QSize minima = s.principale->minimumSizeHint(), schermo = s.principale->screen()->availableSize();
+  EXPECT_EQ(s.principale->width(), std::max(minima.width(), std::min(1240, schermo.width() - 16)));
+  EXPECT_EQ(s.principale->height(), std::max(minima.height(), std::min(720, schermo.height() - 48)));
+  EXPECT_LE(minima.width(), 956);         // 1920 x 1200 at 200 per cent is 960 x 600
+  EXPECT_LE(minima.height(), 560);
 }

@@ -120,6 +120,11 @@ TEST(PiattaformaQt, LaFinestraDelTestoCerca) {
   QTest::keyClicks(che, "FORI");
   QTest::keyClick(che, Qt::Key_Return);
   EXPECT_EQ(testo->textCursor().selectedText(), "fori");
+  ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+  f.write("altra\r\n");
+  f.close();
+  EXPECT_EQ(FinestraTesto(f.fileName()), w);                             // one window a file, read again
+  EXPECT_EQ(testo->toPlainText(), "altra\n");
   w->close();
 }
 

@@ -32,4 +32,4 @@ bool DisegnaFoglioVisto(FoglioVisto& f);                     // draws the sheet 
 void DipingiFoglio(QPainter& p, const FoglioVisto& f, const QTransform& v);
 bool SalvaFoglioPdf(const FoglioVisto& f, const QString& file);      // fitted to an A3 page
 bool SalvaFoglioPng(const FoglioVisto& f, const QString& file);
-void ApriAnteprima();                     // opens the window, or brings the open one up to date
+bool ApriAnteprima();                     // opens the window, or brings the open one up to date; false: not now, or its box was shown

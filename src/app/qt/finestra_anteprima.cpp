@@ -89,7 +89,9 @@ static constexpr FormatoAnteprima FORMATI_ANTEPRIMA[] = {
   { "SVG...", "Disegno SVG|*.svg", "svg", SalvaSvg },
 };
 
+// What is saved is the node as it stands, and the window shows it.
 static void SalvaAnteprima(const FormatoAnteprima& f, const FoglioVisto& foglio) {
+  if (!ApriAnteprima()) return;
   RichiestaFile r;
   r.salva = true;
   r.titolo = "Salva l'anteprima del disegno";
@@ -146,13 +148,12 @@ static QMainWindow* AnteprimaAperta() {
   return nullptr;
 }
 
-void ApriAnteprima() {
-  if (finestre.comandi > 0 || finestre.occupato || finestre.finita) return;
+bool ApriAnteprima() {
+  if (finestre.comandi > 0 || finestre.occupato || finestre.finita) return false;
   FoglioVisto foglio;
-  if (!DisegnaFoglioVisto(foglio)) return;
+  if (!DisegnaFoglioVisto(foglio)) return false;
   QMainWindow* f = AnteprimaAperta();
-  const bool nuova = f == nullptr;
-  if (nuova) f = NuovaAnteprima();
+  if (f == nullptr) f = NuovaAnteprima();
   f->setWindowTitle(Testo("Anteprima del disegno - " + nodo.NomeNodo));
   auto* lavagna = static_cast<Lavagna*>(f->centralWidget());
   lavagna->foglio = std::move(foglio);
@@ -160,4 +161,5 @@ void ApriAnteprima() {
   f->show();
   f->raise();
   f->activateWindow();
+  return true;
 }

@@ -28,6 +28,7 @@
 #include <QDialog>
 #include <QEventLoop>
 #include <QGridLayout>
+#include <QScreen>
 #include <QTimer>
 
 #include <utility>
@@ -141,7 +142,7 @@ static void AspettaChiusura(FinestraPannello& f) {
 // A grid of frames of which some may be out of use: those in use stand in order, two to a row.
 static void Impagina(QWidget& finestra) {
   auto* griglia = finestra.findChild<QGridLayout*>("_griglia");
-  if (griglia == nullptr) return;
+  if (griglia == nullptr || griglia->parentWidget()->window() != &finestra) return;     // the other windows are children of the main one
   QList<QWidget*> cornici;
   while (QLayoutItem* posto = griglia->takeAt(0)) {
     cornici += posto->widget();
@@ -158,6 +159,13 @@ static void Impagina(QWidget& finestra) {
   finestra.resize(finestra.sizeHint());
 }
 
+// A window is never larger than its screen, whose frame and bars take this much.
+constexpr int CORNICE_L = 16, CORNICE_A = 48;
+
+static void Contieni(QWidget& finestra) {
+  finestra.resize(finestra.size().boundedTo(finestra.screen()->availableSize() - QSize(CORNICE_L, CORNICE_A)));
+}
+
 void ApriPannello(const Pannello& p, bool modale) {
   FinestraPannello* f = FinestraDi(p);
   if (f == nullptr || finestre.finita) return;
@@ -167,6 +175,7 @@ void ApriPannello(const Pannello& p, bool modale) {
   for (const FinestraPannello& altra : finestre.elenco)
     if (altra.pannello == &p || &p == &InsDati) DipingiPannello(*altra.pannello);
   Impagina(w);
+  if (!w.isVisible()) Contieni(w);
   AggiornaTitoli();
   w.setWindowModality(modale ? Qt::ApplicationModal : Qt::NonModal);
   w.show();

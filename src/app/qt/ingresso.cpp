@@ -79,6 +79,15 @@ void CollegaTasto(QAbstractButton& b) {
   else b.setToolTip(QString("%1 (%2)").arg(b.toolTip(), scorciatoia->key().toString(QKeySequence::NativeText)));
 }
 
+// Control and the page's number turn to it from anywhere in the window.
+static void CollegaPagine(QTabWidget& schede) {
+  for (int k = 0; k < schede.count(); ++k) {
+    auto* scorciatoia = new QShortcut(QKeySequence(QString("Ctrl+%1").arg(k + 1), QKeySequence::PortableText), schede.window());
+    QObject::connect(scorciatoia, &QShortcut::activated, &schede, [&schede, k] { schede.setCurrentIndex(k); });
+    schede.setTabToolTip(k, QString("Tasto: %1").arg(scorciatoia->key().toString(QKeySequence::NativeText)));
+  }
+}
+
 // ---- signals ----
 
 void CollegaIngresso(Legame& l) {
@@ -109,6 +118,7 @@ void CollegaIngresso(Legame& l) {
       break;
     case Genere::Schede:
       QObject::connect(static_cast<QTabWidget*>(w), &QTabWidget::currentChanged, w, [p](int k) { Scegli(*p, k); });
+      CollegaPagine(*static_cast<QTabWidget*>(w));
       break;
     case Genere::Cornice:
     case Genere::Etichetta:

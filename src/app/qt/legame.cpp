@@ -62,7 +62,9 @@ static void DipingiEtichetta(Legame& l) { static_cast<QLabel*>(l.oggetto)->setTe
 static void DipingiCampo(Legame& l) {
   auto& w = *static_cast<QLineEdit*>(l.oggetto);
   const QString t = Testo(l.controllo->testo);
-  if (w.text() != t) w.setText(t);
+  if (w.text() == t) return;
+  w.setText(t);
+  if (!w.hasFocus()) w.setCursorPosition(0);         // of a long text the head shows
 }
 
 static void DipingiComando(Legame& l) { static_cast<QAbstractButton*>(l.oggetto)->setText(Didascalia(*l.oggetto, l.controllo->testo)); }
@@ -182,7 +184,7 @@ QStringList DifferenzeForma(const Pannello& p, const QWidget& forma) {
 
 static void PreparaOggetto(Legame& l) {
   const Genere g = l.riga->genere;
-  if (g != Genere::Cornice && g != Genere::Schede) {
+  if (g != Genere::Cornice && g != Genere::Schede && !l.oggetto->property("cede").toBool()) {
     QSizePolicy misura = l.oggetto->sizePolicy();
     misura.setRetainSizeWhenHidden(true);            // a row that hides leaves its place
     l.oggetto->setSizePolicy(misura);

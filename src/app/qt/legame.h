@@ -2,7 +2,8 @@
 // Names     a widget's object name is the control's own: Verifica, LatoTxt_0, DTf_1. What serves the looks alone carries a name
 //           that begins with an underscore.
 // Forms     dynamic properties of a widget that the binder reads: mnemonica (letter of the caption that Alt reaches), tasto
-//           (shortcut), numerico (field of numbers), disegno (icon, or a drawing of ours on a picture).
+//           (shortcut), numerico (field of numbers), disegno (icon, or a drawing of ours on a picture), cede (gives up its
+//           place when hidden).
 // State     legami: controls and widgets, each found from the other.
 // Failure   DifferenzeForma lists each control without a widget of its kind and each widget without a control.
 #pragma once

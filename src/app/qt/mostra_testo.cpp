@@ -8,6 +8,7 @@
 #include "core/testo.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QFontDatabase>
@@ -74,6 +75,7 @@ static void Cerca(QPlainTextEdit& testo, QLineEdit& che, bool indietro) {
 static void Stampa(QPlainTextEdit& testo) {
 #ifdef QB07_STAMPA
   QPrinter stampante(QPrinter::HighResolution);
+  stampante.setDocName(testo.window()->windowTitle());
   QPrintDialog dialogo(&stampante, &testo);
   dialogo.setWindowTitle("Stampa");
   if (dialogo.exec() == QDialog::Accepted) testo.print(&stampante);
@@ -82,10 +84,21 @@ static void Stampa(QPlainTextEdit& testo) {
 #endif
 }
 
+static QWidget* TestoAperto(const QString& file) {
+  for (QWidget* w : QApplication::topLevelWidgets())
+    if (w->objectName() == "FinestraTesto" && w->windowFilePath() == file && w->isVisible()) return w;
+  return nullptr;
+}
+
 QWidget* FinestraTesto(const QString& file) {
+  if (QWidget* aperto = TestoAperto(file)) {
+    aperto->findChild<QPlainTextEdit*>()->setPlainText(TestoDelFile(file));
+    return aperto;
+  }
   auto* f = new QMainWindow;
   f->setAttribute(Qt::WA_DeleteOnClose);
   f->setObjectName("FinestraTesto");
+  f->setWindowFilePath(file);
   f->setWindowTitle(QFileInfo(file).fileName());
   f->setWindowIcon(IconaProgramma());
   auto* testo = new QPlainTextEdit(f);
@@ -133,7 +146,11 @@ QWidget* FinestraTesto(const QString& file) {
 
 void MostraFileTesto(const std::string& percorso) {
   const QString file = Testo(RisolviPercorso(percorso));
-  if (!ApriConIlDesktop(file, "text/plain")) FinestraTesto(file)->show();
+  if (ApriConIlDesktop(file, "text/plain")) return;
+  QWidget* f = FinestraTesto(file);
+  f->show();
+  f->raise();
+  f->activateWindow();
 }
 
 void MostraFileAiuto(const std::string& percorso) {

@@ -9,7 +9,8 @@ class QWidget;
 
 void MostraFileTesto(const std::string& percorso);     // suite path
 void MostraFileAiuto(const std::string& percorso);
-QWidget* FinestraTesto(const QString& file);           // own window: fixed-width font, search, print; deletes itself when closed
+// Own window: fixed-width font, search, print; deletes itself when closed. One a file: a file shown anew is read again where it is open.
+QWidget* FinestraTesto(const QString& file);
 
 // Windows of other programs, by their title. False, and nothing: none of that title, or a desktop that does not tell.
 bool AttivaFinestraEsterna(const std::string& titolo);

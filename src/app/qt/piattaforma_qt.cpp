@@ -15,11 +15,14 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
+#include <QTreeView>
 
 #include <cfenv>
 #include <utility>
@@ -97,6 +100,16 @@ void PreparaNome(QFileDialog& d, const RichiestaFile& r) {
   d.selectFile(file.fileName());
 }
 
+// The toolkit's own dialog: wide enough for name, size and date. The platform's has none of this.
+void Allarga(QFileDialog& d) {
+  auto* elenco = d.findChild<QTreeView*>("treeView");
+  if (elenco == nullptr) return;
+  d.resize(QSize(820, 480).boundedTo(d.screen()->availableSize() - QSize(40, 60)));
+  const int lettera = d.fontMetrics().horizontalAdvance('0');
+  const int colonne[] = {34 * lettera, 11 * lettera, 18 * lettera, 21 * lettera};
+  for (int k = 0; k < 4; ++k) elenco->header()->resizeSection(k, colonne[k]);
+}
+
 bool QtScegliFile(const RichiestaFile& r, std::string& percorso, int& filtro) {
   const RiparoFault riparo;
   if (finestre.finita) return false;
@@ -107,6 +120,7 @@ bool QtScegliFile(const RichiestaFile& r, std::string& percorso, int& filtro) {
   d.setNameFilters(FiltriDialogo(r.filtro));
   d.setDefaultSuffix(Testo(r.estensione));
   PreparaNome(d, r);
+  Allarga(d);
   if (d.exec() != QDialog::Accepted || d.selectedFiles().isEmpty()) return false;
   percorso = ConEstensione(r, Utf8(QDir::toNativeSeparators(d.selectedFiles().first())));
   filtro = std::max(1, static_cast<int>(d.nameFilters().indexOf(d.selectedNameFilter())) + 1);

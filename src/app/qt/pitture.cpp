@@ -153,11 +153,10 @@ static void SchemaPiastra(Foglio& f) {
   for (const double x : {300.0, 1300.0}) Riferimento(f, x, 100, x, 260);
   for (const double y : {260.0, 1260.0}) Riferimento(f, 1300, y, 1500, y);
   for (const double x : {300.0, 600.0}) Riferimento(f, x, 1000, x, 1420);
-  for (const double y : {1000.0, 1260.0}) Riferimento(f, 1000, y, 1180, y);
   Quota(f, 300, 140, 1300, 140, "Lato Z");
   Quota(f, 1460, 260, 1460, 1260, "Lato Y");
   Quota(f, 300, 1390, 600, 1390, "Margine Z");
-  Quota(f, 1080, 1000, 1080, 1260, "Margine Y");
+  Quota(f, 700, 1000, 700, 1260, "Margine Y");
   Assi(f, 1610, 1400, 130);
 }
 
@@ -195,7 +194,7 @@ static void Dadi(Foglio& f, double x) {
 
 // Form 0: the straight rod with its square plate.
 static void TirafondoPiastra(Foglio& f) {
-  Fondazione(f, 1260);
+  Fondazione(f, 1340);
   Penna(f, f.linea);
   Rettangolo(f, 475, 90, 50, 1110, f.ferro);
   Dadi(f, 500);
@@ -209,6 +208,8 @@ static void TirafondoPiastra(Foglio& f) {
   Quota(f, 350, 1110, 650, 1110, "");
   Scritta(f, 650, 1110, "Lato piastra", 8 + f.p.fontMetrics().horizontalAdvance("Lato piastra") / 2.0);
   Quota(f, 700, 960, 700, 1000, "LF");
+  Riferimento(f, 500, 1200, 500, 1320);
+  Quota(f, 60, 1300, 500, 1300, "Dist. bordo plinto");
 }
 
 // Form 1: the hooked rod, which bends to the left.
@@ -232,6 +233,7 @@ static void TirafondoUncino(Foglio& f) {
   Quota(f, 1000, 90, 1000, 330, "L fuori plinto");
   Quota(f, 1000, 330, 1000, 1220, "L");
   Quota(f, 160, 640, 160, 1040, "L1");
+  Quota(f, 60, 480, 600, 480, "Dist. bordo plinto");
   Penna(f, f.quota, 1);
   Linea(f, 445, 1040, 318, 1167);
   Punta(f, f.v.map(QPointF(318, 1167)), QPointF(10, -10));
@@ -261,7 +263,7 @@ static const RigaPittura PITTURE[] = {
   { "tirafondi", QRectF(0, 0, 2196, 1548),   SchemaTirafondi },
   { "piastra",   QRectF(240, 40, 1580, 1440), SchemaPiastra },
   { "sezione",   QRectF(120, 0, 960, 1000),  SchemaSezione },
-  { "asta1",     QRectF(40, 40, 1400, 1240), TirafondoPiastra },
+  { "asta1",     QRectF(40, 40, 1400, 1320), TirafondoPiastra },
   { "asta2",     QRectF(40, 40, 1400, 1240), TirafondoUncino },
   { "linea0",    QRectF(0, 0, 100, 10),      Linea0 },
   { "linea1",    QRectF(0, 0, 100, 10),      Linea1 },

@@ -32,15 +32,16 @@ static QRectF Inquadratura(const Tela& t) {
   return QRectF(QPointF(t.sx, t.sy), QPointF(t.dx, t.dy));
 }
 
-static void DipingiTratto(QPainter& p, const QTransform& v, const Tratto& s) {
-  p.setPen(QPen(ColoreTratto(s.colore), SPESSORE, Qt::SolidLine, Qt::RoundCap));
+static void DipingiTratto(QPainter& p, const QTransform& v, const Tratto& s, const QColor& nero) {
+  const QColor colore = s.colore == 0 ? nero : ColoreTratto(s.colore);
+  p.setPen(QPen(colore, SPESSORE, Qt::SolidLine, Qt::RoundCap));
   if (s.forma == Tratto::Forma::Segmento) {
     p.drawLine(v.map(QPointF(s.x1, s.y1)), v.map(QPointF(s.x2, s.y2)));
     return;
   }
   const QRectF cerchio = v.mapRect(QRectF(s.xc - s.raggio, s.yc - s.raggio, 2 * s.raggio, 2 * s.raggio));
   if (s.a1 == s.a2) {
-    QColor dentro = ColoreTratto(s.colore);
+    QColor dentro = colore;
     dentro.setAlpha(70);
     p.setBrush(dentro);
     p.drawEllipse(cerchio);
@@ -69,5 +70,7 @@ void Quadro::paintEvent(QPaintEvent*) {
     p.setClipRect(rect().adjusted(1, 1, -1, -1));
     for (const Campitura& c : campiture) p.fillPath(v.map(c.forma), scuro ? c.colore.lighter(60) : c.colore);
   }
-  for (const Tratto& s : tela->tratti) DipingiTratto(p, v, s);
+  // On a drawing of ours the ground is the desktop's, and so is what stands for black.
+  const QColor nero = disegno.isEmpty() ? QColor(Qt::black) : palette().color(QPalette::WindowText);
+  for (const Tratto& s : tela->tratti) DipingiTratto(p, v, s, nero);
 }
