@@ -159,6 +159,7 @@ TEST_F(Modello, TroncatoTieneGliStiliLetti) {
   EXPECT_DOUBLE_EQ(stiliGrb.AltStile[1], 25);
   EXPECT_EQ(stiliGrb.NumStili, 3);
   EXPECT_EQ(stiliGrb.AltStile[2], 0);
+  EXPECT_FALSE(passi.fallito);                 // dealt with, likewise
 }
 
 TEST_F(Modello, SenzaLeSeiRigheFinali) { EXPECT_FALSE(Leggi("testa\r\n1,2,0\r\nquanti\r\n0\r\n1\r\n2\r\n3\r\n4\r\n5\r\n")); }
