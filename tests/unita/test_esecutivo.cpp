@@ -121,8 +121,10 @@ TEST_F(Foglio, MisureGrandi) {
   TestoA(TrovaTesto("SEZIONE C-C"), -11 * 9, -872 - 450 - 187.5 + 532, 0, 7);
 }
 
-// Welded inside means 1; with another value the weld table holds 44 rows, the sheet leaves out 9 and 19.
+// Welded inside means 1; with another value the weld table holds 44 rows, the sheet leaves out 9 and 19, also those of an earlier sheet.
 TEST_F(Foglio, SaldaturaInternaSoloUno) {
+  ris.Saldature[9].Nome = "S9";
+  ris.Saldature[19].Nome = "S19";
   nodo.SaldInt = 2;
   Disegna();
   EXPECT_EQ(nodo.NumSaldature, 44);
