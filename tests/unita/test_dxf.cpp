@@ -249,6 +249,8 @@ TEST_F(Tratteggio, InteraDaDuemilaRipetizioni) {
   EXPECT_FALSE(SpezzaLinea(0, 0, 10000, 0, 4, stato, false, 1, t));
   EXPECT_FALSE(SpezzaLinea(0, 0, 0.00009, 0, 4, stato, false, 1, t));
   EXPECT_FALSE(SpezzaLinea(0, 0, 10, 0, 0, stato, false, 1, t));     // continuous: no pattern
+  EXPECT_FALSE(SpezzaLinea(0, 0, 10, 0, 5, stato, false, 1, t));     // no such type
+  EXPECT_FALSE(SpezzaLinea(0, 0, 10, 0, -1, stato, false, 1, t));
 }
 
 TEST_F(Tratteggio, TroppiTratti) {

@@ -392,6 +392,18 @@ TEST_F(GenDis, AltroFiltroEDxf) {
   EXPECT_EQ(File("/a.svg").find(" 0\r\nSECTION"), 0u);
 }
 
+// A dialog that names no filter: the first.
+TEST_F(GenDis, SenzaFiltroIlPrimo) {
+  static std::string scelto;
+  scelto = cartella + "/a.dis";
+  piattaforma.scegliFile = [](const RichiestaFile&, std::string& percorso, int&) {
+    percorso = scelto;
+    return true;
+  };
+  ScegliFileDisegno();
+  EXPECT_EQ(File("/a.dis").find("                   4\r\n                   5"), 0u);
+}
+
 // With a file chosen the store is empty, whatever becomes of the drawing.
 TEST_F(GenDis, FileSceltoVuotaLArchivio) {
   DisLinea(nullptr, 0, 0, 1, 1);
