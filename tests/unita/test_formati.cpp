@@ -1,6 +1,8 @@
 // test_formati.cpp - print zones, the DIS file byte by byte, its boxes, and the picture for looking.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "core/zone.h"
 #include "corredo/registratore.h"
 #include "drawing/disegno.h"
@@ -109,6 +111,23 @@ TEST_F(Dis, BoxSecondoSilenzioso) {
     EXPECT_FALSE(SalvaDis(assente, silenzioso));
     if (silenzioso == 2) EXPECT_TRUE(registratore.eventi.empty());
     else EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] nessuna | ERRORE | Errore durante la scrittura sul file" + assente});
+  }
+}
+
+// /dev/full opens and refuses what is written.
+TEST_F(Dis, DiscoPieno) {
+  std::error_code errore;
+  std::filesystem::create_symlink("/dev/full", cartella + "/prova.dis", errore);
+  if (errore || !std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no /dev/full here";
+  const std::vector<std::string> box = {"[messaggio] nessuna | ERRORE | Errore durante la scrittura sul file" + nome};
+  const auto dxf = [](const std::string& n, int silenzioso) { return SalvaDxf(n, 0, 0, 0, 0, silenzioso); };
+  for (bool (*scrivi)(const std::string&, int) : {SalvaDis, +dxf, ScriviGrb, SalvaSvg}) {
+    registratore.eventi.clear();
+    EXPECT_FALSE(scrivi(nome, 0));
+    EXPECT_EQ(registratore.eventi, box);
+    registratore.eventi.clear();
+    EXPECT_FALSE(scrivi(nome, 2));
+    EXPECT_TRUE(registratore.eventi.empty());
   }
 }
 
