@@ -72,8 +72,9 @@ bool TogliPrefisso(std::string& nome) {      // "P_" marks a section of the libr
   return true;
 }
 
+// Of entries with one name the last.
 int CercaInLibreria(const std::string& senzaSpazi) {
-  for (int i = 1; i <= suite.NumProfili; ++i)
+  for (int i = suite.NumProfili; i >= 1; --i)
     if (SenzaSpazi(suite.ProfiliLib[i].Nome) == senzaSpazi) return i;
   return 0;
 }

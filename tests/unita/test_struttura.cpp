@@ -68,6 +68,16 @@ TEST_F(Struttura, ProfiloDallaSezioneConPrefissoEBlank) {
   EXPECT_TRUE(registratore.eventi.empty());
 }
 
+TEST_F(Struttura, DiDueProfiliDelloStessoNomeVinceLUltimo) {
+  suite.NumProfili = 3;
+  suite.ProfiliLib[3] = suite.ProfiliLib[2];
+  suite.ProfiliLib[3].H = 195;
+  EXPECT_EQ(ProfiloDaAsta(5), 3);
+  ASSERT_EQ(AsteDelNodo(20), EsitoAste::Trovate);
+  ASSERT_EQ(SezioniAsteNodo(), EsitoAste::Trovate);
+  EXPECT_EQ(collegamento.SezioniStr[1].H, 195);
+}
+
 TEST_F(Struttura, ProfiloNonApplicabileOFileAssente) {
   EXPECT_EQ(ProfiloDaAsta(6), 0);
   AttesoSolo("[messaggio] critica | INFORMAZIONE | Il profilo della colonna non è applicabile");
