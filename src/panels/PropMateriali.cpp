@@ -22,10 +22,13 @@ struct Valore {
   bool piano = false;                        // a factor: neither unit nor rounding
 };
 
-void Mostra(Controllo* etichette, std::initializer_list<Valore> valori) {
+// A value rounded as it is, where ImpostaValoreMat_ shows none below 0.
+std::string Arrotondato(double v, int decimali) { return NumeroPiano(ArrotondaPari(v, decimali)); }
+
+void Mostra(Controllo* etichette, std::initializer_list<Valore> valori, std::string (*testo)(double, int) = ImpostaValoreMat_) {
   for (const Valore& x : valori) {
     if (FaultAritmetico()) return;
-    MostraTesto(*etichette++, x.piano ? NumeroPiano(x.v) : ImpostaValoreMat_(x.v * suite.FattTensioni, suite.DecTensioni));
+    MostraTesto(*etichette++, x.piano ? NumeroPiano(x.v) : testo(x.v * suite.FattTensioni, suite.DecTensioni));
   }
 }
 
@@ -48,7 +51,8 @@ void MostraTirafondi(Controllo* etichette, const MatAcciaio& m, double gammaM2) 
 }
 
 void MostraCls(Controllo* etichette, const MatCls& m) {
-  Mostra(etichette, {{m.Rck}, {m.Rck * RCK_FCK}, {m.GammaC, true}, {m.Rck * RCK_FCK * ALFA_CC / m.GammaC}, {60 + (m.Rck - 150) / 4}});
+  Mostra(etichette, {{m.Rck}, {m.Rck * RCK_FCK}, {m.GammaC, true}, {m.Rck * RCK_FCK * ALFA_CC / m.GammaC}, {60 + (m.Rck - 150) / 4}},
+         Arrotondato);
 }
 
 void Carica() {

@@ -15,6 +15,7 @@
 #include "model/suite.h"
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"
+#include "panels/PropMateriali.h"
 
 constexpr const char* PROFILI = "PROFILI";   // column and plates
 constexpr const char* BULLONI = "BULLONI";   // anchors
@@ -107,15 +108,24 @@ void InsDati_ComboCalcestruzzo(int) {
 
 // ---- the job's materials ----
 
+// The labels of the materials' panel. What cannot be shown, a partial factor of 0, is told when that panel opens.
+static void AggiornaProprieta() {
+  if (FaultAritmetico()) return;
+  SettaMateriali();
+  AzzeraFault();
+}
+
 void InsDati_CheckMatBase(int) {
   nodo.MatAcc = materiali.MatBaseAcc1;
   nodo.MatCls = materiali.MatBaseCls;
   // A class that the combo does not hold leaves the selection, the copy and the modulus as they are; deliberate.
   ImpostaVoce(insDati.ComboCalcestruzzo, nodo.MatCls.Nome);
-  if (ImpostaVoce(insDati.Acc, nodo.MatAcc.Nome)) return;
-  Messaggio(TESTO_MAT_BASE, TITOLO_ATTENZIONE, Icona::Esclamazione);
-  nodo.MatAcc = materiali.AcciaiBase[Alternativo(MetodoTA(), PROFILI, nodo.MatAcc.Nome) + 1];
-  ImpostaVoce(insDati.Acc, nodo.MatAcc.Nome);
+  if (!ImpostaVoce(insDati.Acc, nodo.MatAcc.Nome)) {
+    Messaggio(TESTO_MAT_BASE, TITOLO_ATTENZIONE, Icona::Esclamazione);
+    nodo.MatAcc = materiali.AcciaiBase[Alternativo(MetodoTA(), PROFILI, nodo.MatAcc.Nome) + 1];
+    ImpostaVoce(insDati.Acc, nodo.MatAcc.Nome);
+  }
+  AggiornaProprieta();
 }
 
 // ---- names of a loaded node ----

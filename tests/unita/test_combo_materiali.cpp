@@ -8,6 +8,7 @@
 #include "model/materiali.h"
 #include "model/node_model.h"
 #include "panels/InsDati.h"
+#include "panels/PropMateriali.h"
 
 namespace {
 
@@ -182,6 +183,22 @@ TEST_F(Combo62, JobMaterialsComeFromTheTables) {
   EXPECT_EQ(nodo.MatCls.Rck, 300);
   EXPECT_NEAR(nodo.EcCls, 312201.85778, 1e-5);
   EXPECT_TRUE(registratore.eventi.empty());
+  EXPECT_EQ(propMateriali.FrameAcc.testo, "Acciaio profili e piastre - [NTC08 11.3.4.1] - Tipo S 275 (FE 430)");
+}
+
+// The labels that cannot be shown are the panel's own matter: neither the command nor a new joint ends in a fault.
+TEST_F(Combo62, JobMaterialsWithoutAPartialFactor) {
+  materiali.MatBaseAcc1.Nome = "S 275 (FE 430)";
+  materiali.AcciaiBase[2].GammaM = 0;
+  UtenteSceglie(InsDati, insDati.Acc, 0);
+  materiali.MatDaBase = true;
+  MostraAbilitato(insDati.CheckMatBase, true);
+  EXPECT_TRUE(Scatena(InsDati, insDati.CheckMatBase, Evento::Cambio));
+  EXPECT_TRUE(registratore.eventi.empty());
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 275 (FE 430)");
+  AzzeraFault();
+  AzzeraNodo();
+  EXPECT_FALSE(FaultAritmetico());
 }
 
 TEST_F(Combo62, JobSteelThatTheMethodRefuses) {
@@ -192,6 +209,7 @@ TEST_F(Combo62, JobSteelThatTheMethodRefuses) {
                                         "verifica. Verrà impostato un altro tipo di acciaio."}));
   EXPECT_EQ(nodo.MatAcc.Nome, "S 355 (FE 510)");
   EXPECT_EQ(insDati.Acc.scelta, 2);
+  EXPECT_TRUE(propMateriali.FrameAcc.testo.ends_with(" - Tipo S 355 (FE 510)"));
 }
 
 TEST_F(Combo62, JobConcreteThatTheComboLacksKeepsTheCopy) {

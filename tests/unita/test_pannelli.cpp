@@ -229,6 +229,18 @@ TEST_F(Pannelli_, ProprietaConTuttiIRiquadri) {
   EXPECT_EQ(propMateriali.Unit.coloreSfondo, 0xFFFFC8);   // red 200, green 255, blue 255
 }
 
+// "-" stands for a steel without the value; the class of a concrete is rounded as it is.
+TEST_F(Pannelli_, ClasseNegativaSiMostraComE) {
+  suite.FattTensioni = 1;
+  suite.DecTensioni = 0;
+  nodo.MatCls.Rck = -2;
+  nodo.MatCls.GammaC = 1.5;
+  Premi(InsDati, "PropMatButton");
+  EXPECT_EQ(C(PropMateriali, "RckClsLabel").testo, "-2");
+  EXPECT_EQ(C(PropMateriali, "fckClsLabel").testo, "-2");          // -1.66
+  EXPECT_EQ(C(PropMateriali, "SammClsLabel").testo, "22");         // 60 - 152 / 4
+}
+
 TEST_F(Pannelli_, FattoreParzialeNulloNonApreIlPannello) {
   nodo.MatAcc.GammaM = 0;
   Premi(InsDati, "PropMatButton");
