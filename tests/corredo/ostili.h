@@ -39,10 +39,10 @@ inline void SenzaFault() {
 
 inline void Altro(const std::string& cartella, const char* file, const std::string& byte) { ScriviByte(cartella + "/" + file, byte); }
 
-// Random files of a reader: bounded by count, so that no test depends on how long something takes. About three seconds a reader
+// Random files of a reader: bounded by count, so that no test depends on how long something takes. About twenty seconds a reader
 // under the sanitizers.
 #if defined(__SANITIZE_ADDRESS__)
-constexpr int CASUALI = 3000;
+constexpr int CASUALI = 18000;
 #else
 constexpr int CASUALI = 100;
 #endif
