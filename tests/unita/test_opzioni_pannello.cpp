@@ -74,6 +74,10 @@ TEST_F(OpzioniPannello, OpzMostraIValoriMenoQuattroCampi) {
   EXPECT_EQ(VoceScelta(opNodo.Option1[0]), 1);
   EXPECT_EQ(opNodo.CheckQuote.scelta, 0);
   EXPECT_EQ(opNodo.CheckDistinta.scelta, 0);
+  suite.ParNodo[13] = suite.ParNodo[17] = 12;
+  MostraTesto(opNodo.Par_Nodo[13], "x");     // typed and left
+  Premi(InsDati, "Opz");
+  EXPECT_EQ(opNodo.Par_Nodo[13].testo, "12");
 }
 
 // After a restart the field shows the signed distance, and the next application turns it again: -(-213) - 107.

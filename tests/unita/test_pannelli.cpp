@@ -3,6 +3,7 @@
 #include "corredo/banco_pannelli.h"
 
 #include <filesystem>
+#include <set>
 
 #include "model/materiali.h"
 #include "panels/FormTF.h"
@@ -14,7 +15,64 @@ TEST_F(Pannelli_, OgniPannelloHaIlSuoNome) {
   for (const char* nome : {"InsDati", "Op_Nodo", "PropMateriali", "FormTF", "Soll3D", "selezione", "Sez3D"}) EXPECT_NE(TrovaPannello(nome), nullptr) << nome;
 }
 
+// No control stands in two rows, no name and index twice, and a frame is a frame of the panel, or a page of one of its rows of tabs.
+TEST_F(Pannelli_, OgniControlloHaUnaRigaSola) {
+  std::set<const Controllo*> visti;
+  for (const Pannello* p : Pannelli()) {
+    std::set<std::string> nomi;
+    for (const RigaPannello& r : p->righe) {
+      for (int i = r.primo; i <= r.ultimo; ++i) {
+        EXPECT_TRUE(visti.insert(&r.controllo[i - r.primo]).second) << p->nome << "." << r.nome << " " << i;
+        EXPECT_TRUE(nomi.insert(r.nome + std::to_string(i)).second) << p->nome << "." << r.nome << " " << i;
+      }
+      const std::string cornice = r.cornice;
+      if (cornice.empty()) continue;
+      const std::size_t barra = cornice.find('/');
+      const RigaPannello* tiene = TrovaRiga(*p, cornice.substr(0, barra));
+      ASSERT_NE(tiene, nullptr) << p->nome << "." << r.nome << " in " << cornice;
+      if (barra == std::string::npos) {
+        EXPECT_EQ(tiene->genere, Genere::Cornice) << p->nome << "." << r.nome;
+        continue;
+      }
+      EXPECT_EQ(tiene->genere, Genere::Schede) << p->nome << "." << r.nome;
+      ASSERT_EQ(cornice.size(), barra + 2) << p->nome << "." << r.nome;
+      EXPECT_LT(static_cast<std::size_t>(cornice.back() - '0'), tiene->controllo->voci.size()) << p->nome << "." << r.nome;
+    }
+  }
+}
+
 // ---- anchor chooser ----
+
+TEST_F(Pannelli_, TestiDellaSceltaTirafondiAllaCreazione) {
+  const TestoAtteso attesi[] = {                          // the sizes of a new node, on both tabs
+      {"GeoTfTxt", 11, "120"}, {"GeoTfTxt", 12, "500"}, {"GeoTfTxt", 13, "70"}, {"GeoTfTxt", 14, "450"}, {"GeoTfTxt", 15, "10"},
+      {"GeoTfTxt", 17, "50"}, {"GeoTfTxt", 19, "100"}, {"GeoTfTxt", 20, "200"},
+      {"GeoTfTxt", 1, "120"}, {"GeoTfTxt", 2, "500"}, {"GeoTfTxt", 3, "70"}, {"GeoTfTxt", 4, "450"},
+      {"GeoTfTxt", 7, "50"}, {"GeoTfTxt", 9, "100"}, {"GeoTfTxt", 10, "200"},
+      {"Label6", 0, "L"}, {"Label6", 1, "R"}, {"Label6", 2, "L fuori plinto"}, {"Label6", 4, "Dist. bordo plinto"}, {"Label6", 6, "L"},
+      {"Label6", 7, "L fuori plinto"}, {"Label2", 0, "dimensioni in mm"}, {"Label2", 1, "dimensioni in mm"}, {"MatBulOK", -1, "OK"},
+      {"LGeo", 1, "L fuori plinto"}, {"LGeo", 2, "L"}, {"LGeo", 3, "R"}, {"LGeo", 4, "L1"}, {"LGeo", 7, "Altezza malta"},
+      {"LGeo", 9, "Diametro fori"}, {"LGeo", 10, "Dist. bordo plinto"},
+      {"LGeo", 11, "L fuori plinto"}, {"LGeo", 12, "L"}, {"LGeo", 13, "Lato piastra"}, {"LGeo", 14, "L1"}, {"LGeo", 15, "LF"},
+      {"LGeo", 17, "Altezza malta"}, {"LGeo", 19, "Diametro fori"}, {"LGeo", 20, "Dist. bordo plinto"}};
+  for (const auto& a : attesi) EXPECT_EQ(C(FormTF, a.nome, a.i).testo, a.testo) << a.nome << " " << a.i;
+  EXPECT_EQ(C(FormTF, "SSTab1").voci, (std::vector<std::string>{" Tipo 1", " Tipo 2"}));
+}
+
+// A number that no double holds: its size stays, and the plan is not painted anew.
+TEST_F(Pannelli_, MisuraSmisurataDelTirafondo) {
+  insDati.telaNodo.tratti.clear();
+  registratore.dentro.push_back([] {
+    Scrivi(FormTF, "GeoTfTxt", 12, "1e400");
+    Scrivi(FormTF, "GeoTfTxt", 11, "90");
+    Premi(FormTF, "MatBulOK");
+  });
+  Premi(InsDati, "DimTf");
+  EXPECT_EQ(nodo.TfL, 500);
+  EXPECT_EQ(nodo.TfLFt, 90);
+  EXPECT_FALSE(formTF.aperto);
+  EXPECT_TRUE(insDati.telaNodo.tratti.empty());
+}
 
 TEST_F(Pannelli_, SceltaTirafondiAllaPrimaApertura) {
   Premi(InsDati, "DimTf");
@@ -33,8 +91,16 @@ TEST_F(Pannelli_, SceltaTirafondiAllaPrimaApertura) {
   EXPECT_EQ(C(FormTF, "SSTab1").voci[1], " Tipo 2");
   EXPECT_EQ(C(FormTF, "Label2", 0).testo, "dimensioni in mm");
   ASSERT_EQ(formTF.tela.tratti.size(), 2u);
+  EXPECT_EQ(formTF.tela.tratti[0].raggio, 360);
   EXPECT_EQ(formTF.tela.tratti[1].raggio, 504);
-  EXPECT_EQ(formTF.tela.tratti[0].colore, 192);
+  for (const Tratto& t : formTF.tela.tratti) {            // half circles, from pi to 2 pi
+    EXPECT_EQ(t.forma, Tratto::Forma::Arco);
+    EXPECT_EQ(t.xc, 2388);
+    EXPECT_EQ(t.yc, 4296);
+    EXPECT_EQ(t.a1, 3.141592);
+    EXPECT_EQ(t.a2, 6.283184);
+    EXPECT_EQ(t.colore, 192);
+  }
 }
 
 TEST_F(Pannelli_, OkPortaLeMisureDelTipoUno) {
@@ -99,11 +165,16 @@ TEST_F(Pannelli_, OpzioniRiempiteAllAvvio) {
   for (int i = 0; i <= 14; ++i) EXPECT_FALSE(C(Op_Nodo, "Par_Nodo", i).testo.empty()) << i;
   EXPECT_EQ(suite.ParNodo[17], suite.ParNodo[13]);        // set from entry 13 at each reading
   EXPECT_EQ(TrovaControllo(Op_Nodo, "Par_Nodo", 17), nullptr);
-  EXPECT_EQ(C(Op_Nodo, "LPar", 5).testo, "Colore testo");
-  EXPECT_EQ(C(Op_Nodo, "LPar", 15).testo, "Scala nodo/Scala tiraf.");
-  EXPECT_EQ(C(Op_Nodo, "LPar", 25).testo, "Stile quote particolari GRB");
-  EXPECT_EQ(C(Op_Nodo, "Option1", 1).testo, "Quote inf.");
-  EXPECT_EQ(C(Op_Nodo, "Def").testo, "Salva");
+  const TestoAtteso attesi[] = {
+      {"LPar", 0, "Colore disegno nodo"}, {"LPar", 1, "Colore assi sezioni"}, {"LPar", 2, "Colore sezioni"}, {"LPar", 3, "Colore quote"},
+      {"LPar", 4, "Colore linee quote"}, {"LPar", 5, "Colore testo"}, {"LPar", 6, "Colore distinta"}, {"LPar", 7, "Altezza quote"},
+      {"LPar", 8, "Larghezza quote"}, {"LPar", 9, "Altezza testi"}, {"LPar", 10, "Larghezza testi"}, {"LPar", 11, "Altezza testi distinta"},
+      {"LPar", 12, "Larghezza testi distinta"}, {"LPar", 13, "Distanza testo-quote"}, {"LPar", 14, "Diametro indicatori quote"},
+      {"LPar", 15, "Scala nodo/Scala tiraf."}, {"LPar", 16, "Colore saldature"}, {"LPar", 25, "Stile quote particolari GRB"},
+      {"LPar", 26, "Stile testi GRB"}, {"LPar", 27, "Stile quote GRB"}, {"Option1", 0, "Quote sup."}, {"Option1", 1, "Quote inf."},
+      {"CheckQuote", -1, "Quote"}, {"CheckDistinta", -1, "Distinta"}, {"Annulla", -1, "Annulla"}, {"Applica", -1, "Applica"},
+      {"Chiudi", -1, "Chiudi"}, {"Def", -1, "Salva"}};
+  for (const auto& a : attesi) EXPECT_EQ(C(Op_Nodo, a.nome, a.i).testo, a.testo) << a.nome << " " << a.i;
 }
 
 TEST_F(Pannelli_, QuoteInferioriCapovolgonoLaDistanza) {

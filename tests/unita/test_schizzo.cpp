@@ -141,8 +141,17 @@ TEST_F(Schizzo, SenzaRaggioNessunArcoEStesseLinee) {
 
 TEST_F(Schizzo, OttoTirafondiOttoCerchi) {
   nodo.NTir = 8;
+  nodo.OptionNTir = 0;                       // the pattern does not count
+  for (int i = 5; i <= 8; ++i) {
+    nodo.TfZ[i] = 10 * i;
+    nodo.TfY[i] = 300 + i;
+  }
   DisegnaNodo(t);
-  EXPECT_EQ(t.tratti.size(), 28u);
+  ASSERT_EQ(t.tratti.size(), 28u);
+  for (std::size_t i = 5; i <= 8; ++i) {
+    EXPECT_EQ(t.tratti[19 + i].xc, 10 * static_cast<double>(i) - 150);
+    EXPECT_EQ(t.tratti[19 + i].yc, 100 + static_cast<double>(i));
+  }
 }
 
 TEST_F(Schizzo, DopoUnPassoFallitoSeguonoSoloGliSmussi) {
@@ -166,5 +175,14 @@ TEST_F(Schizzo, SezioneImportata) {
   DisegnaSezImport(t, nodo.Sezione);         // 100 / 2000 <= 200 / 1000: h = 120, w = h / r = 240
   EXPECT_DOUBLE_EQ(t.sx, -240);
   EXPECT_DOUBLE_EQ(t.sy, 120);
-  EXPECT_EQ(t.tratti.size(), 16u);
+  ASSERT_EQ(t.tratti.size(), 16u);
+  Segmento(t.tratti[2], -50, 100, 50, 100);  // about the origin
+  t.altezza = 4000;                          // 100 / 2000 > 200 / 4000 does not hold: the height, r = 2
+  DisegnaSezImport(t, nodo.Sezione);
+  EXPECT_DOUBLE_EQ(t.sy, 120);
+  EXPECT_DOUBLE_EQ(t.sx, -60);
+  t.altezza = 5000;                          // the width: w = 60, h = w r = 150
+  DisegnaSezImport(t, nodo.Sezione);
+  EXPECT_DOUBLE_EQ(t.sx, -60);
+  EXPECT_DOUBLE_EQ(t.sy, 150);
 }

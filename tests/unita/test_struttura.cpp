@@ -197,6 +197,13 @@ TEST_F(Struttura, CondizioniDiCarico) {
   EXPECT_EQ(n, 2);
 }
 
+// An end that no integer holds counts as 0 and is no node of the model.
+TEST_F(Struttura, EstremoSmisurato) {
+  Scrivi("Struttur.Str", "release\r\n0\r\n1\r\n1,0,0,1,a\r\n1\r\n99999999999,7,0,0\r\n5 1\r\n0\r\n");
+  EXPECT_EQ(AsteDelNodo(1), EsitoAste::Trovate);
+  EXPECT_EQ(collegamento.NumAsteNodo, 0);
+}
+
 TEST_F(Struttura, FileTroncatoInOgniPunto) {
   for (std::size_t k = 0; k <= STRUTTURA_MINIMA.size(); ++k) {
     Scrivi("Struttur.Str", STRUTTURA_MINIMA.substr(0, k));
