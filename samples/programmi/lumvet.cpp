@@ -1,6 +1,7 @@
 // samples/programmi/lumvet.cpp - stand-in for the suite's viewer: shows the DIS file that lumvet.inp names, under the title that the program
 // looks for; Ctrl+V reads it again.
 // Input     lumvet.inp beside the program, or its path as the argument: the number 2, then the DIS file.
+// Writes    with QB07_LUMVET the number of lines shown, at the end of that file, each time it reads.
 // A file that is not there, or that ends early, shows what could be read.
 #include "comune.h"
 
@@ -10,6 +11,8 @@
 #include <QWidget>
 
 #include <cmath>
+#include <cstdlib>
+#include <fstream>
 #include <sstream>
 
 struct Disegno {
@@ -79,6 +82,7 @@ struct Visualizzatore : QWidget {
   void Rileggi() {
     disegno = LeggiDis(file);
     update();
+    if (const char* diario = std::getenv("QB07_LUMVET")) std::ofstream(diario, std::ios::app) << disegno.linee.size() << '\n';
   }
   QRectF Estremi() const {
     QPolygonF p;

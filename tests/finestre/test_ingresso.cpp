@@ -197,3 +197,55 @@ TEST(Ingresso, LaFinestraStaNelloSchermo) {
   EXPECT_LE(minima.width(), 956);         // 1920 x 1200 at 200 per cent is 960 x 600
   EXPECT_LE(minima.height(), 560);
 }
+
+// Typed keys follow the focus at once, whatever else waits in the queue: no digit of theirs is replaced.
+TEST(Ingresso, LeCifreBattuteSubitoRestano) {
+  const Scena s("subito");
+  QLineEdit* campo = CampoDi(insDati.LatoTxt[2]);
+  MostraPagina(campo);
+  campo->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(campo, Qt::Key_1);
+  QCoreApplication::processEvents();
+  QTest::keyClicks(campo, "50");
+  EXPECT_EQ(campo->text(), "150");
+}
+
+// A list of completions, a menu or another window that goes gives the focus back to a half-typed text.
+TEST(Ingresso, IlFuocoDiRitornoNonSeleziona) {
+  const Scena s("ritorno");
+  QLineEdit* campo = CampoDi(insDati.LatoTxt[2]);
+  Scrivi(insDati.LatoTxt[2], "12");
+  for (const Qt::FocusReason causa : {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason, Qt::MenuBarFocusReason}) {
+    QFocusEvent perso(QEvent::FocusOut, causa), preso(QEvent::FocusIn, causa);
+    QApplication::sendEvent(campo, &perso);
+    QApplication::sendEvent(campo, &preso);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(campo->selectedText(), "") << causa;
+    EXPECT_EQ(CampoDi(insDati.LatoTxt[0])->text(), "500") << causa;      // not left
+  }
+  QLineEdit altrui(s.principale);
+  altrui.setText("ab");
+  altrui.deselect();
+  QFocusEvent preso(QEvent::FocusIn, Qt::OtherFocusReason);
+  QApplication::sendEvent(&altrui, &preso);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(altrui.selectedText(), "");
+}
+
+TEST(Ingresso, LaLetteraDellaDidascaliaPremeSubito) {
+  const Scena s("lettera");
+  MostraPagina(OggettoDi(insDati.Singolo));
+  QTest::keyClick(s.principale, Qt::Key_G, Qt::AltModifier);
+  EXPECT_EQ(nodo.NumSoll, 1);
+}
+
+// Tab comes to the chosen entry; an arrow chooses the next one.
+TEST(Ingresso, LeScelteDaTastiera) {
+  const Scena s("scelte");
+  QTest::keyClick(s.principale, Qt::Key_4, Qt::ControlModifier);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  ASSERT_EQ(QApplication::focusWidget(), OggettoDi(insDati.OptionNTir[0]));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+  EXPECT_EQ(nodo.NTir, 8);
+  EXPECT_EQ(QApplication::focusWidget(), OggettoDi(insDati.OptionNTir[1]));
+}

@@ -81,12 +81,13 @@ struct FormatoAnteprima {
   const char* voce;
   const char* filtro;
   const char* estensione;
+  const char* tasto;
   bool (*salva)(const FoglioVisto& f, const QString& file);
 };
 static constexpr FormatoAnteprima FORMATI_ANTEPRIMA[] = {
-  { "PDF...", "Documento PDF|*.pdf", "pdf", SalvaFoglioPdf },
-  { "PNG...", "Immagine PNG|*.png", "png", SalvaFoglioPng },
-  { "SVG...", "Disegno SVG|*.svg", "svg", SalvaSvg },
+  { "PDF...", "Documento PDF|*.pdf", "pdf", "Ctrl+P", SalvaFoglioPdf },
+  { "PNG...", "Immagine PNG|*.png", "png", "Ctrl+N", SalvaFoglioPng },
+  { "SVG...", "Disegno SVG|*.svg", "svg", "Ctrl+G", SalvaSvg },
 };
 
 // What is saved is the node as it stands, and the window shows it.
@@ -121,10 +122,8 @@ static QMainWindow* NuovaAnteprima() {
   barra->setContextMenuPolicy(Qt::PreventContextMenu);
   const auto comando = [f, barra](const char* nome, const char* tasto, auto fai) {
     QAction* a = barra->addAction(Testo(nome));
-    if (*tasto != '\0') {
-      a->setShortcut(QKeySequence(QString(tasto), QKeySequence::PortableText));
-      a->setToolTip(QString("%1 (%2)").arg(Testo(nome), a->shortcut().toString(QKeySequence::NativeText)));
-    }
+    a->setShortcut(QKeySequence(QString(tasto), QKeySequence::PortableText));
+    a->setToolTip(QString("%1 (%2)").arg(Testo(nome), a->shortcut().toString(QKeySequence::NativeText)));
     QObject::connect(a, &QAction::triggered, f, fai);
   };
   comando("Adatta", "Ctrl+0", [lavagna] { lavagna->Adatta(); });
@@ -134,7 +133,7 @@ static QMainWindow* NuovaAnteprima() {
   barra->addSeparator();
   barra->addWidget(new QLabel(" Salva: "));
   for (const FormatoAnteprima& formato : FORMATI_ANTEPRIMA)
-    comando(formato.voce, "", [lavagna, &formato] { SalvaAnteprima(formato, lavagna->foglio); });
+    comando(formato.voce, formato.tasto, [lavagna, &formato] { SalvaAnteprima(formato, lavagna->foglio); });
   barra->addSeparator();
   comando("Chiudi", "Esc", [f] { f->close(); });
   const QSize schermo = f->screen()->availableSize();

@@ -28,6 +28,7 @@
 #include <QDialog>
 #include <QEventLoop>
 #include <QGridLayout>
+#include <QLineEdit>
 #include <QScreen>
 #include <QTimer>
 
@@ -181,6 +182,7 @@ void ApriPannello(const Pannello& p, bool modale) {
   w.show();
   w.raise();
   w.activateWindow();
+  if (auto* campo = dynamic_cast<QLineEdit*>(w.focusWidget())) campo->selectAll();
   if (!modale) return;
   QApplication::setOverrideCursor(Qt::ArrowCursor);
   AspettaChiusura(*f);

@@ -70,6 +70,14 @@ static void Premi(QAbstractButton& b) {
   b.click();
 }
 
+// The letter of a caption presses at once: the toolkit's own press ends a tenth of a second later, behind the keys typed meanwhile.
+static bool Lettera(QWidget& w) {
+  const Legame* l = LegameDi(&w);
+  if (l == nullptr || l->oggetto != &w || l->riga->genere != Genere::Comando) return false;
+  Premi(static_cast<QAbstractButton&>(w));
+  return true;
+}
+
 void CollegaTasto(QAbstractButton& b) {
   const QString tasto = b.property("tasto").toString();
   if (tasto.isEmpty()) return;
@@ -79,11 +87,14 @@ void CollegaTasto(QAbstractButton& b) {
   else b.setToolTip(QString("%1 (%2)").arg(b.toolTip(), scorciatoia->key().toString(QKeySequence::NativeText)));
 }
 
-// Control and the page's number turn to it from anywhere in the window.
+// Control and the page's number turn to it from anywhere in the window; the next Tab enters the page.
 static void CollegaPagine(QTabWidget& schede) {
   for (int k = 0; k < schede.count(); ++k) {
     auto* scorciatoia = new QShortcut(QKeySequence(QString("Ctrl+%1").arg(k + 1), QKeySequence::PortableText), schede.window());
-    QObject::connect(scorciatoia, &QShortcut::activated, &schede, [&schede, k] { schede.setCurrentIndex(k); });
+    QObject::connect(scorciatoia, &QShortcut::activated, &schede, [&schede, k] {
+      schede.setFocus(Qt::ShortcutFocusReason);
+      schede.setCurrentIndex(k);
+    });
     schede.setTabToolTip(k, QString("Tasto: %1").arg(scorciatoia->key().toString(QKeySequence::NativeText)));
   }
 }
@@ -235,21 +246,31 @@ static bool Tasto(QWidget& w, const QKeyEvent& e) {
 
 // ---- focus ----
 
-static void FuocoPreso(QWidget& w) {
-  auto* campo = dynamic_cast<QLineEdit*>(&w);
-  if (campo == nullptr) return;
+// Another window in front, a menu or a list of completions neither takes a field's focus nor gives it back.
+static bool FuocoDiPassaggio(Qt::FocusReason causa) {
+  return causa == Qt::ActiveWindowFocusReason || causa == Qt::PopupFocusReason || causa == Qt::MenuBarFocusReason;
+}
+
+static Legame* CampoDelPannello(QWidget& w) {
+  Legame* l = LegameDi(&w);
+  return l != nullptr && l->oggetto == &w && l->riga->genere == Genere::Campo ? l : nullptr;
+}
+
+// All of it is selected: with the keyboard at once, with the mouse behind the press that brings the focus; never over what was typed since.
+static void FuocoPreso(QWidget& w, Qt::FocusReason causa) {
+  if (CampoDelPannello(w) == nullptr || FuocoDiPassaggio(causa)) return;
+  auto* campo = static_cast<QLineEdit*>(&w);
+  campo->selectAll();
+  if (causa != Qt::MouseFocusReason) return;
   const QPointer<QLineEdit> p = campo;
-  QTimer::singleShot(0, campo, [p] {      // behind the press of the mouse that brought the focus
-    if (p && p->hasFocus()) p->selectAll();
+  QTimer::singleShot(0, campo, [p, testo = campo->text()] {
+    if (p && p->hasFocus() && p->text() == testo) p->selectAll();
   });
 }
 
-// Another window in front, or a menu, does not count as leaving the field.
 static void FuocoPerso(QWidget& w, Qt::FocusReason causa) {
-  if (causa == Qt::ActiveWindowFocusReason || causa == Qt::PopupFocusReason || causa == Qt::MenuBarFocusReason) return;
-  const Legame* l = LegameDi(&w);
-  if (l == nullptr || l->oggetto != &w || l->riga->genere != Genere::Campo) return;
-  if (finestre.comandi == 0) Accade(*l, Evento::Invio);
+  const Legame* l = CampoDelPannello(w);
+  if (l != nullptr && !FuocoDiPassaggio(causa) && finestre.comandi == 0) Accade(*l, Evento::Invio);
 }
 
 // ---- the filter ----
@@ -300,9 +321,10 @@ static bool Filtra(QWidget& w, QEvent& e) {
       if (figura && l->riga->cambio != nullptr && l->oggetto->isEnabled()) Accade(*l, Evento::Cambio);
       return false;
     }
+    case QEvent::Shortcut: return Lettera(w);
     case QEvent::KeyPress: return Tasto(w, static_cast<QKeyEvent&>(e)) || Fuga(w, static_cast<QKeyEvent&>(e));
     case QEvent::Wheel: return FinestraDelWidget(w) != nullptr && Rotella(w, static_cast<QWheelEvent&>(e));
-    case QEvent::FocusIn: FuocoPreso(w); return false;
+    case QEvent::FocusIn: FuocoPreso(w, static_cast<QFocusEvent&>(e).reason()); return false;
     case QEvent::FocusOut: FuocoPerso(w, static_cast<QFocusEvent&>(e).reason()); return false;
     case QEvent::ToolTip: return Suggerimento(w, static_cast<QHelpEvent&>(e));
     case QEvent::Close: return Chiusura(w, e);

@@ -75,13 +75,15 @@ static void DipingiSpunta(Legame& l) {
   w.setChecked(l.controllo->scelta > 0);
 }
 
-// An exclusive group refuses to have no entry chosen, which a record may.
+// An exclusive group refuses to have no entry chosen, which a record may. Tab comes to the chosen entry, from which the arrows choose.
 static void DipingiScelta(Legame& l) {
   auto& w = *static_cast<QRadioButton*>(l.oggetto);
   w.setText(Didascalia(w, l.controllo->testo));
   l.gruppo->setExclusive(false);
   w.setChecked(l.controllo->scelta > 0);
   l.gruppo->setExclusive(true);
+  const QAbstractButton* scelto = l.gruppo->checkedButton();
+  for (QAbstractButton* b : l.gruppo->buttons()) b->setFocusPolicy(scelto == nullptr || b == scelto ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 static void DipingiLista(Legame& l) {
