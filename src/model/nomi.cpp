@@ -26,9 +26,16 @@ static std::string TestoDi(GenereNome genere, const void* p) {
     case GenereNome::Vero: return *static_cast<const bool*>(p) ? "1" : "0";
     case GenereNome::Testo: return *static_cast<const std::string*>(p);
     case GenereNome::Costante: return *static_cast<const char* const*>(p);
+    case GenereNome::Vista: return std::string(*static_cast<const std::string_view*>(p));
+    case GenereNome::Carattere: return *static_cast<const char*>(p) == '\0' ? std::string() : std::string(1, *static_cast<const char*>(p));
+    case GenereNome::Elenco:
     case GenereNome::Record: break;
   }
   return {};
+}
+
+static std::string VoceDi(const std::vector<std::string>& elenco, int n) {
+  return static_cast<std::size_t>(n) < elenco.size() ? elenco[static_cast<std::size_t>(n)] : std::string();
 }
 
 static const RigaNome* CercaNome(std::span<const RigaNome> righe, std::string_view nome) {
@@ -48,13 +55,13 @@ static bool PrendiIndice(std::string_view& testo, int& n) {
   return true;
 }
 
-// `testo` begins behind the name: "(i,j)" for r's dimensions, nothing for none. Leaves what follows; moves p to the element.
-static bool PrendiIndici(const RigaNome& r, std::string_view& testo, const std::byte*& p) {
+// `testo` begins behind the name: "(i,j)" for r's dimensions, nothing for none. Leaves what follows; moves p to the
+// element; n becomes the last index.
+static bool PrendiIndici(const RigaNome& r, std::string_view& testo, const std::byte*& p, int& n) {
   if (r.numDim == 0) return true;
   for (int d = 0; d < r.numDim; ++d) {
     if (testo.empty() || testo.front() != (d == 0 ? '(' : ',')) return false;
     testo.remove_prefix(1);
-    int n = 0;
     const DimensioneNome& dim = r.dim[d];
     if (!PrendiIndice(testo, n) || n < dim.primo || n > dim.ultimo) return false;
     p += static_cast<std::size_t>(n - dim.origine) * dim.passo;
@@ -71,13 +78,14 @@ static bool ValoreIn(std::span<const RigaNome> righe, const std::byte* record, s
   if (r == nullptr) return false;
   testo.remove_prefix(nome.size());
   const std::byte* p = record != nullptr ? record + r->scarto : static_cast<const std::byte*>(r->base);
-  if (!PrendiIndici(*r, testo, p)) return false;
+  int n = 0;
+  if (!PrendiIndici(*r, testo, p, n)) return false;
   if (r->genere == GenereNome::Record) {
     if (testo.empty() || testo.front() != '.') return false;
     return ValoreIn(r->campi, p, testo.substr(1), valore);
   }
   if (!testo.empty()) return false;
-  valore = TestoDi(r->genere, p);
+  valore = r->genere == GenereNome::Elenco ? VoceDi(*static_cast<const std::vector<std::string>*>(r->base), n) : TestoDi(r->genere, p);
   return true;
 }
 
@@ -135,7 +143,7 @@ static constexpr RigaNome NOMI[] = {
   VOCE(ris, FlagDiamInterpolato),
   // Suite
   Voce("TitoloProg", TitoloProg), VOCE(suite, DirRoot), VOCE(suite, DirLavoro), VOCE(suite, DirProgra), VOCE(suite, DirDriver),
-  VOCE(suite, DirCustom), VOCE(suite, Lavoro), VOCE(suite, AccelG), VOCE(suite, NordGeo), VOCE(suite, UnitaLung),
+  VOCE(suite, DirCustom), VOCE(suite, Lavoro), VOCE(suite, StrTmp), VOCE(suite, AccelG), VOCE(suite, NordGeo), VOCE(suite, UnitaLung),
   VOCE(suite, UnitaForze), VOCE(suite, UnitaMomenti), VOCE(suite, UnitaTensioni), VOCE(suite, UnitaSezioni), VOCE(suite, UnitaCarichi),
   VOCE(suite, FattLung), VOCE(suite, FattForze), VOCE(suite, FattMomenti), VOCE(suite, FattTensioni), VOCE(suite, FattSezioni),
   VOCE(suite, FattCarichi), VOCE(suite, DecLung), VOCE(suite, DecForze), VOCE(suite, DecMomenti), VOCE(suite, DecTensioni),

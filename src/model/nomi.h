@@ -3,6 +3,7 @@
 // Value     numbers with 15 significant digits (the %.15g form), truth as 1 or 0, texts as they are.
 // Indices   as the program counts them, from primo to ultimo. Row 0 of the lists of loads, anchors' positions, materials and
 //           results exists, free; it can be looked at, so that a script sees that nothing uses it.
+// Lists     a text list that grows answers as an array of its capacity: behind its last entry the texts are empty.
 // Failure   an unknown name, a missing, superfluous or bad index, an index outside its array: false, and nothing is read.
 // A room with tables of its own fills a span of RigaNome by Voce and CAMPO and hands it over as `altri`.
 #pragma once
@@ -12,8 +13,9 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <vector>
 
-enum class GenereNome : unsigned char { Reale, Intero16, Intero32, Vero, Testo, Costante, Record };
+enum class GenereNome : unsigned char { Reale, Intero16, Intero32, Vero, Testo, Costante, Vista, Carattere, Elenco, Record };
 
 struct DimensioneNome {
   int primo = 0, ultimo = -1;      // indices that a script may write
@@ -44,6 +46,8 @@ template <class T> consteval GenereNome GenereDi() {
   else if constexpr (std::is_same_v<T, bool>) return GenereNome::Vero;
   else if constexpr (std::is_same_v<T, std::string>) return GenereNome::Testo;
   else if constexpr (std::is_same_v<T, const char*>) return GenereNome::Costante;
+  else if constexpr (std::is_same_v<T, std::string_view>) return GenereNome::Vista;
+  else if constexpr (std::is_same_v<T, char>) return GenereNome::Carattere;
   else return GenereNome::Record;
 }
 
@@ -68,6 +72,16 @@ template <class T>
 constexpr RigaNome Voce(const char* nome, const T& v, IndiciNome prima = DA_1, std::span<const RigaNome> campi = {}) {
   RigaNome r = FormaNome<T>(nome, prima, campi);
   r.base = &v;
+  return r;
+}
+// A list of texts, entries from 0 to `ultimo`.
+constexpr RigaNome VoceElenco(const char* nome, const std::vector<std::string>& v, int ultimo) {
+  RigaNome r;
+  r.nome = nome;
+  r.genere = GenereNome::Elenco;
+  r.base = &v;
+  r.numDim = 1;
+  r.dim[0] = {0, ultimo, 0, 0};
   return r;
 }
 template <class T>

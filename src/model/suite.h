@@ -12,6 +12,7 @@ constexpr int NumParNodo = 28;     // drawing options 0..27
 
 struct Suite {
   std::string DirRoot, DirLavoro, DirProgra, DirDriver, DirCustom, Lavoro;  // as composed, with backslashes
+  std::string StrTmp;              // scratch text of the suite's programs; it holds nothing between two operations
   char Decimale = '.';             // decimal mark of the user's locale, asked once by the host
 
   double AccelG = 0, NordGeo = 0;

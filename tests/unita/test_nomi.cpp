@@ -7,7 +7,10 @@
 #include <string>
 #include <vector>
 
+#include "drawing/Quote.h"
 #include "drawing/disegno.h"
+#include "drawing/esecutivo.h"
+#include "drawing/formats/grb_stili.h"
 #include "drawing/nomi_disegno.h"
 #include "engine/PresInfl.h"
 #include "engine/nomi_motore.h"
@@ -56,6 +59,7 @@ TEST_F(Nomi, ScalariDiOgniGenere) {
   EXPECT_EQ(Valore("FlagDiamInterpolato"), "1");
   EXPECT_EQ(Valore("FlagDiamEstrapolato"), "0");
   EXPECT_EQ(Valore("TitoloProg"), "NODO COLONNA - PLINTO");
+  EXPECT_EQ(Valore("StrTmp"), "");
 }
 
 TEST_F(Nomi, NumeriConQuindiciCifre) {
@@ -263,6 +267,34 @@ TEST_F(Nomi, AltreStanze) {
   EXPECT_EQ(valore("CoordY(0)"), "2.5");
   EXPECT_EQ(valore("CoordY(50001)"), "rifiuto");
   EXPECT_EQ(valore("StatoTxt"), "Opzioni");
+  disegno.DestDis = GENDIS;
+  disegno.ColCorr = 4;
+  disegno.TesStr = {"A-A", "Pianta"};
+  disegno.QuoTipo[1] = 'V';
+  disegno.QuoTesto = {"", "Stringa_di_default"};
+  stiliGrb.AltStile[100] = 2.5;
+  esecutivo.BoxCYMin = -3;
+  quote.QuotaRibaltata = true;
+  EXPECT_EQ(valore("DestDis"), "gendis");
+  EXPECT_EQ(valore("ColCorr"), "4");
+  EXPECT_EQ(valore("TesStr(1)"), "Pianta");
+  EXPECT_EQ(valore("TesStr(2)"), "") << "room of the table that no text has taken";
+  EXPECT_EQ(valore("TesStr(15000)"), "");
+  for (const char* nome : {"TesStr", "TesStr(-1)", "TesStr(15001)", "TesStr(1,1)", "TesStr(1).x", "QuoTesto(1001)"}) EXPECT_EQ(valore(nome), "rifiuto") << nome;
+  EXPECT_EQ(valore("QuoTipo(1)"), "V");
+  EXPECT_EQ(valore("QuoTipo(0)"), "");
+  EXPECT_EQ(valore("QuoTesto(1)"), "Stringa_di_default");
+  EXPECT_EQ(valore("AltStile(100)"), "2.5");
+  EXPECT_EQ(valore("BoxCYMin"), "-3");
+  EXPECT_EQ(valore("QuotaRibaltata"), "1");
+  disegno.DestDis = {};
+  disegno.ColCorr = 0;
+  disegno.TesStr.clear();
+  disegno.QuoTipo[1] = '\0';
+  disegno.QuoTesto.clear();
+  stiliGrb = {};
+  esecutivo = {};
+  quote = {};
   std::vector<std::string> nomi;
   for (const RigaNome& r : NomiModello()) nomi.emplace_back(r.nome);
   for (const std::span<const RigaNome> righe : altri)
