@@ -131,6 +131,21 @@ TEST_F(Dxf, ArchiECerchi) {
                             " 0|ARC| 8|0| 10|10| 20|20| 30|0.0| 40|4| 50|0| 51|90| 62|3| 6|CENTER|"));
 }
 
+// A radius of the tolerance is written; ends at the tolerance from each other make an arc.
+TEST_F(Dxf, ArchiAlLimiteDellaTolleranza) {
+  const double x[] = {0, 0.0001, 5, 5}, y[] = {0, 0, 0, 0.0001};
+  for (int i = 0; i < 4; ++i) disegno.CoordX[i] = x[i], disegno.CoordY[i] = y[i];
+  disegno.NumCoord = 4;
+  disegno.ArcIni[0] = disegno.ArcFin[0] = 1;
+  disegno.ArcIni[1] = 2;
+  disegno.ArcFin[1] = 3;
+  disegno.ArcCol[0] = disegno.ArcCol[1] = 1;
+  disegno.NumArchi = 2;
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
+  const std::string t = Entita();
+  EXPECT_EQ(t.find(Righe(" 0|CIRCLE| 8|0| 10|0| 20|0| 30|0.0| 40|.0001| 0|ARC|")), 0u) << t;
+}
+
 TEST_F(Dxf, OrdineLineeTestiArchi) {
   DisArco(nullptr, 0, 0, 5);
   DisTesto("t", 0, 0, 0, 1, 1);
@@ -146,6 +161,7 @@ TEST_F(Dxf, Angoli) {
   EXPECT_EQ(AngoloArco(0, 5, 0, 0), 90);
   EXPECT_EQ(AngoloArco(0.00009, -5, 0, 0), 270);
   EXPECT_EQ(AngoloArco(0, 0, 0, 0), 270);
+  EXPECT_LT(AngoloArco(0.0001, 5, 0, 0), 90);           // at the tolerance it is no upright
   EXPECT_EQ(AngoloArco(5, 0, 0, 0), 0);
   EXPECT_EQ(AngoloArco(-5, 0, 0, 0), 180);
   EXPECT_NEAR(AngoloArco(5, 5, 0, 0), 45.00000936, 1e-8);

@@ -101,6 +101,17 @@ TEST_F(Grb, Quote) {
   EXPECT_EQ(X(disegno.QuoFin[0]), 100);
 }
 
+// Strictly below the tolerance only.
+TEST_F(Grb, QuoteAlLimiteDellaTolleranza) {
+  QuotaGrb("", 0, 0, 100, 0.0001, 0, 1);
+  QuotaGrb("", 0, 0, 0.0001, 100, 0, 1);
+  QuotaGrb("", 0, 0, 0.0001, 0, 0, 1);
+  ASSERT_EQ(disegno.NumQuote, 3);
+  EXPECT_EQ(disegno.QuoTipo[0], 'P');
+  EXPECT_EQ(disegno.QuoTipo[1], 'P');
+  EXPECT_EQ(disegno.QuoTipo[2], 'H');
+}
+
 // 999 are stored; each later one shows the message, a degenerate one too.
 TEST_F(Grb, LimiteDelleQuote) {
   disegno.NumQuote = 998;

@@ -74,6 +74,15 @@ TEST_F(Misure, DegenereNonDisegnaNulla) {
   EXPECT_EQ(disegno.NumTesti + disegno.NumLinee + disegno.NumArchi, 0);
 }
 
+// At the tolerance there is a dimension; its direction counts as vertical, downward when it does not rise.
+TEST_F(Misure, AlLimiteDellaTolleranza) {
+  Quota("a", 0, 0.0001, 0, 0);
+  Quota("b", 0, 0, 0, 0.0001);
+  ASSERT_EQ(disegno.NumTesti, 2);
+  EXPECT_EQ(disegno.TesAng[0], -90);
+  EXPECT_EQ(disegno.TesAng[1], 90);
+}
+
 TEST_F(Misure, SoloTesto) {
   DisQuota("SEZIONE B-B", -1, 1, 50, 50, -1, 2, 18, 25, 0, 1);
   EXPECT_EQ(disegno.NumLinee + disegno.NumArchi, 0);
@@ -413,6 +422,10 @@ TEST_F(Marchi, GolaMinuscola) {
   DisSaldatura(nullptr, 0, 0, 1000, 0, 1, 2, 3);
   EXPECT_EQ(disegno.NumLinee, 1);
   EXPECT_FALSE(FaultAritmetico());
+  AzzeraDisegno();
+  nodo.Gola = 0.0001;                                        // strokes as long as the tolerance are drawn
+  DisSaldatura(nullptr, 0, 0, 0.001, 0, 1, 2, 3);
+  EXPECT_EQ(disegno.NumLinee, 10);
   nodo.Gola = 0.01;
   DisSaldatura(nullptr, 0, 0, 1000, 0, 1, 2, 3);
   EXPECT_TRUE(disegno.Interrotto);

@@ -359,6 +359,8 @@ TEST_F(Foglio, LineaConFori) {
   Linea(3, 55, 3, 100, 3);
   Prepara();
   LineaConFori(0, 0, 50, 50, 2, centri, larghezze);          // neither
+  LineaConFori(0, 0, 50, 0.0001, 2, centri, larghezze);
+  LineaConFori(0, 0, 0.0001, 50, 2, centri, larghezze);
   EXPECT_EQ(disegno.NumLinee, 0);
 }
 
