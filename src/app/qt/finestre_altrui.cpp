@@ -7,8 +7,8 @@
 #include <X11/Xutil.h>
 #include <X11/keysym.h>
 
-#include <cstdlib>
-#include <cstring>
+#include <chrono>
+#include <thread>
 
 static std::string Proprieta(Display* d, Window w, Atom nome, Atom tipo) {
   Atom tipoVero = 0;
@@ -53,20 +53,49 @@ struct Collegato {
   Collegato& operator=(const Collegato&) = delete;
 };
 
-bool AttivaFinestraEsterna(const std::string& titolo) {
-  const Collegato x;
-  if (x.d == nullptr) return false;
-  const Window radice = DefaultRootWindow(x.d), w = Cerca(x.d, radice, titolo);
-  if (w == 0) return false;
+// A window manager is asked to bring it in front; where there is none the focus is set.
+static bool GestoreDelleFinestre(Display* d) {
+  Atom tipo = 0;
+  int bit = 0;
+  unsigned long quanti = 0, resto = 0;
+  unsigned char* dati = nullptr;
+  const Atom nome = XInternAtom(d, "_NET_SUPPORTING_WM_CHECK", False);
+  const int esito = XGetWindowProperty(d, DefaultRootWindow(d), nome, 0, 1, False, XA_WINDOW, &tipo, &bit, &quanti, &resto, &dati);
+  if (dati != nullptr) XFree(dati);
+  return esito == Success && quanti > 0;
+}
+
+static void ChiediAlGestore(Display* d, Window w) {
   XEvent e = {};
   e.xclient.type = ClientMessage;
   e.xclient.window = w;
-  e.xclient.message_type = XInternAtom(x.d, "_NET_ACTIVE_WINDOW", False);
+  e.xclient.message_type = XInternAtom(d, "_NET_ACTIVE_WINDOW", False);
   e.xclient.format = 32;
   e.xclient.data.l[0] = 2;                          // asked for by the user
-  XSendEvent(x.d, radice, False, SubstructureRedirectMask | SubstructureNotifyMask, &e);
+  XSendEvent(d, DefaultRootWindow(d), False, SubstructureRedirectMask | SubstructureNotifyMask, &e);
+}
+
+// Keys that arrive before the focus are lost on it. A desktop that does not give the focus away is not waited for longer.
+static void AspettaFuoco(Display* d, Window w) {
+  for (int k = 0; k < 100; ++k) {
+    Window fuoco = 0;
+    int ritorno = 0;
+    XGetInputFocus(d, &fuoco, &ritorno);
+    if (fuoco == w) return;
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+}
+
+bool AttivaFinestraEsterna(const std::string& titolo) {
+  const Collegato x;
+  if (x.d == nullptr) return false;
+  const Window w = Cerca(x.d, DefaultRootWindow(x.d), titolo);
+  if (w == 0) return false;
   XRaiseWindow(x.d, w);
+  if (GestoreDelleFinestre(x.d)) ChiediAlGestore(x.d, w);
+  else XSetInputFocus(x.d, w, RevertToParent, CurrentTime);
   XSync(x.d, False);
+  AspettaFuoco(x.d, w);
   return true;
 }
 
