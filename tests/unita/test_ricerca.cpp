@@ -57,6 +57,18 @@ TEST_F(Ricerca, PrimoElementoPrimaDelTrattino) {
   std::string campo;
   CercaElemento("t", campo, ELEMENTO_NODO, true);
   EXPECT_EQ(campo, "3");
+  registratore.eseguito = [](const std::string&) {
+    ScriviByte(suite.DirLavoro + "/SondaOut.txt", " 18 \r\n");
+    return true;
+  };
+  CercaElemento("t", campo, ELEMENTO_NODO, true);
+  EXPECT_EQ(campo, "18");                                 // no separator: the whole line
+  registratore.eseguito = [](const std::string&) {
+    ScriviByte(suite.DirLavoro + "/SondaOut.txt", ",4\r\n");
+    return true;
+  };
+  CercaElemento("t", campo, ELEMENTO_NODO, true);
+  EXPECT_EQ(campo, "18");                                 // an empty first element: as it was
 }
 
 TEST_F(Ricerca, AnnullatoORigaVuotaLasciaIlCampo) {

@@ -189,6 +189,10 @@ TEST_F(Struttura, AstaAssenteSiNegaENodoAssenteFerma) {
   Aste({5});
   EXPECT_FALSE(NodiAste());
   AttesoSolo("[messaggio] esclamazione | ERRORE | Errore: mancata corrispondenza fra aste e nodi");
+  registratore.eventi.clear();
+  suite.DirLavoro = lavoro + "\\manca";
+  EXPECT_FALSE(NodiAste());
+  AttesoSolo("[messaggio] esclamazione | ERRORE | Errore: file " + suite.DirLavoro + "\\struttur.str errato o mancante.");
 }
 
 TEST_F(Struttura, CondizioniDiCarico) {
