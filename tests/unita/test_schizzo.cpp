@@ -93,17 +93,29 @@ TEST_F(Schizzo, SezionePiastraTirafondi) {
   ASSERT_EQ(t.tratti.size(), 24u);           // 12 lines and 4 fillets of the section, 4 of the plate, 4 anchors
   Segmento(t.tratti[0], 3, 78, 3, -78);      // web: a/2, h' - e - r = 100 - 22
   Segmento(t.tratti[1], -3, -78, -3, 78);
-  Segmento(t.tratti[2], -50, 100, 50, 100);
+  Segmento(t.tratti[2], -50, 100, 50, 100);  // upper flange, clockwise
+  Segmento(t.tratti[3], 50, 100, 50, 90);
   Segmento(t.tratti[4], 50, 90, 15, 90);     // a/2 + r = 15
-  EXPECT_EQ(t.tratti[5].forma, Tratto::Forma::Arco);
-  EXPECT_DOUBLE_EQ(t.tratti[5].xc, 15);
-  EXPECT_DOUBLE_EQ(t.tratti[5].yc, 78);
-  EXPECT_DOUBLE_EQ(t.tratti[5].raggio, 12);
-  EXPECT_DOUBLE_EQ(t.tratti[5].a1, 3.141592 / 2);
-  EXPECT_DOUBLE_EQ(t.tratti[5].a2, 3.141592);
-  EXPECT_DOUBLE_EQ(t.tratti[12].a1, 1.5 * 3.141592);      // lower left fillet: from 1.5 pi to 0
-  EXPECT_EQ(t.tratti[12].a2, 0);
+  Segmento(t.tratti[7], 15, -90, 50, -90);   // lower flange
+  Segmento(t.tratti[8], 50, -90, 50, -100);
+  Segmento(t.tratti[9], 50, -100, -50, -100);
+  Segmento(t.tratti[10], -50, -100, -50, -90);
+  Segmento(t.tratti[11], -50, -90, -15, -90);
+  Segmento(t.tratti[14], -15, 90, -50, 90);
+  Segmento(t.tratti[15], -50, 90, -50, 100);
+  const struct { std::size_t k; double x, y, da, fino; } raccordi[] = {   // angles in pi; the third from 1.5 pi to 0
+      {5, 15, 78, 0.5, 1}, {6, 15, -78, 1, 1.5}, {12, -15, -78, 1.5, 0}, {13, -15, 78, 0, 0.5}};
+  for (const auto& r : raccordi) {
+    EXPECT_EQ(t.tratti[r.k].forma, Tratto::Forma::Arco);
+    EXPECT_DOUBLE_EQ(t.tratti[r.k].xc, r.x);
+    EXPECT_DOUBLE_EQ(t.tratti[r.k].yc, r.y);
+    EXPECT_DOUBLE_EQ(t.tratti[r.k].raggio, 12);
+    EXPECT_DOUBLE_EQ(t.tratti[r.k].a1, r.da * 3.141592);
+    EXPECT_DOUBLE_EQ(t.tratti[r.k].a2, r.fino * 3.141592);
+  }
   Segmento(t.tratti[16], -150, -200, -150, 200);
+  Segmento(t.tratti[17], 150, -200, 150, 200);
+  Segmento(t.tratti[18], -150, -200, 150, -200);
   Segmento(t.tratti[19], -150, 200, 150, 200);
   const Tratto& primo = t.tratti[20];
   EXPECT_EQ(primo.forma, Tratto::Forma::Arco);
@@ -124,9 +136,13 @@ TEST_F(Schizzo, NervatureSoloConTipoDue) {
   Segmento(t.tratti[22], -80, -100, -80, -92);            // B/2 + NervZ, from -H/2 upward
   Segmento(t.tratti[23], -80, 100, -80, 92);
   Segmento(t.tratti[24], -58, -130, -66, -130);           // -H/2 - NervY
+  Segmento(t.tratti[25], -58, 130, -66, 130);
   Segmento(t.tratti[26], -58, -100, -150, -100);
+  Segmento(t.tratti[27], -58, -92, -150, -92);
+  Segmento(t.tratti[28], -58, 100, -150, 100);
   Segmento(t.tratti[29], -58, 92, -150, 92);
   Segmento(t.tratti[30], 50, -200, 50, 200);
+  Segmento(t.tratti[34], 58, -130, 66, -130);
 }
 
 TEST_F(Schizzo, SenzaRaggioNessunArcoEStesseLinee) {
