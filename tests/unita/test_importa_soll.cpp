@@ -244,6 +244,20 @@ TEST_F(Importa, OltreDuecentoConDueZeriSiFermaADuecento) {
   ASSERT_EQ(registratore.eventi.size(), 1u);
 }
 
+// No section, no sextet: no record is a bar's, though the file holds some.
+TEST_F(Importa, FileSenzaSezioniOSestetti) {
+  for (const std::int16_t lato : {std::int16_t{1}, std::int16_t{2}}) {
+    c.LatoAsta[1] = lato;
+    Scrivi("astec007.bin", FileRisultatiDi(1, 0, 1, {{5, 1, 0, 0, 0, 0, 0}, {5, 2, 0, 0, 0, 0, 0}}));
+    ImportaSollecitazioni(false);
+    EXPECT_EQ(nodo.NumSoll, 0) << lato;
+    Scrivi("astec007.bin", FileRisultatiDi(1, 1, 0, {{5, 1, 0, 0, 0, 0, 0}, {5, 2, 0, 0, 0, 0, 0}}));
+    ImportaSollecitazioni(false);
+    EXPECT_EQ(nodo.NumSoll, 0) << lato;
+  }
+  EXPECT_TRUE(registratore.eventi.empty());
+}
+
 TEST_F(Importa, ValoreNonFinitoSiSalta) {
   Scrivi("astec007.bin", FileRisultatiDi(1, 1, 2, {{5, std::numeric_limits<double>::infinity(), 0, 0, 0, 0, 0}, {5, 8, 0, 0, 0, 0, 0}}));
   ImportaSollecitazioni(false);
