@@ -261,6 +261,25 @@ TEST_F(Pannelli_, CercaINodiDiRiferimento) {
             "NODO COLONNA - PLINTO - IMPORTA SOLLECITAZIONI DA 3D - Cerca nodi\r\n\r\n1\r\n");
 }
 
+// The pointer waits while a command searches or imports, which its first box shows, and no longer.
+TEST_F(Pannelli_, PuntatoreDiAttesa) {
+  static std::vector<bool> nelRiquadro;
+  nelRiquadro.clear();
+  piattaforma.messaggio = [](const std::string&, const std::string&, Icona) { nelRiquadro.push_back(registratore.attesa); };
+  piattaforma.apri(Sez3D, false);
+  Premi(Sez3D, "Cerca");                                  // no structure file
+  EXPECT_FALSE(registratore.attesa);
+  Premi(Sez3D, "Annulla");
+  Premi(Soll3D, "Importa");                               // no nodes
+  EXPECT_FALSE(registratore.attesa);
+  registratore.dentro.push_back([] { Premi(Selezione, "Cerca"); });
+  Premi(Soll3D, "Cerca", 0);                              // no nodes
+  EXPECT_FALSE(registratore.attesa);
+  Premi(InsDati, "ApriVis");                              // no viewer
+  EXPECT_FALSE(registratore.attesa);
+  EXPECT_EQ(nelRiquadro, (std::vector<bool>{true, true, true, true}));
+}
+
 // ---- section import and nodes of the model ----
 
 TEST_F(Pannelli_, ImportaSezione) {

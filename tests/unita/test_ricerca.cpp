@@ -165,6 +165,15 @@ TEST_F(Ricerca, FiltriPerColoreLineaENome) {
             "che concorra nel nodo 20");
 }
 
+// Colours 0 to 9 and line types 0 to 4 are those that a filter can let pass; the first bar within them is taken.
+TEST_F(Ricerca, ColoriELineeFuoriDalFiltro) {
+  ScriviByte(lavoro + "/struttur.str", "release\r\n0\r\n1\r\n1,0,0,1,a\r\n6\r\n1,2,5,0\r\n11 1\r\n1,2,-1,0\r\n12 1\r\n1,2,0,10\r\n13 1\r\n"
+             "1,2,0,-1\r\n14 1\r\n1,2,4,9\r\n0 1\r\n1,2,4,9\r\n16 1\r\n0\r\n");
+  std::string lista;
+  EXPECT_TRUE(CercaAsta(1, tutte, lista));
+  EXPECT_EQ(lista, "16,");                                // nor does a bar of number 0
+}
+
 TEST_F(Ricerca, StrutturaAssente) {
   suite.DirLavoro = lavoro + "\\manca";
   std::string lista;

@@ -202,6 +202,14 @@ TEST_F(Struttura, CondizioniDiCarico) {
 }
 
 // An end that no integer holds counts as 0 and is no node of the model.
+TEST_F(Struttura, NodoSmisurato) {
+  Scrivi("Struttur.Str", "release\r\n0\r\n1\r\n99999999999,0,0,1,a\r\n0\r\n0\r\n");
+  Nodi({0});
+  Aste({5});
+  EXPECT_FALSE(NodiAste());
+  AttesoSolo("[messaggio] esclamazione | ERRORE | Errore: uno o più nodi inesistenti");
+}
+
 TEST_F(Struttura, EstremoSmisurato) {
   Scrivi("Struttur.Str", "release\r\n0\r\n1\r\n1,0,0,1,a\r\n1\r\n99999999999,7,0,0\r\n5 1\r\n0\r\n");
   EXPECT_EQ(AsteDelNodo(1), EsitoAste::Trovate);
