@@ -285,9 +285,10 @@ TEST_F(Pannelli_, PuntatoreDiAttesa) {
 TEST_F(Pannelli_, ImportaSezione) {
   Modello();
   piattaforma.apri(Sez3D, false);
-  EXPECT_FALSE(sez3D.geomp[0].visibile);
+  for (int i = 0; i < 5; ++i) EXPECT_FALSE(sez3D.geom[i].visibile || sez3D.geomp[i].visibile) << i;
   Scrivi(Sez3D, "NodoTxt", SENZA_INDICE, "20");
   Premi(Sez3D, "Cerca");
+  for (int i = 0; i < 5; ++i) EXPECT_TRUE(sez3D.geom[i].visibile && sez3D.geomp[i].visibile) << i;
   ASSERT_EQ(sez3D.ComboP.voci.size(), 3u);
   EXPECT_EQ(sez3D.ComboP.voci[0], "HEA200              Asta 5");   // the name's 18 characters, two blanks
   EXPECT_EQ(sez3D.ComboP.voci[1], "Non app. Composta   Asta 6");
