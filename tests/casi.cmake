@@ -15,4 +15,7 @@ if(TARGET qb07-batch)
   add_test(NAME prova_dxf COMMAND ${CMAKE_CURRENT_LIST_DIR}/corredo/prova-dxf $<TARGET_FILE:qb07-batch>)
   set_tests_properties(prova_dxf PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 300)
   add_test(NAME corredo_esegui_caso COMMAND ${CMAKE_CURRENT_LIST_DIR}/corredo/prova-esegui-caso $<TARGET_FILE:qb07-batch>)
+  # What is installed works from where it lies.
+  add_test(NAME prova_installazione COMMAND ${CMAKE_CURRENT_LIST_DIR}/corredo/prova-installazione ${CMAKE_COMMAND} ${CMAKE_BINARY_DIR})
+  set_tests_properties(prova_installazione PROPERTIES TIMEOUT 300)
 endif()
