@@ -52,6 +52,7 @@ int main(int argc, char** argv) {
   if (!CaricaInsDati(Utf8(argomenti[1]))) return 2;
   cartella = Utf8(argomenti[2]);
   QWidget& principale = *FinestraDi(InsDati)->finestra;
+  principale.resize(1240, 690);           // what fits a small screen, whatever this one is
   if (argomenti.size() > 3) {
     nodo_ = Utf8(argomenti[3]);
     piattaforma.scegliFile = [](const RichiestaFile&, std::string& percorso, int&) { percorso = nodo_; return true; };

@@ -5,11 +5,13 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 constexpr double GRADI = 180 / 3.14159265358979323846;   // for the eye only
 constexpr double SPESSORE = 1.4;                          // pen, device-independent pixels
 constexpr double BORDO = 6;
+constexpr double MARGINE = 1.2;                           // of the sketch: canvas over drawing, as in its own scale
 
 Quadro::Quadro(QWidget* padre) : QWidget(padre) { setMinimumSize(40, 20); }
 
@@ -26,10 +28,24 @@ static bool TrattiChiari(const Tela& t) {
   return false;
 }
 
-// Without a user scale the canvas counts from its upper left corner, downward.
+// How far the strokes go from the origin, to the right as to the left, upward as downward.
+static QSizeF Ingombro(const Tela& t) {
+  double x = 0, y = 0;
+  for (const Tratto& s : t.tratti) {
+    const bool arco = s.forma == Tratto::Forma::Arco;
+    x = std::max(x, arco ? std::fabs(s.xc) + s.raggio : std::max(std::fabs(s.x1), std::fabs(s.x2)));
+    y = std::max(y, arco ? std::fabs(s.yc) + s.raggio : std::max(std::fabs(s.y1), std::fabs(s.y2)));
+  }
+  return {x, y};
+}
+
+// Without a user scale the canvas counts from its upper left corner, downward. With one, which is that of a square, the side that does not
+// govern is narrowed to the same margin, so that the drawing is as large as the window's shape lets it be.
 static QRectF Inquadratura(const Tela& t) {
   if (t.sx == t.dx || t.sy == t.dy) return QRectF(0, 0, t.larghezza, t.altezza);
-  return QRectF(QPointF(t.sx, t.sy), QPointF(t.dx, t.dy));
+  const QSizeF i = MARGINE * Ingombro(t);
+  const auto stretto = [](double estremo, double vicino) { return vicino > 0 ? std::copysign(std::min(std::fabs(estremo), vicino), estremo) : estremo; };
+  return QRectF(QPointF(stretto(t.sx, i.width()), stretto(t.sy, i.height())), QPointF(stretto(t.dx, i.width()), stretto(t.dy, i.height())));
 }
 
 static void DipingiTratto(QPainter& p, const QTransform& v, const Tratto& s, const QColor& nero) {
