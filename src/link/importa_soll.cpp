@@ -67,9 +67,9 @@ bool Apri(FileRisultati& f, const std::string& percorso) {
 // Byte at which a record begins; -1: it would lie outside the file.
 std::int64_t PostoRecord(const FileRisultati& f, std::int64_t p, std::int64_t q, std::int64_t t) {
   const std::int64_t record = f.lunghezza / RECORD;
-  if (f.NumSezioni <= 0 || f.NumSestettiFile <= 0 || f.NumSezioni > record || f.NumSestettiFile > record) return -1;
+  if (f.NumSezioni <= 0 || f.NumSestettiFile <= 0 || p < 0) return -1;
   const std::int64_t perAsta = static_cast<std::int64_t>(f.NumSezioni) * f.NumSestettiFile;
-  if (perAsta > record || p < 0 || p > record) return -1;
+  if (p > 0 && perAsta > record / p) return -1;             // the product below stays within 64 bits
   const std::int64_t n = p * perAsta + (q - 1) * f.NumSestettiFile + t;
   return n < record ? n * RECORD : -1;
 }

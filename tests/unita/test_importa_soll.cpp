@@ -279,6 +279,37 @@ TEST_F(Importa, ValoreCheNonSiArrotondaSiSaltaSenzaFault) {
   EXPECT_FALSE(FaultAritmetico());
 }
 
+// What counts is where a record lies, not what the header claims of the rest of the file.
+TEST_F(Importa, FileTroncatoDaIRecordCheHa) {
+  Scrivi("astec007.bin", FileRisultatiDi(2, 2, 3, OTTO).substr(0, 6 * 56));   // bar 5: records 1 to 5 of its six
+  ImportaSollecitazioni(false);
+  ASSERT_EQ(nodo.NumSoll, 3);                             // section 1 is whole
+  EXPECT_EQ(nodo.SollN[1], 511);
+  EXPECT_EQ(nodo.SollN[3], 521);
+  nodo.NumSoll = 0;
+  c.LatoAsta[1] = 2;
+  ImportaSollecitazioni(false);
+  ASSERT_EQ(nodo.NumSoll, 2);                             // of section 2 the first two sextets, records 4 and 5
+  EXPECT_EQ(nodo.SollN[1], 522);
+  EXPECT_EQ(nodo.SollN[2], 611);
+  nodo.NumSoll = 0;
+  c.AsteNodo[1] = 9;                                      // not in the file: its place 1 begins at record 7
+  c.AstaNodo[1] = 1;
+  ImportaSollecitazioni(false);
+  EXPECT_EQ(nodo.NumSoll, 0);
+}
+
+TEST_F(Importa, SezioniOltreIlFileLascianoLaPrima) {
+  Scrivi("astec007.bin", FileRisultatiDi(32767, std::numeric_limits<std::int32_t>::max(), 2, OTTO));
+  ImportaSollecitazioni(false);
+  ASSERT_EQ(nodo.NumSoll, 2);
+  EXPECT_EQ(nodo.SollN[1], 511);
+  nodo.NumSoll = 0;
+  c.LatoAsta[1] = 2;
+  ImportaSollecitazioni(false);
+  EXPECT_EQ(nodo.NumSoll, 0);
+}
+
 TEST_F(Importa, FileTroncatiEByteCambiatiNonFannoDanno) {
   const std::string intero = FileRisultatiDi(2, 2, 2, OTTO);
   for (std::size_t k = 0; k <= intero.size(); ++k) {
