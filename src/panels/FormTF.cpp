@@ -71,7 +71,8 @@ constexpr const char* CAMPI_TIPO2[] = {"120", "500", "70", "450"};
 constexpr const char* CAMPI_TIPO1[] = {"120", "500", "70", "450", "10"};
 constexpr const char* ETICHETTE_TIPO2[] = {"L fuori plinto", "L", "R", "L1"};
 constexpr const char* ETICHETTE_TIPO1[] = {"L fuori plinto", "L", "Lato piastra", "L1", "LF"};
-constexpr const char* LABEL6[] = {"L", "R", "L fuori plinto", "", "Dist. bordo plinto", "", "L", "L fuori plinto", ""};
+// Entry 5 follows field 13, also the text of its creation.
+constexpr const char* LABEL6[] = {"L", "R", "L fuori plinto", "", "Dist. bordo plinto", "x 70", "L", "L fuori plinto", ""};
 
 constexpr StatoFormTF& P = formTF;
 constexpr Genere CAMPO = Genere::Campo, ETICHETTA = Genere::Etichetta, LISTA = Genere::Lista;

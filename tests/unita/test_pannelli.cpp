@@ -49,7 +49,7 @@ TEST_F(Pannelli_, TestiDellaSceltaTirafondiAllaCreazione) {
       {"GeoTfTxt", 17, "50"}, {"GeoTfTxt", 19, "100"}, {"GeoTfTxt", 20, "200"},
       {"GeoTfTxt", 1, "120"}, {"GeoTfTxt", 2, "500"}, {"GeoTfTxt", 3, "70"}, {"GeoTfTxt", 4, "450"},
       {"GeoTfTxt", 7, "50"}, {"GeoTfTxt", 9, "100"}, {"GeoTfTxt", 10, "200"},
-      {"Label6", 0, "L"}, {"Label6", 1, "R"}, {"Label6", 2, "L fuori plinto"}, {"Label6", 4, "Dist. bordo plinto"}, {"Label6", 6, "L"},
+      {"Label6", 0, "L"}, {"Label6", 1, "R"}, {"Label6", 2, "L fuori plinto"}, {"Label6", 4, "Dist. bordo plinto"}, {"Label6", 5, "x 70"}, {"Label6", 6, "L"},
       {"Label6", 7, "L fuori plinto"}, {"Label2", 0, "dimensioni in mm"}, {"Label2", 1, "dimensioni in mm"}, {"MatBulOK", -1, "OK"},
       {"LGeo", 1, "L fuori plinto"}, {"LGeo", 2, "L"}, {"LGeo", 3, "R"}, {"LGeo", 4, "L1"}, {"LGeo", 7, "Altezza malta"},
       {"LGeo", 9, "Diametro fori"}, {"LGeo", 10, "Dist. bordo plinto"},
