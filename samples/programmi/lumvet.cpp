@@ -132,6 +132,7 @@ struct Visualizzatore : QWidget {
     QPainter p(this);
     p.fillRect(rect(), Qt::white);
     if (disegno.punti.empty()) {
+      p.setPen(Qt::black);                // the sheet is white in any theme
       p.drawText(rect(), Qt::AlignCenter, "Nessun disegno");
       return;
     }

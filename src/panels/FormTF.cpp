@@ -69,8 +69,7 @@ constexpr const char* SCHEDE[] = {" Tipo 1", " Tipo 2"};
 // Texts of creation: those of a new node.
 constexpr const char* CAMPI_TIPO2[] = {"120", "500", "70", "450"};
 constexpr const char* CAMPI_TIPO1[] = {"120", "500", "70", "450", "10"};
-constexpr const char* ETICHETTE_TIPO2[] = {"L fuori plinto", "L", "R", "L1"};
-constexpr const char* ETICHETTE_TIPO1[] = {"L fuori plinto", "L", "Lato piastra", "L1", "LF"};
+constexpr const char* ETICHETTE_TIPO1[] = {"Lato piastra", "L1", "LF"};
 // Entry 5 follows field 13, also the text of its creation.
 constexpr const char* LABEL6[] = {"L", "R", "L fuori plinto", "", "Dist. bordo plinto", "x 70", "L", "L fuori plinto", ""};
 
@@ -95,11 +94,10 @@ constexpr RigaPannello RIGHE[] = {
   Serie("GeoTfTxt", CAMPO, &P.GeoTfTxt[19], 19, 19, "SSTab1/0", "100", {}, FormTF_GeoTfTxt),
   Serie("GeoTfTxt", CAMPO, &P.GeoTfTxt[20], 20, 20, "SSTab1/0", "200", {}, FormTF_GeoTfTxt),
 
-  Serie("LGeo", ETICHETTA, &P.LGeo[1],   1,  4, "SSTab1/1", ETICHETTE_TIPO2),
+  Serie("LGeo", ETICHETTA, &P.LGeo[4],   4,  4, "SSTab1/1", "L1"),
   Serie("LGeo", ETICHETTA, &P.LGeo[7],   7,  7, "SSTab1/1", "Altezza malta"),
   Serie("LGeo", ETICHETTA, &P.LGeo[9],   9,  9, "SSTab1/1", "Diametro fori"),
-  Serie("LGeo", ETICHETTA, &P.LGeo[10], 10, 10, "SSTab1/1", "Dist. bordo plinto"),
-  Serie("LGeo", ETICHETTA, &P.LGeo[11], 11, 15, "SSTab1/0", ETICHETTE_TIPO1),
+  Serie("LGeo", ETICHETTA, &P.LGeo[13], 13, 15, "SSTab1/0", ETICHETTE_TIPO1),
   Serie("LGeo", ETICHETTA, &P.LGeo[17], 17, 17, "SSTab1/0", "Altezza malta"),
   Serie("LGeo", ETICHETTA, &P.LGeo[19], 19, 19, "SSTab1/0", "Diametro fori"),
   Serie("LGeo", ETICHETTA, &P.LGeo[20], 20, 20, "SSTab1/0", "Dist. bordo plinto"),

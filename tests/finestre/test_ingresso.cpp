@@ -5,6 +5,7 @@
 #include "panels/FormTF.h"
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"
+#include "panels/Op_Nodo.h"
 #include "panels/pannelli.h"
 #include "scena.h"
 
@@ -230,6 +231,53 @@ TEST(Ingresso, IlFuocoDiRitornoNonSeleziona) {
   QApplication::sendEvent(&altrui, &preso);
   QCoreApplication::processEvents();
   EXPECT_EQ(altrui.selectedText(), "");
+}
+
+// However a panel was left, it comes up with the keyboard on its first control, all of its text selected.
+TEST(Ingresso, IlPannelloSiApreSulPrimoCampo) {
+  const Scena s("primo");
+  QLineEdit* primo = CampoDi(opNodo.Par_Nodo[0]);
+  for (int k = 0; k < 2; ++k) {
+    QTest::mouseClick(OggettoDi(insDati.Opz), Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(primo->window()));
+    EXPECT_EQ(primo->window()->focusWidget(), primo);
+    EXPECT_EQ(primo->selectedText(), primo->text());
+    CampoDi(opNodo.Par_Nodo[3])->setFocus();
+    QTest::keyClick(primo->window(), Qt::Key_Escape);
+    EXPECT_FALSE(opNodo.aperto);
+  }
+}
+
+TEST(Ingresso, LUnitaSiSpegneColCampo) {
+  const Scena s("unita");
+  const auto* lato = s.principale->findChild<QWidget*>("_di_LatoTxt_0");
+  const auto* margine = s.principale->findChild<QWidget*>("_di_LatoTxt_2");
+  ASSERT_NE(lato, nullptr);
+  ASSERT_NE(margine, nullptr);
+  for (const int margini : {0, 1}) {
+    MostraPagina(OggettoDi(insDati.GeoP[margini]));
+    OggettoDi(insDati.GeoP[margini])->setFocus();
+    QTest::keyClick(OggettoDi(insDati.GeoP[margini]), Qt::Key_Space);
+    EXPECT_EQ(lato->isEnabled(), margini == 0);
+    EXPECT_EQ(margine->isEnabled(), margini == 1);
+  }
+}
+
+// What a field cuts shows whole under the pointer.
+TEST(Ingresso, IlTestoTagliatoSiLeggeIntero) {
+  const Scena s("tagliato");
+  InsDati_Singolo(0);
+  MostraPagina(CampoDi(insDati.Lsa[0]));
+  const auto suggerimento = [](const char* testo) {
+    QLineEdit* campo = CampoDi(insDati.Lsa[0]);
+    Scrivi(insDati.Lsa[0], testo);
+    QToolTip::hideText();
+    QHelpEvent e(QEvent::ToolTip, campo->rect().center(), campo->mapToGlobal(campo->rect().center()));
+    QApplication::sendEvent(campo, &e);
+    return QToolTip::text();
+  };
+  EXPECT_EQ(suggerimento("Vento"), "");
+  EXPECT_EQ(suggerimento("Vento X+ con carico minimo e neve in falda"), "Vento X+ con carico minimo e neve in falda");
 }
 
 TEST(Ingresso, LaLetteraDellaDidascaliaPremeSubito) {

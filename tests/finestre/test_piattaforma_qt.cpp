@@ -13,9 +13,11 @@
 #include <QFileDialog>
 #include <QImage>
 #include <QLineEdit>
+#include <QPdfWriter>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBlock>
 #include <QTimer>
 
 #include <cfenv>
@@ -126,6 +128,48 @@ TEST(PiattaformaQt, LaFinestraDelTestoCerca) {
   EXPECT_EQ(FinestraTesto(f.fileName()), w);                             // one window a file, read again
   EXPECT_EQ(testo->toPlainText(), "altra\n");
   w->close();
+}
+
+// Tab stops of eight letters, as every text program has: the headings of the reports stand over their columns.
+TEST(PiattaformaQt, LaFinestraDelTestoIncolonnaOgniOttoLettere) {
+  const QTemporaryDir cartella;
+  QFile f(cartella.filePath("colonne.txt"));
+  ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+  f.write("\tTipo prof.\th\r\n\tHEB300\t\t300\r\n");
+  f.close();
+  QWidget* w = FinestraTesto(f.fileName());
+  w->show();
+  auto* testo = w->findChild<QPlainTextEdit*>();
+  const auto x = [testo](int posizione) {
+    QTextCursor c(testo->document());
+    c.setPosition(posizione);
+    return testo->cursorRect(c).x();
+  };
+  EXPECT_EQ(x(1) - x(0), qRound(8 * QFontMetricsF(testo->font()).horizontalAdvance(' ')));
+  EXPECT_EQ(x(23), x(12));                                               // "300" under "h": 1 + 10 + 1, and 14 + 1 + 6 + 2
+  w->close();
+}
+
+static int PagineStampate(int colonne, int righe, const QString& file) {
+  const QString riga = QString(colonne, 'x') + '\n';
+  QFont carattere("monospace", 10);
+  carattere.setStyleHint(QFont::Monospace);
+  {
+    QPdfWriter carta(file);
+    carta.setPageSize(QPageSize(QPageSize::A4));
+    StampaTesto(riga.repeated(righe), carattere, carta);
+  }
+  QFile f(file);
+  if (!f.open(QIODevice::ReadOnly)) return 0;
+  return static_cast<int>(f.readAll().replace("/Type /Pages", "").count("/Type /Page"));
+}
+
+// 40 lines stand on an A4 page at ten points, of which about 80 letters are as wide as the page: wrapped, 110 would take two pages.
+TEST(PiattaformaQt, LaStampaNonSpezzaLeRighe) {
+  const QTemporaryDir cartella;
+  EXPECT_EQ(PagineStampate(60, 40, cartella.filePath("strette.pdf")), 1);
+  EXPECT_EQ(PagineStampate(60, 80, cartella.filePath("lunghe.pdf")), 2);
+  EXPECT_EQ(PagineStampate(110, 40, cartella.filePath("larghe.pdf")), 1);
 }
 
 TEST(PiattaformaQt, LAnteprimaHaTuttoIlDisegno) {

@@ -51,9 +51,8 @@ TEST_F(Pannelli_, TestiDellaSceltaTirafondiAllaCreazione) {
       {"GeoTfTxt", 7, "50"}, {"GeoTfTxt", 9, "100"}, {"GeoTfTxt", 10, "200"},
       {"Label6", 0, "L"}, {"Label6", 1, "R"}, {"Label6", 2, "L fuori plinto"}, {"Label6", 4, "Dist. bordo plinto"}, {"Label6", 5, "x 70"}, {"Label6", 6, "L"},
       {"Label6", 7, "L fuori plinto"}, {"Label2", 0, "dimensioni in mm"}, {"Label2", 1, "dimensioni in mm"}, {"MatBulOK", -1, "OK"},
-      {"LGeo", 1, "L fuori plinto"}, {"LGeo", 2, "L"}, {"LGeo", 3, "R"}, {"LGeo", 4, "L1"}, {"LGeo", 7, "Altezza malta"},
-      {"LGeo", 9, "Diametro fori"}, {"LGeo", 10, "Dist. bordo plinto"},
-      {"LGeo", 11, "L fuori plinto"}, {"LGeo", 12, "L"}, {"LGeo", 13, "Lato piastra"}, {"LGeo", 14, "L1"}, {"LGeo", 15, "LF"},
+      {"LGeo", 4, "L1"}, {"LGeo", 7, "Altezza malta"}, {"LGeo", 9, "Diametro fori"},
+      {"LGeo", 13, "Lato piastra"}, {"LGeo", 14, "L1"}, {"LGeo", 15, "LF"},
       {"LGeo", 17, "Altezza malta"}, {"LGeo", 19, "Diametro fori"}, {"LGeo", 20, "Dist. bordo plinto"}};
   for (const auto& a : attesi) EXPECT_EQ(C(FormTF, a.nome, a.i).testo, a.testo) << a.nome << " " << a.i;
   EXPECT_EQ(C(FormTF, "SSTab1").voci, (std::vector<std::string>{" Tipo 1", " Tipo 2"}));

@@ -167,6 +167,15 @@ static void Contieni(QWidget& finestra) {
   finestra.resize(finestra.size().boundedTo(finestra.screen()->availableSize() - QSize(CORNICE_L, CORNICE_A)));
 }
 
+// A panel comes up with the keyboard on its first control, however it was left.
+static void FuocoIniziale(QWidget& finestra) {
+  for (QWidget* w = finestra.nextInFocusChain(); w != nullptr && w != &finestra; w = w->nextInFocusChain())
+    if ((w->focusPolicy() & Qt::TabFocus) != 0 && w->isEnabledTo(&finestra) && w->isVisibleTo(&finestra)) {
+      w->setFocus(Qt::TabFocusReason);
+      return;
+    }
+}
+
 void ApriPannello(const Pannello& p, bool modale) {
   FinestraPannello* f = FinestraDi(p);
   if (f == nullptr || finestre.finita) return;
@@ -176,7 +185,10 @@ void ApriPannello(const Pannello& p, bool modale) {
   for (const FinestraPannello& altra : finestre.elenco)
     if (altra.pannello == &p || &p == &InsDati) DipingiPannello(*altra.pannello);
   Impagina(w);
-  if (!w.isVisible()) Contieni(w);
+  if (!w.isVisible()) {
+    Contieni(w);
+    FuocoIniziale(w);
+  }
   AggiornaTitoli();
   w.setWindowModality(modale ? Qt::ApplicationModal : Qt::NonModal);
   w.show();

@@ -168,6 +168,14 @@ static void Puntatore(const QWidget& w, const QMouseEvent& e) {
 
 // ---- tips of the panels without a status line ----
 
+// What a field is too narrow for; empty: all of it shows.
+static QString TestoTagliato(const QWidget& w) {
+  const auto* campo = dynamic_cast<const QLineEdit*>(&w);
+  if (campo == nullptr) return {};
+  const int visibile = campo->width() - 2 * campo->fontMetrics().averageCharWidth();
+  return campo->fontMetrics().horizontalAdvance(campo->text()) > visibile ? campo->text() : QString();
+}
+
 static bool Suggerimento(QWidget& w, const QHelpEvent& e) {
   const Legame* l = LegameDi(&w);
   if (l == nullptr || !w.toolTip().isEmpty()) return false;
@@ -179,6 +187,7 @@ static bool Suggerimento(QWidget& w, const QHelpEvent& e) {
     else if (r.stato.uno != nullptr) testo = Testo(r.stato.uno);
     else if (k < r.stato.voci.size()) testo = Testo(r.stato.voci[k]);
   }
+  if (testo.isEmpty()) testo = TestoTagliato(w);
   if (testo.isEmpty() && Numerico(w)) testo = "Il separatore decimale è il punto";
   if (testo.isEmpty()) return false;
   QToolTip::showText(e.globalPos(), testo, &w);

@@ -202,7 +202,7 @@ void LegaPannello(const Pannello& p, QWidget& forma) {
     for (int i = r.primo; i <= r.ultimo; ++i) {
       Controllo& c = r.controllo[i - r.primo];
       Legame& l = legami.perControllo[&c];
-      l = {&p, &r, &c, forma.findChild<QWidget*>(NomeOggetto(r, i)), gruppo, {}};
+      l = {&p, &r, &c, forma.findChild<QWidget*>(NomeOggetto(r, i)), forma.findChild<QWidget*>("_di_" + NomeOggetto(r, i)), gruppo, {}};
       legami.perOggetto[l.oggetto] = &l;
       if (gruppo != nullptr) gruppo->addButton(static_cast<QAbstractButton*>(l.oggetto));
       PreparaOggetto(l);
@@ -235,6 +235,7 @@ void Dipingi(const Controllo& c) {
   DipingiColori(w, c);
   ClasseDi(l->riga->genere).dipingi(*l);
   if (w.isEnabledTo(w.parentWidget()) != c.abilitato) w.setEnabled(c.abilitato);
+  if (l->unita != nullptr) l->unita->setEnabled(c.abilitato);
   if (w.isHidden() == c.visibile) w.setVisible(c.visibile);
 }
 

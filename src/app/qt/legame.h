@@ -25,6 +25,7 @@ struct Legame {
   const RigaPannello* riga = nullptr;
   Controllo* controllo = nullptr;
   QWidget* oggetto = nullptr;
+  QWidget* unita = nullptr;               // the unit beside a field, which is enabled with it; nullptr: none
   QButtonGroup* gruppo = nullptr;         // of an exclusive choice
   std::vector<std::string> voci;          // entries that the widget shows now
 };

@@ -6,20 +6,25 @@
 #include "core/file.h"
 #include "core/piattaforma.h"
 #include "core/testo.h"
+#include "model/suite.h"
 
 #include <QAction>
+#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QPagedPaintDevice>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QScreen>
 #include <QShortcut>
 #include <QStandardPaths>
+#include <QTextDocument>
 #include <QToolBar>
 #include <QUrl>
 
@@ -48,6 +53,10 @@ static bool ApriConIlDesktop(const QString& file, const char* genere) {
 
 // ---- the window of our own ----
 
+constexpr int TABULAZIONE = 8;                            // the columns of the reports count on it
+constexpr double BORDO_STAMPA = 20;                       // mm on each side: those that the toolkit leaves
+constexpr double ARROTONDAMENTO = 0.97;                   // letters are whole dots wide
+
 static QString TestoDelFile(const QString& file) {
   FileLettura f;
   QString testo;
@@ -72,13 +81,38 @@ static void Cerca(QPlainTextEdit& testo, QLineEdit& che, bool indietro) {
   che.setPalette(colori);
 }
 
+static qreal Tabulazione(const QFont& carattere) { return TABULAZIONE * QFontMetricsF(carattere).horizontalAdvance(' '); }
+
+// ---- on paper ----
+
+static void Componi(QTextDocument& d, const QString& testo, const QFont& carattere) {
+  QTextOption righe;
+  righe.setTabStopDistance(Tabulazione(carattere));
+  d.setDefaultTextOption(righe);
+  d.setDefaultFont(carattere);
+  d.setPlainText(testo);
+}
+
+void StampaTesto(const QString& testo, const QFont& carattere, QPagedPaintDevice& carta) {
+  const double puntiMm = carta.logicalDpiX() / 25.4;
+  const double larga = carta.pageLayout().paintRect(QPageLayout::Millimeter).width() - 2 * BORDO_STAMPA;
+  QTextDocument d;
+  d.documentLayout()->setPaintDevice(&carta);
+  Componi(d, testo, carattere);
+  QFont adatto = carattere;
+  const double riduzione = larga * puntiMm / d.idealWidth();
+  if (riduzione < 1) adatto.setPointSizeF(QFontInfo(carattere).pointSizeF() * riduzione * ARROTONDAMENTO);
+  Componi(d, testo, adatto);
+  d.print(&carta);
+}
+
 static void Stampa(QPlainTextEdit& testo) {
 #ifdef QB07_STAMPA
   QPrinter stampante(QPrinter::HighResolution);
   stampante.setDocName(testo.window()->windowTitle());
   QPrintDialog dialogo(&stampante, &testo);
   dialogo.setWindowTitle("Stampa");
-  if (dialogo.exec() == QDialog::Accepted) testo.print(&stampante);
+  if (dialogo.exec() == QDialog::Accepted) StampaTesto(testo.toPlainText(), testo.font(), stampante);
 #else
   static_cast<void>(testo);
 #endif
@@ -107,6 +141,7 @@ QWidget* FinestraTesto(const QString& file) {
   QFont carattere = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   carattere.setStyleHint(QFont::Monospace);
   testo->setFont(carattere);
+  testo->setTabStopDistance(Tabulazione(carattere));
   testo->setPlainText(TestoDelFile(file));
   f->setCentralWidget(testo);
 
@@ -156,5 +191,5 @@ void MostraFileTesto(const std::string& percorso) {
 void MostraFileAiuto(const std::string& percorso) {
   const QString file = Testo(RisolviPercorso(percorso));
   if (QFileInfo::exists(file) && ApriConIlDesktop(file, "application/pdf")) return;
-  Messaggio(QFileInfo::exists(file) ? "La guida è nel file " + Utf8(file) : "Manca il file della guida: " + Utf8(file), "", Icona::Informazione);
+  Messaggio(QFileInfo::exists(file) ? "La guida è nel file " + Utf8(file) : "Manca il file della guida: " + Utf8(file), TitoloProg, Icona::Informazione);
 }

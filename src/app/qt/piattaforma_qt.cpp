@@ -104,9 +104,9 @@ void PreparaNome(QFileDialog& d, const RichiestaFile& r) {
 void Allarga(QFileDialog& d) {
   auto* elenco = d.findChild<QTreeView*>("treeView");
   if (elenco == nullptr) return;
-  d.resize(QSize(820, 480).boundedTo(d.screen()->availableSize() - QSize(40, 60)));
+  d.resize(QSize(900, 480).boundedTo(d.screen()->availableSize() - QSize(40, 60)));
   const int lettera = d.fontMetrics().horizontalAdvance('0');
-  const int colonne[] = {34 * lettera, 11 * lettera, 18 * lettera, 21 * lettera};
+  const int colonne[] = {34 * lettera, 11 * lettera, 26 * lettera, 21 * lettera};
   for (int k = 0; k < 4; ++k) elenco->header()->resizeSection(k, colonne[k]);
 }
 
