@@ -190,6 +190,15 @@ TEST(Ingresso, DiUnTestoLungoSiVedeLInizio) {
 }
 
 // The size of the form's own, cut to the screen; never below what its pages need.
+TEST(Ingresso, DiUnTestoLungoLasciatoSiVedeLInizio) {
+  const Scena s("lasciato");
+  InsDati_Singolo(0);
+  Scrivi(insDati.Lsa[0], "Vento X+ con carico minimo e neve in falda");
+  EXPECT_GT(CampoDi(insDati.Lsa[0])->cursorPosition(), 0);
+  QTest::keyClick(CampoDi(insDati.Lsa[0]), Qt::Key_Tab);
+  EXPECT_EQ(CampoDi(insDati.Lsa[0])->cursorPosition(), 0);
+}
+
 TEST(Ingresso, LaFinestraStaNelloSchermo) {
   const Scena s("schermo");
   const QSize minima = s.principale->minimumSizeHint(), schermo = s.principale->screen()->availableSize();

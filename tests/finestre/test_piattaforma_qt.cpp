@@ -135,7 +135,7 @@ TEST(PiattaformaQt, LaFinestraDelTestoIncolonnaOgniOttoLettere) {
   const QTemporaryDir cartella;
   QFile f(cartella.filePath("colonne.txt"));
   ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-  f.write("\tTipo prof.\th\r\n\tHEB300\t\t300\r\n");
+  f.write("\tTipo prof.\th\r\n\tHEB300\t\t300\r\nMOMENTI:\tdaNcm\r\nFORZE:\t\tdaN\r\n");
   f.close();
   QWidget* w = FinestraTesto(f.fileName());
   w->show();
@@ -145,8 +145,9 @@ TEST(PiattaformaQt, LaFinestraDelTestoIncolonnaOgniOttoLettere) {
     c.setPosition(posizione);
     return testo->cursorRect(c).x();
   };
-  EXPECT_EQ(x(1) - x(0), qRound(8 * QFontMetricsF(testo->font()).horizontalAdvance(' ')));
+  EXPECT_NEAR(x(1) - x(0), 8 * QFontMetricsF(testo->font()).horizontalAdvance(' '), 1.5);
   EXPECT_EQ(x(23), x(12));                                               // "300" under "h": 1 + 10 + 1, and 14 + 1 + 6 + 2
+  EXPECT_EQ(x(36), x(50));                                               // eight letters fill their column: "daNcm" and "daN" begin at the next
   w->close();
 }
 

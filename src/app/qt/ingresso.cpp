@@ -279,7 +279,9 @@ static void FuocoPreso(QWidget& w, Qt::FocusReason causa) {
 
 static void FuocoPerso(QWidget& w, Qt::FocusReason causa) {
   const Legame* l = CampoDelPannello(w);
-  if (l != nullptr && !FuocoDiPassaggio(causa) && finestre.comandi == 0) Accade(*l, Evento::Invio);
+  if (l == nullptr || FuocoDiPassaggio(causa)) return;
+  static_cast<QLineEdit&>(w).setCursorPosition(0);         // of a long text the head shows
+  if (finestre.comandi == 0) Accade(*l, Evento::Invio);
 }
 
 // ---- the filter ----

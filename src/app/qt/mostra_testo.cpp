@@ -81,16 +81,21 @@ static void Cerca(QPlainTextEdit& testo, QLineEdit& che, bool indietro) {
   che.setPalette(colori);
 }
 
-static qreal Tabulazione(const QFont& carattere) { return TABULAZIONE * QFontMetricsF(carattere).horizontalAdvance(' '); }
+// A stop that rounding brings beyond a text as wide as the column would take the next one's place: it stands a hair before.
+static qreal Tabulazione(const QFont& carattere) { return QFontMetricsF(carattere).horizontalAdvance(QString(TABULAZIONE, ' ')) - 0.2; }
 
 // ---- on paper ----
 
-static void Componi(QTextDocument& d, const QString& testo, const QFont& carattere) {
-  QTextOption righe;
-  righe.setTabStopDistance(Tabulazione(carattere));
-  d.setDefaultTextOption(righe);
-  d.setDefaultFont(carattere);
-  d.setPlainText(testo);
+// On paper letters are of broken widths, on which no tab stop can be told.
+static QString SenzaTabulazioni(const QString& testo) {
+  QString t;
+  qsizetype inizio = 0;                                   // of the line
+  for (const QChar c : testo) {
+    if (c != '\t') t += c;
+    else t += QString(TABULAZIONE - (t.size() - inizio) % TABULAZIONE, ' ');
+    if (c == '\n') inizio = t.size();
+  }
+  return t;
 }
 
 void StampaTesto(const QString& testo, const QFont& carattere, QPagedPaintDevice& carta) {
@@ -98,11 +103,12 @@ void StampaTesto(const QString& testo, const QFont& carattere, QPagedPaintDevice
   const double larga = carta.pageLayout().paintRect(QPageLayout::Millimeter).width() - 2 * BORDO_STAMPA;
   QTextDocument d;
   d.documentLayout()->setPaintDevice(&carta);
-  Componi(d, testo, carattere);
+  d.setDefaultFont(carattere);
+  d.setPlainText(SenzaTabulazioni(testo));
   QFont adatto = carattere;
   const double riduzione = larga * puntiMm / d.idealWidth();
   if (riduzione < 1) adatto.setPointSizeF(QFontInfo(carattere).pointSizeF() * riduzione * ARROTONDAMENTO);
-  Componi(d, testo, adatto);
+  d.setDefaultFont(adatto);
   d.print(&carta);
 }
 
