@@ -172,6 +172,9 @@ TEST_F(Struttura, IlNodoDellaStessaPosizionePrimaDegliAltri) {
   Nodi({30, 20});
   ASSERT_TRUE(NodiAste());
   EXPECT_EQ(collegamento.LatoAsta[1], 2);                 // 30 is on neither end: any listed node, here 20
+  Nodi({30, 20, 10});
+  ASSERT_TRUE(NodiAste());
+  EXPECT_EQ(collegamento.LatoAsta[1], 1);                 // both ends are listed: the first end before the second
 }
 
 TEST_F(Struttura, AstaAssenteSiNegaENodoAssenteFerma) {
