@@ -397,6 +397,15 @@ TEST_F(Pannelli_, PrimoClicAvviaIlVisualizzatoreEScriveIlDisegno) {
   EXPECT_FALSE(registratore.attesa);
 }
 
+// The viewer's input cannot be written, here because a folder has its name: not told, and the viewer starts all the same.
+TEST_F(Pannelli_, IngressoDelVisualizzatoreNonScritto) {
+  registratore.programmi = true;
+  std::filesystem::create_directory(RisolviPercorso(suite.DirProgra + "\\lumvet.inp"));
+  Premi(InsDati, "ApriVis");
+  EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[avvia] " + suite.DirProgra + "\\lumvet.exe"});
+  EXPECT_TRUE(EsisteFile(suite.DirLavoro + "\\qb7tmp.grb"));
+}
+
 TEST_F(Pannelli_, VisualizzatoreColPuntatoreDiAttesa) {
   static bool attesa;
   attesa = false;
