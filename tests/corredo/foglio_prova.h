@@ -14,7 +14,7 @@
 #include "drawing/pianta.h"
 #include "model/suite.h"
 
-class Foglio : public ::testing::Test {
+class FoglioDisegno : public ::testing::Test {
  protected:
   void SetUp() override {
     MontaRegistratore();

@@ -8,7 +8,7 @@
 namespace {
 
 // B-B ends at x 588 (chains at 450 + 18 + 45 = 513 and 588) and y -872 (-627 - 50 - 45 = -722, -797, -872).
-TEST_F(Foglio, PostoDelleViste) {
+TEST_F(FoglioDisegno, PostoDelleViste) {
   Disegna();
   EXPECT_GE(TrovaTesto("280"), 0);
   const Esecutivo& e = esecutivo;
@@ -32,7 +32,7 @@ TEST_F(Foglio, PostoDelleViste) {
   EXPECT_EQ(disegno.ColCorr, 2);
 }
 
-TEST_F(Foglio, TitoloConINodi) {
+TEST_F(FoglioDisegno, TitoloConINodi) {
   nodo.NumNodiStr = 2;
   nodo.NodiStr[1] = 12;
   nodo.NodiStr[2] = 15;
@@ -40,7 +40,7 @@ TEST_F(Foglio, TitoloConINodi) {
   EXPECT_GE(TrovaTesto("ESECUTIVO NODI: 12,15"), 0);
 }
 
-TEST_F(Foglio, SenzaQuoteLeVisteSiAvvicinano) {
+TEST_F(FoglioDisegno, SenzaQuoteLeVisteSiAvvicinano) {
   suite.ParNodo[15] = 0;
   Disegna();
   EXPECT_DOUBLE_EQ(esecutivo.BoxBXMax, 450);
@@ -56,7 +56,7 @@ TEST_F(Foglio, SenzaQuoteLeVisteSiAvvicinano) {
   }
 }
 
-TEST_F(Foglio, SenzaDistinta) {
+TEST_F(FoglioDisegno, SenzaDistinta) {
   Disegna();
   const auto con = std::make_unique<Disegno>(disegno);
   suite.ParNodo[18] = 0;
@@ -68,7 +68,7 @@ TEST_F(Foglio, SenzaDistinta) {
   EXPECT_EQ(con->TesStr[static_cast<std::size_t>(disegno.NumTesti)], "Prof.");
 }
 
-TEST_F(Foglio, NomiDelleSaldature) {
+TEST_F(FoglioDisegno, NomiDelleSaldature) {
   Disegna();
   for (int w = 1; w <= 8; ++w) EXPECT_EQ(ContaTesti("S" + std::to_string(w)), 2) << w;       // plan and schedule
   EXPECT_EQ(ContaTesti("S19"), 0);
@@ -79,7 +79,7 @@ TEST_F(Foglio, NomiDelleSaldature) {
   EXPECT_EQ(ContaTesti("S9"), 1);
 }
 
-TEST_F(Foglio, FaultDaScalaNulla) {
+TEST_F(FoglioDisegno, FaultDaScalaNulla) {
   suite.ParNodo[19] = 0;
   nodo.TipoTirafondo = 1;
   EXPECT_FALSE(DisegnaFoglio());
@@ -88,7 +88,7 @@ TEST_F(Foglio, FaultDaScalaNulla) {
   EXPECT_FALSE(FaultAritmetico());
 }
 
-TEST_F(Foglio, FaultDaGolaMinuscola) {
+TEST_F(FoglioDisegno, FaultDaGolaMinuscola) {
   nodo.Gola = 0.001;
   EXPECT_FALSE(DisegnaFoglio());
   EXPECT_EQ(disegno.NumCoord, 32767);
@@ -96,7 +96,7 @@ TEST_F(Foglio, FaultDaGolaMinuscola) {
 }
 
 // What an earlier sheet or panel left behind counts for nothing.
-TEST_F(Foglio, PartePulito) {
+TEST_F(FoglioDisegno, PartePulito) {
   nodo.NervTaglio = nodo.NervZ = nodo.NervY = 1;
   nodo.NumSaldature = 3;
   quote.EtichetteSald = true;
@@ -110,7 +110,7 @@ TEST_F(Foglio, PartePulito) {
 
 // Ribs of 300 show 450 of the column; a column of 900 is larger than the plan: A-A at -450 - 0.8 x 900, C-C at -872 - 450 - 187.5, where
 // the weld on the upper flange reaches 450 + 7 and the title stands 75 above it.
-TEST_F(Foglio, MisureGrandi) {
+TEST_F(FoglioDisegno, MisureGrandi) {
   nodo.HNerv = 300;
   Disegna();
   EXPECT_DOUBLE_EQ(esecutivo.HColDis, 450);
@@ -122,7 +122,7 @@ TEST_F(Foglio, MisureGrandi) {
 }
 
 // Welded inside means 1; with another value the weld table holds 44 rows, the sheet leaves out 9 and 19, also those of an earlier sheet.
-TEST_F(Foglio, SaldaturaInternaSoloUno) {
+TEST_F(FoglioDisegno, SaldaturaInternaSoloUno) {
   ris.Saldature[9].Nome = "S9";
   ris.Saldature[19].Nome = "S19";
   nodo.SaldInt = 2;
@@ -133,7 +133,7 @@ TEST_F(Foglio, SaldaturaInternaSoloUno) {
   EXPECT_EQ(ContaTesti("S20"), 1);
 }
 
-TEST_F(Foglio, GolaNullaSenzaMarchi) {
+TEST_F(FoglioDisegno, GolaNullaSenzaMarchi) {
   nodo.Gola = 0;
   nodo.TipoTirafondo = 2;                      // no weld of the anchor plate
   suite.ParNodo[18] = 0;
@@ -149,7 +149,7 @@ TEST_F(Foglio, GolaNullaSenzaMarchi) {
 
 // Every item of the sheet without chains, counted by hand. A mark of length L has Int(L / 7 + 0.5) - 1 strokes, one parallel line, and two
 // strokes more when of kind 1.
-TEST_F(Foglio, OgniElementoContato) {
+TEST_F(FoglioDisegno, OgniElementoContato) {
   suite.ParNodo[15] = 0;
   const auto conta = [&](void (*parte)(), int linee, int archi, int testi) {
     const int l = disegno.NumLinee, a = disegno.NumArchi, t = disegno.NumTesti;

@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST_F(Foglio, TirafondiPerVista) {
+TEST_F(FoglioDisegno, TirafondiPerVista) {
   const int attesiB[] = {2, 3, 2, 3}, attesiA[] = {2, 3, 3, 2};
   for (int i = 0; i < 4; ++i) {
     nodo.OptionNTir = i;
@@ -18,7 +18,7 @@ TEST_F(Foglio, TirafondiPerVista) {
   }
 }
 
-TEST_F(Foglio, TerziTirafondiDalloSchema) {
+TEST_F(FoglioDisegno, TerziTirafondiDalloSchema) {
   nodo.TfZ[8] = 210;
   nodo.TfZ[6] = 190;
   for (const auto& [schema, x] : {std::pair{1, 10.0}, std::pair{3, -10.0}}) {
@@ -32,7 +32,7 @@ TEST_F(Foglio, TerziTirafondiDalloSchema) {
 }
 
 // View A-A takes the sixth in both patterns, and draws it last.
-TEST_F(Foglio, TerzoTirafondoDiAA) {
+TEST_F(FoglioDisegno, TerzoTirafondoDiAA) {
   nodo.TfY[5] = 240, nodo.TfY[6] = 262, nodo.TfY[8] = 75;
   for (const int schema : {1, 2}) {
     nodo.OptionNTir = schema;
@@ -48,7 +48,7 @@ TEST_F(Foglio, TerzoTirafondoDiAA) {
 
 // The horizontal chains keep clear of the vertical ones: 700 take the first of these to -20 - 50 - 700, under the section line; then
 // 50 + 45 down, and 75 from chain to chain.
-TEST_F(Foglio, QuoteOrizzontaliSottoLeVerticali) {
+TEST_F(FoglioDisegno, QuoteOrizzontaliSottoLeVerticali) {
   nodo.TipoTirafondo = 2;                      // no anchor plate, whose thickness is measured all the same
   nodo.TfLF = 700;
   Prepara();
@@ -59,7 +59,7 @@ TEST_F(Foglio, QuoteOrizzontaliSottoLeVerticali) {
   EXPECT_DOUBLE_EQ(esecutivo.BoxBYMin, -1015);
 }
 
-TEST_F(Foglio, VistaBBPiastraEPlinto) {
+TEST_F(FoglioDisegno, VistaBBPiastraEPlinto) {
   Prepara();
   VistaBB();
   Linea(-200, 0, -200, -20, 3);                // plate's ends
@@ -83,7 +83,7 @@ TEST_F(Foglio, VistaBBPiastraEPlinto) {
   Linea(450, -70, 190, -70, 3);
 }
 
-TEST_F(Foglio, VistaBBColonna) {
+TEST_F(FoglioDisegno, VistaBBColonna) {
   Prepara();
   VistaBB();
   Linea(-90, 150, -90, 400, 2);                // above the ribs
@@ -103,7 +103,7 @@ TEST_F(Foglio, VistaBBColonna) {
   Linea(-99, 400, 99, 400, 2, 1);
 }
 
-TEST_F(Foglio, VistaBBSezioniENome) {
+TEST_F(FoglioDisegno, VistaBBSezioniENome) {
   Prepara();
   VistaBB();
   Linea(-200, 320, 200, 320, 4, 1);            // C at 0.8 x 400
@@ -122,7 +122,7 @@ TEST_F(Foglio, VistaBBSezioniENome) {
   EXPECT_EQ(disegno.TipoLinCorr, 0);
 }
 
-TEST_F(Foglio, VistaBBNervature) {
+TEST_F(FoglioDisegno, VistaBBNervature) {
   Prepara();
   VistaBB();
   for (const int s : {-1, 1}) {
@@ -145,7 +145,7 @@ TEST_F(Foglio, VistaBBNervature) {
 
 // Rods of 190 mm: top at 120. Slope from (200, 50) to (128, 150): y = 50 + (200 - x) 100 / 72. Rod 130 to 150: the slope is at 119.44
 // on its outer side and passes the top at x = 149.6.
-TEST_F(Foglio, TirafondoDavantiAllaNervatura) {
+TEST_F(FoglioDisegno, TirafondoDavantiAllaNervatura) {
   nodo.TfLFt = 190;
   Prepara();
   NervatureBB();
@@ -171,7 +171,7 @@ TEST_F(Foglio, TirafondoDavantiAllaNervatura) {
 }
 
 // Across the column the flat rib's edge at 150 passes behind the rods of view A-A, where there is one: top at 230 - 70 = 160.
-TEST_F(Foglio, NervaturaDietroITirafondiAttraversoLaColonna) {
+TEST_F(FoglioDisegno, NervaturaDietroITirafondiAttraversoLaColonna) {
   nodo.TfLFt = 230;
   Prepara();
   NervatureAA();
@@ -191,7 +191,7 @@ TEST_F(Foglio, NervaturaDietroITirafondiAttraversoLaColonna) {
   Linea(60, 150, 92, 150, 2);
 }
 
-TEST_F(Foglio, SaldaturePiedeSoloSePositive) {
+TEST_F(FoglioDisegno, SaldaturePiedeSoloSePositive) {
   nodo.TfZ[1] = 15;                            // anchor less Fi lies beyond the plate's edge
   Prepara();
   NervatureBB();
@@ -199,7 +199,7 @@ TEST_F(Foglio, SaldaturePiedeSoloSePositive) {
   EXPECT_LT(TrovaLinea(-200, 7, -205, 7), 0);
 }
 
-TEST_F(Foglio, VistaAA) {
+TEST_F(FoglioDisegno, VistaAA) {
   nodo.OptionNTir = 2;
   Prepara();
   VistaAA();
@@ -229,7 +229,7 @@ TEST_F(Foglio, VistaAA) {
   Linea(-50, -70, -10, -70, 3);                // footing up to the middle anchor
 }
 
-TEST_F(Foglio, VistaAASenzaNervature) {
+TEST_F(FoglioDisegno, VistaAASenzaNervature) {
   nodo.TipoNodo = 1;
   Prepara();
   VistaAA();
@@ -246,7 +246,7 @@ TEST_F(Foglio, VistaAASenzaNervature) {
   Linea(20, 7, 85, 7, 9);
 }
 
-TEST_F(Foglio, UncinoDrittoInAA) {
+TEST_F(FoglioDisegno, UncinoDrittoInAA) {
   nodo.TipoTirafondo = 1;
   Prepara();
   VistaBB();
@@ -257,7 +257,7 @@ TEST_F(Foglio, UncinoDrittoInAA) {
   Linea(-190, -570, -170, -570, 2);            // its lower end
 }
 
-TEST_F(Foglio, VistaCC) {
+TEST_F(FoglioDisegno, VistaCC) {
   esecutivo.XQuoteDx = 513;
   Prepara();
   VistaCC();
@@ -291,7 +291,7 @@ TEST_F(Foglio, VistaCC) {
   EXPECT_DOUBLE_EQ(esecutivo.BoxCYMax, 385);
 }
 
-TEST_F(Foglio, NomeInPiantaSenzaNervature) {
+TEST_F(FoglioDisegno, NomeInPiantaSenzaNervature) {
   nodo.TipoNodo = 1;
   Prepara();
   VistaCC();
@@ -300,7 +300,7 @@ TEST_F(Foglio, NomeInPiantaSenzaNervature) {
 }
 
 // Faces of the ribs in plan with their marks on the outer side of the steel, the six ends, the corner arcs.
-TEST_F(Foglio, NervatureInPianta) {
+TEST_F(FoglioDisegno, NervatureInPianta) {
   Prepara();
   disegno.ColCorr = 2;
   NervaturePianta();
@@ -347,7 +347,7 @@ TEST_F(Foglio, NervatureInPianta) {
   Angolo(-90, 85, 4);
 }
 
-TEST_F(Foglio, LineaConFori) {
+TEST_F(FoglioDisegno, LineaConFori) {
   const double centri[] = {10, 50}, larghezze[] = {4, 10};
   Prepara();
   LineaConFori(3, 0, 3, 100, 2, centri, larghezze);          // vertical
@@ -365,7 +365,7 @@ TEST_F(Foglio, LineaConFori) {
 }
 
 // Holes of 400 around anchors at -140 and 140: from -340 to 340, beyond the grout's slope at 300.
-TEST_F(Foglio, ForiOltreLaMalta) {
+TEST_F(FoglioDisegno, ForiOltreLaMalta) {
   nodo.TfDForo = 400;
   Prepara();
   VistaBB();
