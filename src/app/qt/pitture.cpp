@@ -199,11 +199,11 @@ static void TirafondoPiastra(Foglio& f) {
   Rettangolo(f, 475, 90, 50, 1110, f.ferro);
   Dadi(f, 500);
   Rettangolo(f, 350, 960, 300, 40, f.ferro);
-  for (const double y : {90.0, 330.0, 1200.0}) Riferimento(f, 525, y, 1040, y);
+  for (const double y : {90.0, 330.0, 1200.0}) Riferimento(f, 525, y, 1130, y);
   Riferimento(f, 160, 1000, 350, 1000);
   for (const double x : {350.0, 650.0}) Riferimento(f, x, 1000, x, 1130);
-  Quota(f, 1000, 90, 1000, 330, "L fuori plinto");
-  Quota(f, 1000, 330, 1000, 1200, "L");
+  Quota(f, 1090, 90, 1090, 330, "L fuori plinto");
+  Quota(f, 1090, 330, 1090, 1200, "L");
   Quota(f, 200, 330, 200, 1000, "L1");
   Quota(f, 350, 1110, 650, 1110, "");
   Scritta(f, 650, 1110, "Lato piastra", 8 + f.p.fontMetrics().horizontalAdvance("Lato piastra") / 2.0);
@@ -263,7 +263,7 @@ static const RigaPittura PITTURE[] = {
   { "tirafondi", QRectF(0, 0, 2196, 1548),   SchemaTirafondi },
   { "piastra",   QRectF(240, 40, 1580, 1440), SchemaPiastra },
   { "sezione",   QRectF(120, 0, 960, 1000),  SchemaSezione },
-  { "asta1",     QRectF(40, 40, 1400, 1320), TirafondoPiastra },
+  { "asta1",     QRectF(40, 40, 1470, 1320), TirafondoPiastra },
   { "asta2",     QRectF(40, 40, 1400, 1240), TirafondoUncino },
   { "linea0",    QRectF(0, 0, 100, 10),      Linea0 },
   { "linea1",    QRectF(0, 0, 100, 10),      Linea1 },
