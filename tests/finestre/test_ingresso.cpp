@@ -84,6 +84,27 @@ TEST(Ingresso, RotellaEFrecceMuovonoLaLista) {
   EXPECT_EQ(insDati.ScrollSa.scelta, 3);
 }
 
+// The wheel over a list of choices that has not the focus chooses nothing, and brings no focus.
+TEST(Ingresso, LaRotellaNonSceglieAlPassaggio) {
+  const Scena s("rotella_lista");
+  auto* lista = static_cast<QComboBox*>(OggettoDi(insDati.TraveP));
+  MostraPagina(lista);
+  OggettoDi(insDati.SSTab)->setFocus();
+  const int prima = lista->currentIndex();
+  const QPointF dove(lista->rect().center());
+  const auto gira = [lista, dove] {
+    QWheelEvent e(dove, lista->mapToGlobal(dove), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&e);               // from the desktop: only then the toolkit may give the focus
+    qApp->notify(lista, &e);
+  };
+  gira();
+  EXPECT_FALSE(lista->hasFocus());
+  EXPECT_EQ(lista->currentIndex(), prima);
+  lista->setFocus();
+  gira();
+  EXPECT_EQ(lista->currentIndex(), prima + 1);
+}
+
 TEST(Ingresso, DuecentoSestetti) {
   const Scena s("duecento");
   for (int k = 0; k < 200; ++k) InsDati_Singolo(0);

@@ -192,7 +192,10 @@ static void PreparaOggetto(Legame& l) {
     l.oggetto->setSizePolicy(misura);
   }
   if (auto* etichetta = dynamic_cast<QLabel*>(l.oggetto)) etichetta->setTextFormat(Qt::PlainText);
-  if (auto* lista = dynamic_cast<QComboBox*>(l.oggetto)) lista->setMaxVisibleItems(24);
+  if (auto* lista = dynamic_cast<QComboBox*>(l.oggetto)) {
+    lista->setMaxVisibleItems(24);
+    lista->setFocusPolicy(Qt::StrongFocus);          // a wheel that brought the focus would choose with it
+  }
   l.oggetto->setMouseTracking(true);
 }
 
