@@ -61,6 +61,14 @@ TEST_F(Struttura, VersioneVecchiaSiDiceESiLeggeDallaStessaRiga) {
   AttesoSolo("[messaggio] critica | ATTENZIONE! | Versione 3.8 o precedente. Caricare e risalvare la struttura in 'Ambiente Grafico'");
 }
 
+// Nineteen blanks and 12: within the first 20 characters stands the 1, and one line is skipped.
+TEST_F(Struttura, IlPrimoContatoreStaNeiPrimiVentiCaratteri) {
+  const std::string t = STRUTTURA_MINIMA;
+  Scrivi("Struttur.Str", "release\r\n" + std::string(19, ' ') + "12\r\n1 2 3\r\n" + t.substr(t.find(" 4 nodi")));
+  EXPECT_EQ(SezioneDiAsta(6), 2);
+  EXPECT_TRUE(registratore.eventi.empty());
+}
+
 TEST_F(Struttura, ProfiloDallaSezioneConPrefissoEBlank) {
   EXPECT_EQ(ProfiloDaAsta(5), 2);                         // "P_HE A 200" is HEA200 without its prefix and blanks
   Scrivi("sezioni_", "1\r\n1,\"HEA 200\",0\r\nr\r\nr\r\nr\r\nr\r\n");
