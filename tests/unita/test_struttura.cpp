@@ -69,6 +69,16 @@ TEST_F(Struttura, IlPrimoContatoreStaNeiPrimiVentiCaratteri) {
   EXPECT_TRUE(registratore.eventi.empty());
 }
 
+// The search of one bar's section skips the first block by values, the search of a node's bars by lines.
+TEST_F(Struttura, IlPrimoBloccoSiSaltaAValoriOARighe) {
+  const std::string resto = STRUTTURA_MINIMA.substr(STRUTTURA_MINIMA.find(" 4 nodi"));
+  Scrivi("Struttur.Str", "release\r\n2\r\n1,2,3,4,5,6\r\n" + resto);
+  EXPECT_EQ(SezioneDiAsta(6), 2);
+  Scrivi("Struttur.Str", "release\r\n2\r\n1,2,3,4\r\n5\r\n" + resto);
+  EXPECT_EQ(AsteDelNodo(20), EsitoAste::Trovate);
+  EXPECT_EQ(collegamento.NumAsteNodo, 3);
+}
+
 TEST_F(Struttura, ProfiloDallaSezioneConPrefissoEBlank) {
   EXPECT_EQ(ProfiloDaAsta(5), 2);                         // "P_HE A 200" is HEA200 without its prefix and blanks
   Scrivi("sezioni_", "1\r\n1,\"HEA 200\",0\r\nr\r\nr\r\nr\r\nr\r\n");
