@@ -9,8 +9,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QImage>
 #include <QLineEdit>
 #include <QPdfWriter>
@@ -19,6 +21,7 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTimer>
+#include <QTranslator>
 
 #include <cfenv>
 
@@ -51,6 +54,16 @@ TEST(PiattaformaQt, IlDialogoParlaItalianoESiAnnulla) {
   int filtro = 0;
   EXPECT_FALSE(piattaforma.scegliFile(r, percorso, filtro));
   EXPECT_EQ(percorso, "");
+}
+
+// The toolkit's own Italian lacks the kinds of its list of files; its print dialog and titles are ours where it is not installed.
+TEST(PiattaformaQt, NessunTestoIngleseNeiDialoghi) {
+  EXPECT_EQ(QFileIconProvider().type(QFileInfo(QDir::rootPath())), "Unità");
+  EXPECT_EQ(QFileIconProvider().type(QFileInfo(QDir::tempPath())), "Cartella");
+  const QTranslator* riserva = qApp->findChild<QTranslator*>();
+  ASSERT_NE(riserva, nullptr);
+  for (const char* inglese : {"Save As", "Print range", "Printer", "Copies:", "Select All", "Page size:"})
+    EXPECT_FALSE(riserva->translate("", inglese).isEmpty()) << inglese;
 }
 
 // The default extension goes on a name without a point; the second filter of two is number 2.

@@ -1,4 +1,4 @@
-// app/qt/lingua.cpp - the toolkit's own translation where it is installed, and the few texts that we show without it.
+// app/qt/lingua.cpp - the toolkit's own translation where it is installed, and the texts that we show without it or that it lacks.
 #include "app/qt/lingua.h"
 
 #include <QApplication>
@@ -46,6 +46,9 @@ static constexpr Voce VOCI[] = {
   { "Kind", "Tipo" },
   { "Date Modified", "Data di modifica" },
   { "Computer", "Computer" },
+  { "Folder", "Cartella" },
+  { "Drive", "Unità" },
+  { "Unknown", "Sconosciuto" },
   { "My Computer", "Computer" },
   { "%1 already exists.\nDo you want to replace it?", "%1 esiste già.\nSostituirlo?" },
   { "%1\nFile not found.\nPlease verify the correct file name was given.", "%1\nFile non trovato.\nVerificare il nome del file." },
