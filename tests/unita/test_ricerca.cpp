@@ -111,6 +111,24 @@ TEST_F(Ricerca, AltroLavoro) {
   EXPECT_EQ(LeggiByte(lavoro.substr(0, lavoro.size() - 6) + "LAV002/SondaIn.txt"), "t\r\n7\r\n2\r\n");
 }
 
+// The job's name is trimmed in the argument, not in its folder's path.
+TEST_F(Ricerca, NomeDelLavoroSenzaBlankNellArgomento) {
+  ScriviByte(lavoro.substr(0, lavoro.size() - 6) + "LAV2  /x", "");
+  registratore.programmi = true;
+  std::string campo = "7";
+  CercaElemento("t", campo, 2, false, "LAV2  ");
+  EXPECT_EQ(registratore.eventi[0], "[programma] c:\\suite\\progra\\Sonda.exe |Diroot=c:\\suite| |Lavoro=LAV2|");
+  EXPECT_EQ(LeggiByte(lavoro.substr(0, lavoro.size() - 6) + "LAV2  /SondaIn.txt"), "t\r\n7\r\n2\r\n");
+}
+
+// The program ran and wrote nothing: the user cancelled, and the answer of a former search is none.
+TEST_F(Ricerca, NodiDiUnaRicercaPassata) {
+  ScriviByte(lavoro + "/SondaOut.txt", "0,2\r\n15\r\n1,6\r\nColonna A\r\nNodo B\r\n");
+  registratore.programmi = true;
+  EXPECT_FALSE(CercaNodi("t").risposta);
+  EXPECT_FALSE(EsisteFile(PercorsoRisposta()));
+}
+
 TEST_F(Ricerca, NodiCercati) {
   registratore.programmi = true;
   registratore.eseguito = [](const std::string&) {
