@@ -268,5 +268,9 @@ TEST_F(Ricerca, EsportazioneDeiCarichi) {
   e.conteggio = 0;
   ASSERT_EQ(EsportaSollecitazioni(lavoro + "\\c.txt", e), EsitoEsporta::Scritto);
   EXPECT_EQ(LeggiByte(lavoro + "/c.txt"), "Unit\xE0 di misura: kN         cm\r\nses\tdescr.Ses.\tN\tTy\tTz\tMt\tMy\tMz\r\n");
+  e.primo = 2;
+  e.conteggio = 1;
+  ASSERT_EQ(EsportaSollecitazioni(lavoro + "\\d.txt", e), EsitoEsporta::Scritto);   // the ordinals count from the first group
+  EXPECT_TRUE(LeggiByte(lavoro + "/d.txt").ends_with("\tMz\r\n1\tCaso 7 As. 5 Nd. 20\t.5\t0\t-.01\t0\t.0001\t0\t\r\n"));
   EXPECT_EQ(EsportaSollecitazioni(lavoro + "\\manca\\c.txt", e), EsitoEsporta::NonAperto);
 }
