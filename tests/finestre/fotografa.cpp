@@ -11,6 +11,7 @@
 #include "panels/FormTF.h"
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"
+#include "panels/Sez3D.h"
 #include "panels/pannelli.h"
 
 #include <QApplication>
@@ -35,6 +36,10 @@ static void ScattaPagine(const Pannello& p, QTabWidget& schede) {
 }
 
 static void ScattaPannello(const Pannello& p) {
+  if (&p == &Sez3D) {                     // the bars at the model's first base
+    ImpostaTesto(sez3D.NodoTxt, "1");
+    Scatena(Sez3D, sez3D.Cerca, Evento::Cambio);
+  }
   QWidget& w = *FinestraDi(p)->finestra;
   auto* schede = &p == &FormTF ? dynamic_cast<QTabWidget*>(LegameDi(formTF.SSTab1)->oggetto) : nullptr;
   if (schede != nullptr) ScattaPagine(p, *schede);
