@@ -71,18 +71,17 @@ static void SelezionaDiametro() {                    // rows 1..100 of a table c
 
 static void SelezionaEsposizione() { ImpostaScelta(insDati.ComboEsposizione, scambio.Esposizione - 1); }
 
-// The change of method brings back the grades remembered for the method; those of the file win, by name, over them.
+// The change of method brings back the steels remembered for the method; those of the file win, by name, over them.
 static void SelezionaMetodo() {
   const int voce = CifraFinoA(scambio.metodo, '1');
   if (voce < 0) {
     passi.fallito = true;
     return;
   }
-  const std::string acc = nodo.MatAcc.Nome, tir = nodo.MatTir.Nome, cls = nodo.MatCls.Nome;
+  const std::string acc = nodo.MatAcc.Nome, tir = nodo.MatTir.Nome;
   SelezionaVoce(insDati.TipoVer[0], voce);
   nodo.MatAcc.Nome = acc;
   nodo.MatTir.Nome = tir;
-  nodo.MatCls.Nome = cls;
 }
 
 static void EseguiPasso(PassoNodo passo) {

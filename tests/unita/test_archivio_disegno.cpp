@@ -162,8 +162,10 @@ TEST_F(Archivio, CapacitaDelleLinee) {
 TEST_F(Archivio, CapacitaDegliArchiColTestoDelleLinee) {
   disegno.NumArchi = 14999;
   DisArco(nullptr, 0, 0, 1);
-  DisArco(nullptr, 0, 0, 2);
   EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] informazione | ERRORE !! | Si è raggiunto il numero massimo di linee."});
+  EXPECT_EQ(disegno.NumArchi, 15000);
+  DisArco(nullptr, 0, 0, 2);                   // lost in silence
+  EXPECT_EQ(registratore.eventi.size(), 1u);
   EXPECT_EQ(disegno.NumArchi, 15000);
 }
 

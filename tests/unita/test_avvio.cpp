@@ -119,6 +119,10 @@ TEST_F(Avvio, RadiceCorta) {
   std::filesystem::copy(radice, "s", std::filesystem::copy_options::recursive);
   Fallisce("|diroot=s|", std::string(ERRORE) + "Errore: file s\\impostazioni\\dirlav errato o mancante");
   Fallisce("|diroot=s\\|", std::string(ERRORE) + "Errore: file s\\\\impostazioni\\dirlav errato o mancante");
+  for (const char* lunga : {"s\\.", "s/."}) {                 // three characters are enough, a separator among them
+    EXPECT_TRUE(TrovaPercorsi(std::string("|diroot=") + lunga + "|"));
+    EXPECT_EQ(suite.DirRoot, lunga);
+  }
   ScriviByte("s/Impostazioni/DirLav", "c:\\dati\\altrove");
   Fallisce("|diroot=s|", NON_LAVORI);                       // the folder is judged before the root
   std::filesystem::remove_all("s", errore);

@@ -159,6 +159,19 @@ TEST_F(Copione, VocePerTesto) {
   EXPECT_EQ(Stampa("scegli InsDati.ComboEsposizione \"prova tre\""), "!");
 }
 
+// A look is no use: the entries of a list print also where a user could not reach it.
+TEST_F(Copione, VociDiUnaListaFuoriPortata) {
+  const std::string voci = "InsDati.ComboEsposizione(0) = prima\nInsDati.ComboEsposizione(1) = seconda\n";
+  MostraVoci(insDati.ComboEsposizione, {"prima", "seconda"});
+  MostraAbilitato(insDati.ComboEsposizione, false);
+  EXPECT_EQ(Stampa("voci InsDati.ComboEsposizione"), voci);
+  EXPECT_EQ(Stampa("scegli InsDati.ComboEsposizione 1"), "!");
+  MostraAbilitato(insDati.ComboEsposizione, true);
+  MostraVisibile(insDati.ComboEsposizione, false);
+  EXPECT_EQ(Stampa("voci InsDati.ComboEsposizione"), voci);
+  EXPECT_EQ(Stampa("scegli InsDati.ComboEsposizione 1"), "!");
+}
+
 // While a modal panel is open only its controls can be used; the others can be looked at.
 TEST_F(Copione, DentroUnPannelloModale) {
   PannelloMostrato(FormTF, true);

@@ -71,8 +71,12 @@ TEST_F(Diametri, FilePiuCortoLasciaRigheInterneDietro) {
   EXPECT_EQ(suite.DiamNome[1], " T2 ");      // the name as it stands
   EXPECT_EQ(suite.DiamVal[1], 14);           // always the point: a comma ends the number
   EXPECT_EQ(suite.DiamArea[2], 100);
-  EXPECT_EQ(suite.DiamNome[3], "M14");       // built-in row behind the count
+  EXPECT_EQ(suite.DiamNome[3], "M14");       // built-in rows behind the count
+  EXPECT_EQ(suite.DiamVal[3], 14);
+  EXPECT_EQ(suite.DiamArea[3], 115);
   EXPECT_EQ(suite.DiamNome[21], "M68");
+  EXPECT_EQ(suite.DiamVal[21], 68);
+  EXPECT_EQ(suite.DiamArea[21], 3060);
 }
 
 TEST_F(Diametri, RemESenzaBarraSaltate) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "core/aritmetica.h"
+#include "core/testo.h"
 #include "corredo/registratore.h"
 #include "materials/file_materiali.h"
 #include "model/materiali.h"
@@ -123,7 +124,9 @@ TEST_F(FileMateriali, NumeriSecondoLaLingua) {
 }
 
 TEST_F(FileMateriali, OltreCinquantaVoci) {
-  Catalogo(Acciai("ACCIAIO_DA_CARPENTERIA_SEZIONI_APERTE", 60) + "VITI\r\n1\r\n8.8\r\n1 2 3 4 5 6\r\n");
+  // Entry 55 reads like a section of nine bolts, which would swallow what follows, if its lines were left over.
+  const std::string acciai = Componi(Acciai("ACCIAIO_DA_CARPENTERIA_SEZIONI_APERTE", 60), "A55\r\nnorma", "Barra per VITI\r\n9 norma");
+  Catalogo(acciai + "VITI\r\n1\r\n8.8\r\n1 2 3 4 5 6\r\n");
   EXPECT_EQ(materiali.NumAcciai, 60);
   EXPECT_EQ(materiali.AcciaiBase[50].Nome, "A50");
   EXPECT_EQ(materiali.AcciaiBase[50].SAmm, 50);

@@ -225,8 +225,8 @@ TEST_F(FileNodo, MotiviEPosizioni) {
       EXPECT_EQ(nodo.TfZ[i], i <= c.scritti ? 100 + i : 0) << c.cifra << " " << i;
       EXPECT_EQ(nodo.TfY[i], i <= c.scritti ? 200 + i : 0) << c.cifra << " " << i;
     }
-    EXPECT_EQ(insDati.DTf[2].testo, "298");        // 400 - 102
-    EXPECT_EQ(insDati.DTf[4].testo, "297");        // 500 - 203
+    const char* distanze[] = {"101", "298", "201", "297"};     // of anchors 1, 2, 1, 3: 400 - 102, 500 - 203
+    for (int i = 1; i <= 4; ++i) EXPECT_EQ(insDati.DTf[i].testo, distanze[i - 1]) << i;
   }
 }
 

@@ -144,10 +144,13 @@ TEST_F(Modello, UnitaDellaMisura) {
 
 TEST_F(Modello, MancanteAvvisaEProsegue) {
   suite.DirCustom = "C:\\suite\\custom";
+  stiliGrb.NumStili = 1;                       // of an earlier read
+  stiliGrb.AltStile[1] = 25;
   EXPECT_FALSE(LeggiStiliGrb());
   EXPECT_EQ(registratore.eventi, std::vector<std::string>{
     "[messaggio] critica | NODO COLONNA - PLINTO | Errore in apertura del file C:\\suite\\custom\\cad2dmodello.grb- verranno usati i parametri disegno della versione autonoma."});
-  EXPECT_EQ(stiliGrb.AltStile[1], 0);
+  EXPECT_EQ(stiliGrb.NumStili, 1);
+  EXPECT_EQ(stiliGrb.AltStile[1], 25);
   EXPECT_FALSE(passi.fallito);                 // dealt with: the start goes on
 }
 

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "core/aritmetica.h"
+#include "core/testo.h"
 #include "corredo/registratore.h"
 #include "corredo/pannello_prova.h"
 #include "drawing/tela.h"
@@ -13,6 +14,7 @@
 #include "model/node_model.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
+#include "panels/pannelli.h"
 
 namespace {
 
@@ -170,6 +172,26 @@ TEST_F(Pannello71, SectionIsCopiedWholeAndShown) {
   EXPECT_EQ(nodo.Sezione.Tipo, "I");
   const char* attesi[] = {"110", "60", "5", "8", "10"};
   for (int i = 0; i < 5; i++) EXPECT_EQ(insDati.geomp[i].testo, attesi[i]);
+}
+
+// All fourteen fields are the library's; nothing of the section before stays.
+TEST_F(Pannello71, NoFieldOfTheFormerSectionStays) {
+  Sezione& p = suite.ProfiliLib[10];
+  double Sezione::*const campi[] = {&Sezione::H,  &Sezione::B,    &Sezione::A,  &Sezione::E,  &Sezione::R,  &Sezione::R2,
+                                    &Sezione::Xc, &Sezione::Yc,   &Sezione::Area, &Sezione::J1, &Sezione::J2, &Sezione::Jt};
+  double v = 100;
+  for (double Sezione::*c : campi) {
+    p.*c = v++;
+    nodo.Sezione.*c = -1;
+  }
+  p.Tipo = "U";
+  nodo.Sezione.Tipo = "I";
+  nodo.Sezione.Nome = AllineaSinistra("ALTRA", LungNomeSez);
+  UtenteSceglie(InsDati, insDati.TraveP, 9);
+  v = 100;
+  for (double Sezione::*c : campi) EXPECT_EQ(nodo.Sezione.*c, v++);
+  EXPECT_EQ(nodo.Sezione.Tipo, "U");
+  EXPECT_EQ(nodo.Sezione.Nome, "P10               ");
 }
 
 TEST_F(Pannello71, TypologyEnablesExactlySixControls) {
@@ -473,6 +495,16 @@ TEST_F(Pannello71, FirstShowSetsColoursAndSearchTitle) {
   EXPECT_EQ(insDati.Versione.coloreSfondo, 0x6464FF);
   EXPECT_EQ(insDati.Versione.coloreTesto, 0xFFFFFF);
   EXPECT_EQ(insDati.TitoloCerca, "NODO COLONNA - PLINTO - IMPORTA SOLLECITAZIONI DA 3D - Cerca nodi");
+}
+
+TEST_F(Pannello71, FirstShowDrawsTheSketch) {
+  RidisegnaNodo();
+  const std::size_t tratti = insDati.telaNodo.tratti.size();
+  EXPECT_GT(tratti, 0u);
+  PulisciTela(insDati.telaNodo);
+  insDati.caricato = false;                          // as before its first show
+  PannelloMostrato(InsDati, false);
+  EXPECT_EQ(insDati.telaNodo.tratti.size(), tratti);
 }
 
 TEST_F(Pannello71, Canvas) {

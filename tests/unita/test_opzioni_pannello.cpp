@@ -65,7 +65,9 @@ TEST_F(OpzioniPannello, OpzMostraIValoriMenoQuattroCampi) {
   Avvia(1, 0, 1);
   for (const CampoVoce& c : CAMPI) MostraTesto(opNodo.Par_Nodo[c.campo], "x");
   for (int i = 0; i < NumParNodo; ++i) suite.ParNodo[i] = 300 + i;
+  registratore.pannelli.clear();
   Premi(InsDati, "Opz");
+  EXPECT_EQ(registratore.pannelli, std::vector<std::string>{"Op_Nodo"});
   for (const CampoVoce& c : CAMPI) {
     const bool lasciato = c.campo == 16 || c.campo >= 25;
     const int mostrato = c.campo == 13 ? 317 : 300 + c.voce;         // the unsigned distance
@@ -78,6 +80,19 @@ TEST_F(OpzioniPannello, OpzMostraIValoriMenoQuattroCampi) {
   MostraTesto(opNodo.Par_Nodo[13], "x");     // typed and left
   Premi(InsDati, "Opz");
   EXPECT_EQ(opNodo.Par_Nodo[13].testo, "12");
+}
+
+// Back to "Quote sup.": the mark goes to 0, the signed distance is the one entered.
+TEST_F(OpzioniPannello, DaQuoteInferioriASuperiori) {
+  Avvia(1, 1, 1);
+  ApplicaOpzioni();
+  EXPECT_EQ(suite.ParNodo[16], 1);
+  EXPECT_EQ(suite.ParNodo[13], -220);        // -113 - 107
+  UtenteSceglie(Op_Nodo, opNodo.Option1[0], 1);
+  ApplicaOpzioni();
+  EXPECT_EQ(suite.ParNodo[16], 0);
+  EXPECT_EQ(suite.ParNodo[13], 113);
+  EXPECT_EQ(suite.ParNodo[17], 113);
 }
 
 // After a restart the field shows the signed distance, and the next application turns it again: -(-213) - 107.

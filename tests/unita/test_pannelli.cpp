@@ -345,6 +345,14 @@ TEST_F(Pannelli_, DoppioClicChiamaLaCalcolatrice) {
   }
   EXPECT_EQ(nodo.SollTy[1], 725);
   EXPECT_EQ(nodo.SollTz[1], 725);
+  // each row hands over its own value and takes its own answer
+  Premi(InsDati, "Singolo");
+  for (Controllo* c : {&insDati.TxtSN[1], &insDati.TxtTy[1], &insDati.TxtTz[1], &insDati.TxtMt[1], &insDati.TxtMy[1], &insDati.TxtMz[1]}) {
+    UtenteScrive(InsDati, *c, "3");
+    EXPECT_TRUE(Scatena(InsDati, *c, Evento::Doppio));
+    EXPECT_NE(UltimoEvento().find("|valoreingresso=3|"), std::string::npos) << c->riga->nome;
+    EXPECT_EQ(c->testo, "7.25") << c->riga->nome;
+  }
 }
 
 TEST_F(Pannelli_, CalcolatriceCheNonParteONonRisponde) {

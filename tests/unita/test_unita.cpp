@@ -183,6 +183,7 @@ TEST_F(UnitaLavoro, PrimoValoreFinoAllaVirgola) {
 
 TEST_F(UnitaLavoro, Guasti) {
   EXPECT_FALSE(ImpostaUnita());                            // no file
+  EXPECT_FALSE(LeggiParametriLavoro());                    // the missing file itself, not the factors of empty units
   EXPECT_TRUE(FaultAritmetico());
   const std::string buono = File("9.81", "cm", "daN", "daNcm", "daN8cm2", "cm", "daN8m2");
   AttesoGuasto("");
