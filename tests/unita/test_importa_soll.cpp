@@ -1,6 +1,7 @@
 // Import of sextets: file names, lists, records, envelope, limits. Expected values by hand from the records written here.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstring>
 #include <limits>
 #include <random>
@@ -114,6 +115,15 @@ TEST_F(Importa, UltimaSezioneAlSecondoEstremoConTyCambiatoDiSegno) {
   EXPECT_EQ(nodo.SollMt[1], 0);                           // 0.5, 1.5, 2.5: ties to even
   EXPECT_EQ(nodo.SollMy[1], 2);
   EXPECT_EQ(nodo.SollMz[1], 2);
+}
+
+TEST_F(Importa, NessunoZeroNegativoNellElenco) {
+  Scrivi("astec007.bin", FileRisultatiDi(1, 1, 1, {{5, -0.04, 0.04, 0, -0.4, 0, 0}}));
+  c.LatoAsta[1] = 2;
+  ImportaSollecitazioni(false);
+  ASSERT_EQ(nodo.NumSoll, 1);
+  EXPECT_EQ(nodo.SollTy[1], 0);
+  EXPECT_FALSE(std::signbit(nodo.SollN[1]) || std::signbit(nodo.SollTy[1]) || std::signbit(nodo.SollMt[1]));
 }
 
 TEST_F(Importa, IlPostoDelFileVinceSuQuelloDellaStruttura) {
