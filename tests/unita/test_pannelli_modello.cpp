@@ -249,6 +249,21 @@ TEST_F(Pannelli_, SelezioneSenzaAsteLasciaIlCampo) {
                             "selezionate che concorra nel nodo 20");
 }
 
+// A limit that does not fit 16 bits is the nearest one that does, not none.
+TEST_F(Pannelli_, LimiteDeiNomiOltreISediciBit) {
+  Modello();
+  Scrivi(Soll3D, "NodiTxt", SENZA_INDICE, "20");
+  registratore.dentro.push_back([] {
+    UtenteSceglie(Selezione, selezione.NomiOp[1], 1);
+    Scrivi(Selezione, "NomiTxt", 0, "1");
+    Scrivi(Selezione, "NomiTxt", 1, "99999");
+    Premi(Selezione, "Cerca");
+  });
+  Premi(Soll3D, "Cerca", 0);
+  EXPECT_EQ(soll3D.AsteTxt.testo, "5");
+  EXPECT_TRUE(registratore.eventi.empty());
+}
+
 TEST_F(Pannelli_, CercaINodiDiRiferimento) {
   registratore.programmi = true;
   registratore.eseguito = [](const std::string&) {
@@ -304,6 +319,18 @@ TEST_F(Pannelli_, ImportaSezione) {
   EXPECT_EQ(nodo.Sezione.Nome, "HEA200            ");
   EXPECT_EQ(insDati.TraveP.voci[static_cast<std::size_t>(insDati.TraveP.scelta)], "HEA200");
   EXPECT_FALSE(sez3D.aperto);
+}
+
+// Of two entries of the library with the chosen name the last one stays selected.
+TEST_F(Pannelli_, OkSelezionaLUltimoProfiloDiNomeUguale) {
+  Modello();
+  piattaforma.apri(Sez3D, false);
+  Scrivi(Sez3D, "NodoTxt", SENZA_INDICE, "10");
+  Premi(Sez3D, "Cerca");
+  suite.ProfiliLib[suite.NumProfili] = suite.ProfiliLib[24];
+  ASSERT_EQ(suite.ProfiliLib[24].Nome, collegamento.SezioneImp.Nome);
+  Premi(Sez3D, "OK");
+  EXPECT_EQ(insDati.TraveP.scelta, suite.NumProfili - 1);
 }
 
 TEST_F(Pannelli_, DidascalieDellaSezione) {
@@ -375,8 +402,10 @@ TEST_F(Pannelli_, NodoSenzaAsteNonCambiaLaSezione) {
   Scrivi(Sez3D, "NodoTxt", SENZA_INDICE, "40");
   Premi(Sez3D, "Cerca");
   EXPECT_TRUE(sez3D.ComboP.voci.empty());
+  insDati.telaNodo.tratti.clear();
   Premi(Sez3D, "OK");
   EXPECT_EQ(nodo.Sezione.Nome, prima);
+  EXPECT_FALSE(insDati.telaNodo.tratti.empty());          // painted anew all the same
 }
 
 TEST_F(Pannelli_, NodiDelModello) {
