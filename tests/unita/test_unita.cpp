@@ -130,6 +130,9 @@ TEST_F(UnitaLavoro, Tabelle) {
   EXPECT_EQ(FattLunghezza("CM", d), 0);                    // case counts
   EXPECT_EQ(d, 3);
   EXPECT_EQ(FattLunghezza("in", d), 0);
+  EXPECT_EQ(FattLunghezza("cm/mm"), 10);                   // mm is tried first, then cm
+  EXPECT_EQ(FattForza("t kgf kN"), 0.01);                  // kN before N, kgf before t
+  EXPECT_EQ(FattForza("t kgf"), 1);
   EXPECT_EQ(FattForza("daN", d), 1);
   EXPECT_EQ(d, 1);
   EXPECT_EQ(FattForza("kN", d), 0.01);
