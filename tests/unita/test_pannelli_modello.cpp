@@ -157,6 +157,32 @@ TEST_F(Pannelli_, ImportaSiFermaAlPrimoElencoErrato) {
   EXPECT_EQ(UltimoEvento(), "[messaggio] esclamazione | ERRORE | Errore: numero di aste o nodi eccessivo");
 }
 
+// Nodes, bars, cases, sextets, conditions: an invalid list is emptied, and those behind it are not looked at.
+TEST_F(Pannelli_, OrdineDegliElenchi) {
+  static constexpr const char* CAMPI[] = {"NodiTxt", "AsteTxt", "CdCTxt", "SesTxt", "CdC2Txt"};
+  const std::int16_t* const conteggi[] = {&nodo.NumNodiStr, &collegamento.NumAsteNodo, &collegamento.NumCasiStr, &collegamento.NumSestettiStr,
+                                          &collegamento.NumCondStr};
+  Modello();
+  for (int errato = 0; errato < 5; ++errato) {
+    for (const char* c : CAMPI) Scrivi(Soll3D, c, SENZA_INDICE, "1");
+    Premi(Soll3D, "Importa");
+    for (const char* c : CAMPI) Scrivi(Soll3D, c, SENZA_INDICE, "2,3");
+    Scrivi(Soll3D, CAMPI[errato], SENZA_INDICE, "x");
+    registratore.eventi.clear();
+    Premi(Soll3D, "Importa");
+    EXPECT_EQ(registratore.eventi.size(), 1u);
+    for (int k = 0; k < 5; ++k) EXPECT_EQ(*conteggi[k], k < errato ? 2 : k == errato ? 0 : 1) << CAMPI[errato] << " " << CAMPI[k];
+  }
+}
+
+TEST_F(Pannelli_, ChiudiChiudeAncheLaSelezione) {
+  piattaforma.apri(Soll3D, false);
+  piattaforma.apri(Selezione, false);
+  Premi(Soll3D, "Chiudi");
+  EXPECT_FALSE(selezione.aperto);
+  EXPECT_FALSE(soll3D.aperto);
+}
+
 TEST_F(Pannelli_, ChiudiRidaIlTitoloAlRiquadro) {
   registratore.dentro.push_back([] {
     insDati.Soll.testo = "altro";
