@@ -97,6 +97,15 @@ TEST_F(Compatta, SporgenteOFuoriLineaRestano) {
   EXPECT_EQ(disegno.NumLinee, 3);
 }
 
+// One end on the other line is not enough, whichever it is.
+TEST_F(Compatta, UnCapoSoloNonBasta) {
+  Linea(0, 0, 10, 0, 1, 0);
+  Linea(5, 0, 5, 1, 2, 4);                    // the first end lies on it
+  Linea(5.2, 1, 5.2, 0, 2, 4);                // the second
+  CompattaDisegno();
+  EXPECT_EQ(disegno.NumLinee, 3);
+}
+
 // A point 0.15 mm beside the middle of 1000 mm makes the way longer by 0.000045 only: covered, also across a border of the grid
 // (four cells of 250 mm a side).
 TEST_F(Compatta, AccantoAUnaLineaLunga) {

@@ -140,6 +140,20 @@ TEST_F(FileNodo, CaricaTutto) {
   EXPECT_EQ(LeggiByte(lavoro + "copia.qb7"), Unisci(Buono()));
 }
 
+TEST_F(FileNodo, LoSchizzoEDelNodoCaricato) {
+  const auto capi = [] {
+    std::vector<double> v;
+    for (const Tratto& t : insDati.telaNodo.tratti) v.insert(v.end(), {t.x1, t.y1, t.x2, t.y2, t.xc, t.yc, t.raggio});
+    return v;
+  };
+  const std::vector<double> prima = capi();
+  CaricaByte(lavoro + "buono.qb7", Unisci(Buono()));
+  const std::vector<double> caricato = capi();
+  EXPECT_NE(caricato, prima);
+  RidisegnaNodo();
+  EXPECT_EQ(caricato, capi());
+}
+
 TEST_F(FileNodo, RisultatiDelNodoDiPrima) {
   ris.SigmaTir[1][1] = ris.SMaxCls[1] = ris.SNerv[200][8] = ris.FvEd[1][1] = ris.Saldature[3].SEq1[1] = 9;
   ris.SPiastraTir[1][1][5] = ris.Saldature[9].Lung = 7;

@@ -82,14 +82,20 @@ TEST_F(OpzioniPannello, OpzMostraIValoriMenoQuattroCampi) {
   EXPECT_EQ(opNodo.Par_Nodo[13].testo, "12");
 }
 
-// Back to "Quote sup.": the mark goes to 0, the signed distance is the one entered.
-TEST_F(OpzioniPannello, DaQuoteInferioriASuperiori) {
+// Back to "Quote sup.", and both ticks taken off: their entries go to 0, the signed distance is the one entered.
+TEST_F(OpzioniPannello, SceltaESpunteTolte) {
   Avvia(1, 1, 1);
   ApplicaOpzioni();
   EXPECT_EQ(suite.ParNodo[16], 1);
   EXPECT_EQ(suite.ParNodo[13], -220);        // -113 - 107
+  EXPECT_EQ(suite.ParNodo[15], 1);
+  EXPECT_EQ(suite.ParNodo[18], 1);
   UtenteSceglie(Op_Nodo, opNodo.Option1[0], 1);
+  UtenteSceglie(Op_Nodo, opNodo.CheckQuote, 0);
+  UtenteSceglie(Op_Nodo, opNodo.CheckDistinta, 0);
   ApplicaOpzioni();
+  EXPECT_EQ(suite.ParNodo[15], 0);
+  EXPECT_EQ(suite.ParNodo[18], 0);
   EXPECT_EQ(suite.ParNodo[16], 0);
   EXPECT_EQ(suite.ParNodo[13], 113);
   EXPECT_EQ(suite.ParNodo[17], 113);

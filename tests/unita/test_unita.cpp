@@ -177,6 +177,13 @@ TEST_F(UnitaLavoro, GravitaEUnitaSullaStessaRiga) {
   EXPECT_EQ(suite.UnitaForze, "9./1");
 }
 
+// The value ends at the first bracket; the key is looked for in the whole line.
+TEST_F(UnitaLavoro, PrimaParentesi) {
+  ScriviByte(cartella + "/parametrilavoro", "via\nmm [nota] [lunghezze]\n");
+  ASSERT_TRUE(LeggiParametriLavoro());
+  EXPECT_EQ(suite.UnitaLung, "mm");
+}
+
 TEST_F(UnitaLavoro, PrimoValoreFinoAllaVirgola) {
   ScriviByte(cartella + "/parametrilavoro", "via,cm [lunghezze]\r\n9,81 [accelerazione_g]\r\n");
   ASSERT_TRUE(LeggiParametriLavoro());

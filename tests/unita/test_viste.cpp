@@ -170,6 +170,20 @@ TEST_F(FoglioDisegno, TirafondoDavantiAllaNervatura) {
   Linea(128, 150, 98, 150, 2);
 }
 
+// View A-A shows anchors 2 and 4: a file may give them other places than 1 and 3. Rods 20 wide at -180 and 180, top at 160; the
+// slope from (250, 50) to (150, 150) stands at 110 and 130 on their sides.
+TEST_F(FoglioDisegno, NervaturaDietroITirafondiDiAA) {
+  nodo.TfLFt = 230;
+  nodo.TfY[1] = 40;
+  nodo.TfY[3] = 460;
+  Prepara();
+  NervatureAA();
+  for (const int s : {-1, 1}) {
+    Linea(s * 250, 50, s * 190, 110, 2);
+    Linea(s * 170, 130, s * 150, 150, 2);
+  }
+}
+
 // Across the column the flat rib's edge at 150 passes behind the rods of view A-A, where there is one: top at 230 - 70 = 160.
 TEST_F(FoglioDisegno, NervaturaDietroITirafondiAttraversoLaColonna) {
   nodo.TfLFt = 230;
