@@ -121,6 +121,10 @@ TEST_F(Archivio, ArcoECerchio) {
   EXPECT_EQ(disegno.ArcIni[1], disegno.ArcFin[1]);
   EXPECT_EQ(disegno.CoordX[disegno.ArcIni[1]], 14);
   EXPECT_EQ(disegno.ArcIni[2], disegno.ArcFin[2]);
+  DisArco(nullptr, 10, 20, 8, {}, 1.0);        // without a second angle: the first one, wherever it lies
+  ASSERT_EQ(disegno.NumArchi, 4);
+  EXPECT_EQ(disegno.ArcIni[3], disegno.ArcIni[2]);
+  EXPECT_EQ(disegno.ArcFin[3], disegno.ArcIni[2]);
 }
 
 TEST_F(Archivio, TestoInDecimiAlPari) {

@@ -172,6 +172,25 @@ TEST(AvvioPannello, BoxesComeInTheOrderOfTheStart) {
   EXPECT_EQ(registratore.eventi[4], "[fine]");
 }
 
+// A missing template stops nothing, so that its box tells its place: behind the parameters, the font and the library, before the
+// catalogue.
+TEST(AvvioPannello, TheTemplateComesBetweenLibraryAndCatalogue) {
+  const std::string radice = PreparaSuite("avvio_modello"), altrove = PreparaSuite("avvio_modello_intera");
+  Togli(radice + "/custom/cad2dmodello.grb");
+  for (const char* file : {"/lavori/NODI01/parametrilavoro", "/progra/font.001", "/custom/prof_pro"}) {
+    Togli(radice + file);
+    EXPECT_FALSE(Avvia(radice));
+    ASSERT_EQ(registratore.eventi.size(), 2u) << file;       // the file's own box, the end
+    EXPECT_EQ(registratore.eventi[0].find("cad2dmodello.grb"), std::string::npos) << file;
+    ScriviByte(radice + file, LeggiByte(altrove + file));
+  }
+  Togli(radice + "/custom/MaterialiNTC08.tx1");
+  EXPECT_FALSE(Avvia(radice));
+  ASSERT_EQ(registratore.eventi.size(), 3u);
+  EXPECT_NE(registratore.eventi[0].find("cad2dmodello.grb"), std::string::npos);
+  EXPECT_NE(registratore.eventi[1].find("MaterialiNTC08.tx1"), std::string::npos);
+}
+
 // Everything is missing at first; each file put back lets the start come one step further.
 TEST(AvvioPannello, TheFirstFailureInTheOrderOfTheStartEndsIt) {
   const std::string radice = PreparaSuite("avvio_tutto"), altrove = PreparaSuite("avvio_intera");

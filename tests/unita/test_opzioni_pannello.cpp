@@ -43,6 +43,12 @@ TEST_F(OpzioniPannello, OgniCampoLaSuaVoce) {
   EXPECT_EQ(VoceScelta(opNodo.Option1[0]), 1);
   EXPECT_EQ(opNodo.CheckQuote.scelta, 0);
   EXPECT_EQ(opNodo.CheckDistinta.scelta, 0);
+  Avvia(1, 0, 0);                            // each tick by its own entry, 15 and 18
+  EXPECT_EQ(opNodo.CheckQuote.scelta, 1);
+  EXPECT_EQ(opNodo.CheckDistinta.scelta, 0);
+  Avvia(0, 0, 1);
+  EXPECT_EQ(opNodo.CheckQuote.scelta, 0);
+  EXPECT_EQ(opNodo.CheckDistinta.scelta, 1);
 }
 
 TEST_F(OpzioniPannello, OgniCampoScriveLaSuaVoce) {

@@ -31,9 +31,11 @@ TEST_F(FoglioDisegno, TerziTirafondiDalloSchema) {
   }
 }
 
-// View A-A takes the sixth in both patterns, and draws it last.
+// View A-A takes the second, the fourth and, in both patterns, the sixth, which it draws last; of a loaded joint the first and the
+// third need not stand in line with them.
 TEST_F(FoglioDisegno, TerzoTirafondoDiAA) {
   nodo.TfY[5] = 240, nodo.TfY[6] = 262, nodo.TfY[8] = 75;
+  nodo.TfY[1] = 85, nodo.TfY[3] = 410;
   for (const int schema : {1, 2}) {
     nodo.OptionNTir = schema;
     Prepara();
