@@ -2,6 +2,8 @@
 // started on a copy of the sample suite, the model is tests/corredo/modello_minimo.h; values by hand.
 #include "corredo/banco_pannelli.h"
 
+#include <algorithm>
+
 #include "link/collegamento.h"
 #include "panels/Sez3D.h"
 #include "panels/Soll3D.h"
@@ -451,4 +453,13 @@ TEST_F(Pannelli_, NodiDelModello) {
   };
   Premi(InsDati, "Command1");
   EXPECT_EQ(nodo.NodiStr[1], 15);                         // kind 1 names no node
+  EXPECT_TRUE(std::none_of(registratore.eventi.begin(), registratore.eventi.end(), [](const std::string& e) { return e.starts_with("[messaggio]"); }));
+  registratore.eseguito = [](const std::string&) {
+    ScriviByte(RisolviPercorso(suite.DirLavoro + "\\SondaOut.txt"), "0,0\r\n78\r\n1,1\r\nA\r\nB\r\n");
+    return true;
+  };
+  ScriviByte(RisolviPercorso(suite.DirLavoro + "\\struttur.str"), "release\r\n0\r\n0\r\n1\r\n10,20,0,0\r\n1 2\r\n");
+  Premi(InsDati, "Command1");
+  EXPECT_EQ(nodo.NodiStr[1], 15);                         // nor does kind 0
+  EXPECT_EQ(UltimoEvento(), "[messaggio] critica | INFORMAZIONE | Il profilo della colonna non è applicabile");   // bar 1 has section 2
 }
