@@ -104,6 +104,16 @@ TEST_F(Lista72, TheList201) {
   EXPECT_EQ(nodo.SollNome[200], "Soll 200");
   Barra(true, 198, 198);
   EXPECT_EQ(insDati.Soll.testo, "n° 200 [daN, daNcm]");
+  // The full list uses its last place: with a group gone from the middle the 200th moves up, and the place is empty.
+  for (int n = 1; n <= 200; n++) nodo.SollN[n] = n;
+  RimuoviGruppo(7);
+  EXPECT_EQ(nodo.NumSoll, 199);
+  EXPECT_EQ(nodo.SollN[6], 6);
+  EXPECT_EQ(nodo.SollN[7], 8);
+  EXPECT_EQ(nodo.SollN[199], 200);
+  EXPECT_EQ(nodo.SollNome[199], "Soll 200");
+  EXPECT_EQ(nodo.SollN[200], 0);
+  EXPECT_EQ(nodo.SollNome[200], "");
 }
 
 TEST_F(Lista72, FieldsStoreAtOnceDividedByTheFactor) {
