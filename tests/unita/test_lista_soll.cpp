@@ -104,6 +104,9 @@ TEST_F(Lista72, TheList201) {
   EXPECT_EQ(nodo.SollNome[200], "Soll 200");
   Barra(true, 198, 198);
   EXPECT_EQ(insDati.Soll.testo, "n° 200 [daN, daNcm]");
+  EXPECT_EQ(insDati.Lsa[4].testo, "Soll 200");       // the last row: 4 + 198 - 2
+  UtenteScrive(InsDati, insDati.TxtSN[4], "12.5");
+  EXPECT_EQ(nodo.SollN[200], 12.5);
   // The full list uses its last place: with a group gone from the middle the 200th moves up, and the place is empty.
   for (int n = 1; n <= 200; n++) nodo.SollN[n] = n;
   RimuoviGruppo(7);

@@ -45,6 +45,8 @@ TEST_F(FoglioDisegno, TerzoTirafondoDiAA) {
     EXPECT_EQ(esecutivo.ForiX[2], 12);
     Linea(2, 50, 22, 50, 2);
     Linea(-38, -70, 2, -70, 3);
+    Linea(-130, -70, -38, -70, 3);             // from hole to hole, the middle one between the others
+    Linea(62, -70, 130, -70, 3);
   }
 }
 
@@ -59,6 +61,42 @@ TEST_F(FoglioDisegno, QuoteOrizzontaliSottoLeVerticali) {
   Linea(-200, -940, -128, -940, 5);
   Linea(-140, -1015, 140, -1015, 5);
   EXPECT_DOUBLE_EQ(esecutivo.BoxBYMin, -1015);
+}
+
+// The chains of view A-A. The foundation line reaches 250 + 5 x 50 = 500 to the left, so that the first vertical chain stands at
+// -500 - 18 - 45 = -563 and the next one 75 farther out. The section line ends at 1.1 x -570 = -627: the first horizontal chain lies
+// at -627 - 50 - 45 = -722, the others 75 below one another.
+TEST_F(FoglioDisegno, QuoteDiAA) {
+  Prepara();
+  VistaAA();
+  Linea(-563, 0, -563, 150, 5);                // plate to rib: without the cut of the ribs at 50, which is B-B's
+  Linea(-563, -20, -563, 0, 5);
+  Linea(-563, -80, -563, -70, 5);
+  Linea(-638, -70, -638, 50, 5);
+  Linea(-638, -570, -638, -70, 5);
+  Linea(-230, -722, -130, -722, 5);            // holes of 100 around -180 and 180
+  Linea(-130, -722, 130, -722, 5);
+  Linea(130, -722, 230, -722, 5);
+  Linea(-250, -797, -130, -797, 5);            // plate edge, 100 + NervZ 30
+  Linea(-130, -797, 130, -797, 5);
+  Linea(-350, -872, -300, -872, 5);            // grout in two steps, anchors
+  Linea(-250, -872, -180, -872, 5);
+  Linea(-180, -872, 180, -872, 5);
+  EXPECT_EQ(esecutivo.BoxAXMin, -638);
+  EXPECT_EQ(esecutivo.BoxAXMax, 500);
+  EXPECT_EQ(esecutivo.BoxAYMin, -872);
+  EXPECT_EQ(esecutivo.BoxAYMax, 400);
+  Prepara();
+  VistaBB();                                   // 200 + 250 = 450 to the right
+  Linea(513, 0, 513, 50, 5);
+  Linea(513, 50, 513, 150, 5);
+  Linea(588, -570, 588, -70, 5);
+  nodo.TipoNodo = 1;                           // no chain of the ribs: the anchors' one moves up
+  Prepara();
+  VistaAA();
+  Manca(-563, 0, -563, 150);
+  Manca(-250, -797, -130, -797);
+  Linea(-250, -797, -180, -797, 5);
 }
 
 TEST_F(FoglioDisegno, VistaBBPiastraEPlinto) {
