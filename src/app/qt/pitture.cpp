@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-struct Foglio {
+struct FoglioPittura {
   QPainter& p;
   QTransform v;
   QColor linea, quota, ferro, piastra, rosso;
@@ -26,31 +26,31 @@ QTransform VistaSu(const QRectF& r, const QRectF& posto) {
 
 // ---- strokes ----
 
-static void Linea(Foglio& f, double x1, double y1, double x2, double y2) { f.p.drawLine(f.v.map(QPointF(x1, y1)), f.v.map(QPointF(x2, y2))); }
+static void Linea(FoglioPittura& f, double x1, double y1, double x2, double y2) { f.p.drawLine(f.v.map(QPointF(x1, y1)), f.v.map(QPointF(x2, y2))); }
 
-static void Penna(Foglio& f, const QColor& c, double spessore = 1.4, Qt::PenStyle stile = Qt::SolidLine) {
+static void Penna(FoglioPittura& f, const QColor& c, double spessore = 1.4, Qt::PenStyle stile = Qt::SolidLine) {
   f.p.setPen(QPen(c, spessore, stile, Qt::RoundCap, Qt::RoundJoin));
 }
 
-static void Riempi(Foglio& f, const QPainterPath& forma, const QColor& c) {
+static void Riempi(FoglioPittura& f, const QPainterPath& forma, const QColor& c) {
   f.p.setBrush(c);
   f.p.drawPath(f.v.map(forma));
   f.p.setBrush(Qt::NoBrush);
 }
 
-static void Rettangolo(Foglio& f, double x, double y, double l, double h, const QColor& c) {
+static void Rettangolo(FoglioPittura& f, double x, double y, double l, double h, const QColor& c) {
   QPainterPath r;
   r.addRect(x, y, l, h);
   Riempi(f, r, c);
 }
 
 // A text centred on a point, moved by pixels.
-static void Scritta(Foglio& f, double x, double y, const QString& t, double dx = 0, double dy = 0) {
+static void Scritta(FoglioPittura& f, double x, double y, const QString& t, double dx = 0, double dy = 0) {
   const QPointF c = f.v.map(QPointF(x, y)) + QPointF(dx, dy);
   f.p.drawText(QRectF(c.x() - 100, c.y() - 20, 200, 40), Qt::AlignCenter, t);
 }
 
-static void Punta(Foglio& f, const QPointF& dove, const QPointF& verso) {
+static void Punta(FoglioPittura& f, const QPointF& dove, const QPointF& verso) {
   const double l = std::hypot(verso.x(), verso.y());
   if (l < 1) return;
   const QPointF u = verso / l, n(-u.y(), u.x());
@@ -60,7 +60,7 @@ static void Punta(Foglio& f, const QPointF& dove, const QPointF& verso) {
 }
 
 // A measure between two points of the same abscissa or ordinate, its name beside the line. A short one has its arrows outside.
-static void Quota(Foglio& f, double x1, double y1, double x2, double y2, const QString& nome) {
+static void Quota(FoglioPittura& f, double x1, double y1, double x2, double y2, const QString& nome) {
   Penna(f, f.quota, 1);
   const QPointF a = f.v.map(QPointF(x1, y1)), b = f.v.map(QPointF(x2, y2));
   const double l = std::hypot(b.x() - a.x(), b.y() - a.y());
@@ -73,7 +73,7 @@ static void Quota(Foglio& f, double x1, double y1, double x2, double y2, const Q
   else Scritta(f, x1, (y1 + y2) / 2, nome, larga / 2 + 6, 0);
 }
 
-static void Riferimento(Foglio& f, double x1, double y1, double x2, double y2) {
+static void Riferimento(FoglioPittura& f, double x1, double y1, double x2, double y2) {
   QColor c = f.quota;
   c.setAlpha(130);
   Penna(f, c, 1, Qt::DotLine);
@@ -106,7 +106,7 @@ static QPainterPath Profilo(double x, double y, double h, double b, double a, do
   return s;
 }
 
-static void Tipologia(Foglio& f, bool nervature) {
+static void Tipologia(FoglioPittura& f, bool nervature) {
   Penna(f, f.linea);
   Rettangolo(f, 110, 110, 1220, 1220, f.piastra);
   if (nervature) {
@@ -116,11 +116,11 @@ static void Tipologia(Foglio& f, bool nervature) {
   }
   Riempi(f, Profilo(720, 720, 500, 370, 50, 60, 50), f.ferro);
 }
-static void Tipo1(Foglio& f) { Tipologia(f, false); }
-static void Tipo2(Foglio& f) { Tipologia(f, true); }
+static void Tipo1(FoglioPittura& f) { Tipologia(f, false); }
+static void Tipo2(FoglioPittura& f) { Tipologia(f, true); }
 
 // Y points up and Z to the right, as on the plan.
-static void Assi(Foglio& f, double x, double y, double l) {
+static void Assi(FoglioPittura& f, double x, double y, double l) {
   Penna(f, f.quota, 1);
   Linea(f, x, y, x + l, y);
   Linea(f, x, y, x, y - l);
@@ -131,7 +131,7 @@ static void Assi(Foglio& f, double x, double y, double l) {
 }
 
 // Anchors stand at 685, 1511 and 361, 1187: the circles are the program's strokes.
-static void SchemaTirafondi(Foglio& f) {
+static void SchemaTirafondi(FoglioPittura& f) {
   Penna(f, f.linea);
   Rettangolo(f, 505, 181, 1186, 1186, f.piastra);
   Riempi(f, Profilo(1098, 774, 480, 380, 50, 60, 50), f.ferro);
@@ -146,7 +146,7 @@ static void SchemaTirafondi(Foglio& f) {
   Assi(f, 150, 1400, 260);
 }
 
-static void SchemaPiastra(Foglio& f) {
+static void SchemaPiastra(FoglioPittura& f) {
   Penna(f, f.linea);
   Rettangolo(f, 300, 260, 1000, 1000, f.piastra);
   Riempi(f, Profilo(800, 760, 480, 400, 50, 60, 50), f.ferro);
@@ -160,7 +160,7 @@ static void SchemaPiastra(Foglio& f) {
   Assi(f, 1610, 1400, 130);
 }
 
-static void SchemaSezione(Foglio& f) {
+static void SchemaSezione(FoglioPittura& f) {
   Penna(f, f.linea);
   Riempi(f, Profilo(500, 560, 800, 620, 70, 100, 110), f.ferro);
   for (const double y : {160.0, 960.0}) Riferimento(f, 810, y, 990, y);
@@ -178,7 +178,7 @@ static void SchemaSezione(Foglio& f) {
 
 // ---- rods ----
 
-static void Fondazione(Foglio& f, double fondo) {
+static void Fondazione(FoglioPittura& f, double fondo) {
   QColor cemento = f.quota;
   cemento.setAlpha(28);
   f.p.setPen(Qt::NoPen);
@@ -188,12 +188,12 @@ static void Fondazione(Foglio& f, double fondo) {
   Rettangolo(f, 200, 255, 600, 40, f.piastra);               // base plate, on its mortar
 }
 
-static void Dadi(Foglio& f, double x) {
+static void Dadi(FoglioPittura& f, double x) {
   for (const double y : {185.0, 220.0, 295.0}) Rettangolo(f, x - 55, y, 110, 35, f.ferro);
 }
 
 // Form 0: the straight rod with its square plate.
-static void TirafondoPiastra(Foglio& f) {
+static void TirafondoPiastra(FoglioPittura& f) {
   Fondazione(f, 1340);
   Penna(f, f.linea);
   Rettangolo(f, 475, 90, 50, 1110, f.ferro);
@@ -213,7 +213,7 @@ static void TirafondoPiastra(Foglio& f) {
 }
 
 // Form 1: the hooked rod, which bends to the left.
-static void TirafondoUncino(Foglio& f) {
+static void TirafondoUncino(FoglioPittura& f) {
   Fondazione(f, 1260);
   Penna(f, f.linea);
   QPainterPath asta;
@@ -242,20 +242,20 @@ static void TirafondoUncino(Foglio& f) {
 
 // ---- line samples ----
 
-static void Campione(Foglio& f, Qt::PenStyle stile) {
+static void Campione(FoglioPittura& f, Qt::PenStyle stile) {
   Penna(f, f.linea, 2, stile);
   Linea(f, 0, 5, 100, 5);
 }
-static void Linea0(Foglio& f) { Campione(f, Qt::SolidLine); }
-static void Linea1(Foglio& f) { Campione(f, Qt::DashLine); }
-static void Linea2(Foglio& f) { Campione(f, Qt::DotLine); }
-static void Linea3(Foglio& f) { Campione(f, Qt::DashDotLine); }
-static void Linea4(Foglio& f) { Campione(f, Qt::DashDotDotLine); }
+static void Linea0(FoglioPittura& f) { Campione(f, Qt::SolidLine); }
+static void Linea1(FoglioPittura& f) { Campione(f, Qt::DashLine); }
+static void Linea2(FoglioPittura& f) { Campione(f, Qt::DotLine); }
+static void Linea3(FoglioPittura& f) { Campione(f, Qt::DashDotLine); }
+static void Linea4(FoglioPittura& f) { Campione(f, Qt::DashDotDotLine); }
 
 struct RigaPittura {
   const char* nome;
   QRectF riquadro;
-  void (*dipingi)(Foglio& f);
+  void (*dipingi)(FoglioPittura& f);
 };
 static const RigaPittura PITTURE[] = {
   { "tipo1",     QRectF(0, 0, 1440, 1440),   Tipo1 },
@@ -277,7 +277,7 @@ void DipingiPittura(QPainter& p, const QString& nome, const QWidget& w, const QR
   const bool scuro = qGray(c.color(QPalette::Window).rgb()) < 128;
   for (const RigaPittura& r : PITTURE) {
     if (nome != QLatin1String(r.nome)) continue;
-    Foglio f{p, VistaSu(r.riquadro, posto), c.color(QPalette::WindowText), scuro ? QColor(120, 190, 255) : QColor(20, 80, 150),
+    FoglioPittura f{p, VistaSu(r.riquadro, posto), c.color(QPalette::WindowText), scuro ? QColor(120, 190, 255) : QColor(20, 80, 150),
              scuro ? QColor(82, 116, 156) : QColor(176, 196, 216), scuro ? QColor(88, 94, 102) : QColor(236, 238, 240), QColor(192, 0, 0)};
     if (!w.isEnabled()) p.setOpacity(0.45);
     p.save();
