@@ -172,11 +172,11 @@ TEST_F(Dxf, Angoli) {
 }
 
 TEST_F(Dxf, TestiComeLinee) {
-  font.FontN['I'] = 2;
-  font.FontX['I'][0] = font.FontX['I'][1] = 10;
-  font.FontY['I'][0] = 99;
-  font.FontY['I'][1] = 30;
-  font.FontN['!'] = -1;
+  font.FontN[int{'I'}] = 2;
+  font.FontX[int{'I'}][0] = font.FontX[int{'I'}][1] = 10;
+  font.FontY[int{'I'}][0] = 99;
+  font.FontY[int{'I'}][1] = 30;
+  font.FontN[int{'!'}] = -1;
   DisTesto("I!I", 100, 0, 0, 99, 69, std::int16_t{3});
   DisTesto("I", 0, 0, 0, 99, 69, std::int16_t{1});
   EXPECT_TRUE(SalvaDxf(nome, 1, 0, 0, 0, 1));

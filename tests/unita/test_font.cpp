@@ -34,44 +34,44 @@ TEST_F(Carattere, MancanteSenzaGlifi) {
 TEST_F(Carattere, GlifoDiUnSegmento) {
   ASSERT_TRUE(Leggi("15\r\nI45994530\r\n"));
   EXPECT_EQ(font.FontStretta, 15);
-  EXPECT_EQ(font.FontN['I'], 2);
-  EXPECT_EQ(font.FontCar['I'], 'I');
-  EXPECT_EQ(font.FontX['I'][0], 45);
-  EXPECT_EQ(font.FontY['I'][0], 99);
-  EXPECT_EQ(font.FontX['I'][1], 45);
-  EXPECT_EQ(font.FontY['I'][1], 30);
-  EXPECT_EQ(font.FontN['J'], -1);
+  EXPECT_EQ(font.FontN[int{'I'}], 2);
+  EXPECT_EQ(font.FontCar[int{'I'}], 'I');
+  EXPECT_EQ(font.FontX[int{'I'}][0], 45);
+  EXPECT_EQ(font.FontY[int{'I'}][0], 99);
+  EXPECT_EQ(font.FontX[int{'I'}][1], 45);
+  EXPECT_EQ(font.FontY[int{'I'}][1], 30);
+  EXPECT_EQ(font.FontN[int{'J'}], -1);
 }
 
 // 2 round((length - 1) / 8), ties to even: 4 -> 0.5 -> 0 points, 12 -> 1.5 -> 4, 20 -> 2.5 -> 4, 16 -> 2 -> 4.
 TEST_F(Carattere, NumeroPuntiArrotondatoAlPari) {
   ASSERT_TRUE(Leggi("0\r\nA" + std::string(4, '1') + "\r\nB" + std::string(12, '1') + "\r\nC" + std::string(20, '1') + "\r\nD" + std::string(16, '1') + "\r\n"));
-  EXPECT_EQ(font.FontN['A'], 0);
-  EXPECT_EQ(font.FontN['B'], 4);
-  EXPECT_EQ(font.FontX['B'][3], 0);            // beyond the text: no number, 0
-  EXPECT_EQ(font.FontN['C'], 4);
-  EXPECT_EQ(font.FontN['D'], 4);
+  EXPECT_EQ(font.FontN[int{'A'}], 0);
+  EXPECT_EQ(font.FontN[int{'B'}], 4);
+  EXPECT_EQ(font.FontX[int{'B'}][3], 0);            // beyond the text: no number, 0
+  EXPECT_EQ(font.FontN[int{'C'}], 4);
+  EXPECT_EQ(font.FontN[int{'D'}], 4);
 }
 
 TEST_F(Carattere, SpaziFinaliNonContanoESpazioHaZeroPunti) {
   ASSERT_TRUE(Leggi("0\r\nA 1 2 3 4      \r\n \r\n"));
-  EXPECT_EQ(font.FontN['A'], 2);
-  EXPECT_EQ(font.FontX['A'][0], 1);
-  EXPECT_EQ(font.FontY['A'][1], 4);
-  EXPECT_EQ(font.FontN[' '], 0);
+  EXPECT_EQ(font.FontN[int{'A'}], 2);
+  EXPECT_EQ(font.FontX[int{'A'}][0], 1);
+  EXPECT_EQ(font.FontY[int{'A'}][1], 4);
+  EXPECT_EQ(font.FontN[int{' '}], 0);
 }
 
 TEST_F(Carattere, CentoPuntiAlMassimo) {
   ASSERT_TRUE(Leggi("0\r\nA" + std::string(4 * 104, '7') + "\r\n"));
-  EXPECT_EQ(font.FontN['A'], 100);
-  EXPECT_EQ(font.FontX['A'][99], 77);
-  EXPECT_EQ(font.FontX['A'][100], 0);
+  EXPECT_EQ(font.FontN[int{'A'}], 100);
+  EXPECT_EQ(font.FontX[int{'A'}][99], 77);
+  EXPECT_EQ(font.FontX[int{'A'}][100], 0);
 }
 
 TEST_F(Carattere, RigheVuoteSaltateETestoSenzaNumeroZero) {
   ASSERT_TRUE(Leggi("0\r\n\r\nAxy99zz30\r\n"));
-  EXPECT_EQ(font.FontX['A'][0], 0);
-  EXPECT_EQ(font.FontY['A'][0], 99);
+  EXPECT_EQ(font.FontX[int{'A'}][0], 0);
+  EXPECT_EQ(font.FontY[int{'A'}][0], 99);
 }
 
 TEST_F(Carattere, CodiceAnsiDelleAccentate) {
@@ -81,7 +81,7 @@ TEST_F(Carattere, CodiceAnsiDelleAccentate) {
 
 TEST_F(Carattere, Codice255NonHaPosto) {
   EXPECT_FALSE(Leggi("0\r\nA11223344\r\n\xFF" "11223344\r\nB11223344\r\n"));
-  EXPECT_EQ(font.FontN['B'], 2);               // a failed step is skipped
+  EXPECT_EQ(font.FontN[int{'B'}], 2);               // a failed step is skipped
 }
 
 TEST_F(Carattere, FileVuotoFallisce) { EXPECT_FALSE(Leggi("")); }
