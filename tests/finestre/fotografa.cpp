@@ -11,6 +11,7 @@
 #include "panels/FormTF.h"
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"
+#include "panels/PropMateriali.h"
 #include "panels/Sez3D.h"
 #include "panels/pannelli.h"
 
@@ -68,7 +69,8 @@ int main(int argc, char** argv) {
   ScattaPagine(InsDati, *dynamic_cast<QTabWidget*>(LegameDi(insDati.SSTab)->oggetto));
   finestre.dentroModale = ScattaPannello;
   for (const Pannello* p : Pannelli())
-    if (p != &InsDati) ApriPannello(*p, true);
+    if (p == &PropMateriali) InsDati_PropMatButton(0);     // the command fills it
+    else if (p != &InsDati) ApriPannello(*p, true);
   principale.hide();
   return mancate == 0 ? 0 : 3;
 }
