@@ -135,6 +135,8 @@ TEST_F(Avvio, BarraFinaleDellaRadice) {
     EXPECT_EQ(suite.DirRoot, Minuscolo(radice));
     EXPECT_EQ(suite.DirProgra, Minuscolo(radice) + "\\progra");
   }
+  EXPECT_TRUE(TrovaPercorsi("|diroot=" + radice + "\\\\|"));
+  EXPECT_EQ(suite.DirRoot, Minuscolo(radice) + "\\");        // one is taken off, not more
   std::filesystem::remove(radice + "/Impostazioni/Lavoro");  // taken off by now
   Fallisce("|diroot=" + radice + "\\|", ERRORE + ("Errore: file " + Minuscolo(radice)) + "\\impostazioni\\lavoro errato o mancante");
   std::filesystem::remove(radice + "/Impostazioni/DirLav");  // still there

@@ -79,6 +79,31 @@ TEST(AvvioPannello, TablesFillTheLists) {
   EXPECT_TRUE(Finisce(materiali.FileMatBase, "\\custom\\MaterialiNTC08.tx1"));
 }
 
+// The method of a new run is allowable stresses: only grades that have both of them (first two numbers of their line) are offered, for
+// either role.
+TEST(AvvioPannello, TheSteelsOfferedAreThoseOfAllowableStresses) {
+  const std::string radice = PreparaSuite("avvio_acciai");
+  ScriviByte(radice + "/custom/MaterialiNTC08.tx1",
+             "ACCIAIO_DA_CARPENTERIA_SEZIONI_APERTE\r\n4\r\nuno\r\n\r\n1600 1400 2350 3600 2150 3600 1 1\r\ndue\r\n\r\n0 0 2350 3600 2150 3600 1 1\r\n"
+             "tre\r\n\r\n1600 1400 0 0 0 0 1 1\r\nquattro\r\n\r\n1600 0 2350 3600 2150 3600 1 1\r\n");
+  Avvia(radice);
+  EXPECT_EQ(insDati.Acc.voci, (Testi{"uno", "tre"}));
+  EXPECT_EQ(insDati.Cviti.voci, (Testi{"uno", "tre"}));
+}
+
+// The table of the concretes ends at entry 50, whatever the count.
+TEST(AvvioPannello, FiftyConcretesAreOffered) {
+  const std::string radice = PreparaSuite("avvio_classi");
+  std::string catalogo = "CALCESTRUZZI\r\n52\r\n";
+  for (int n = 1; n <= 52; n++) catalogo += "C" + std::to_string(n) + "\r\n300 15E-1\r\n";
+  ScriviByte(radice + "/custom/MaterialiNTC08.tx1", catalogo);
+  Avvia(radice);
+  EXPECT_EQ(materiali.NumCls, 52);
+  ASSERT_EQ(insDati.ComboCalcestruzzo.voci.size(), 50u);
+  EXPECT_EQ(insDati.ComboCalcestruzzo.voci[0], "C1");
+  EXPECT_EQ(insDati.ComboCalcestruzzo.voci[49], "C50");
+}
+
 TEST(AvvioPannello, TypologyPictures) {
   ASSERT_TRUE(Avvia(PreparaSuite("avvio_figure")));
   const double x[2][4] = {{301, 1139, 301, 1139}, {685, 1511, 685, 1511}};
@@ -361,6 +386,23 @@ TEST_F(AzzeramentoInMemoria, ResetBringsBackWhatWasChangedButNotTheMethod) {
   EXPECT_EQ(nodo.NTir, 4);
   EXPECT_EQ(nodo.NumSaldature, 0);
   EXPECT_TRUE(disegno.DestDis.empty());
+}
+
+// The anchor's form and measures are set whatever they were; the diameter is the one that row 7 of the table holds.
+TEST_F(AzzeramentoInMemoria, ResetBringsBackTheAnchor) {
+  nodo.TipoTirafondo = 1;
+  nodo.TfDiamIdx = 3;
+  nodo.TfFi = nodo.TfR = nodo.TfL1 = nodo.TfL = nodo.TfLFt = nodo.TfLF = nodo.TfDForo = nodo.TfHMalta = nodo.TfDistBordo = 1;
+  suite.DiamVal[6] = 21;
+  AzzeraNodo();
+  EXPECT_EQ(nodo.TipoTirafondo, 0);
+  EXPECT_EQ(nodo.TfDiamIdx, 7);
+  EXPECT_EQ(nodo.TfFi, 21);
+  EXPECT_EQ(nodo.TfDForo, 100);
+  EXPECT_EQ(nodo.TfHMalta, 50);
+  EXPECT_EQ(nodo.TfDistBordo, 200);
+  const char* etichette[] = {"120", "500", "70", "450", "10", "21"};   // TfLFt, TfL, TfR, TfL1, TfLF, TfFi
+  for (int i = 0; i < 6; i++) EXPECT_EQ(insDati.TFLab[i].testo, etichette[i]);
 }
 
 TEST_F(AzzeramentoInMemoria, ResetShowsTheFirstSteelAndTheThirdConcrete) {

@@ -64,10 +64,14 @@ TEST_F(Copione, RigheRifiutate) {
     "scegli InsDati.ChSI 1",
     "spunta InsDati.ChSI",
     "spunta InsDati.ChSI 2",
+    "spunta InsDati.ChSI -1",
+    "spunta InsDati.CheckMatBase 0",        // ticking is pressing; there is nothing to untick
     "spunta InsDati.CasCar(0) 1",
     "spunta InsDati.Verifica 1",
     "scorri InsDati.ScrollSa 3",
     "scorri InsDati.LatoTxt(4) 3",
+    "scorri InsDati.ComboEsposizione 1",
+    "scorri InsDati.ChSI 1",
     "doppioclic InsDati.Lsa(0)",
     "passa InsDati.LatoTxt(0)",
     "passa Op_Nodo",
@@ -145,6 +149,16 @@ TEST_F(Copione, TrattiDiUnImmagine) {
 TEST_F(Copione, ListaSenzaScelta) {
   MostraScelta(insDati.TraveP, -1);
   EXPECT_EQ(Stampa("mostra InsDati.TraveP"), "InsDati.TraveP = -1 \"\"\n");
+}
+
+// What is hidden and disabled says both, in this order.
+TEST_F(Copione, NascostoEDisabilitato) {
+  MostraVisibile(insDati.GolaTxt, false);
+  EXPECT_EQ(Stampa("mostra InsDati.GolaTxt"), "InsDati.GolaTxt = 7 [nascosto]\n");
+  MostraAbilitato(insDati.GolaTxt, false);
+  EXPECT_EQ(Stampa("mostra InsDati.GolaTxt"), "InsDati.GolaTxt = 7 [nascosto] [disabilitato]\n");
+  MostraVisibile(insDati.GolaTxt, true);
+  EXPECT_EQ(Stampa("mostra InsDati.GolaTxt"), "InsDati.GolaTxt = 7 [disabilitato]\n");
 }
 
 // The entry of a text: as written first, then without regard to case.

@@ -192,6 +192,7 @@ TEST_F(FileNodo, SenzaNervatureRestanoQuelleDiPrima) {
   r.erase(r.begin() + 11, r.begin() + 14);
   nodo.HNerv = 33;
   nodo.SpNerv = 4;
+  ImpostaScelta(insDati.ChSI, 1);
   CaricaByte(lavoro + "x.qb7", Unisci(r));
   EXPECT_FALSE(esitoFile.fallito);
   EXPECT_EQ(VoceScelta(insDati.Op_Tip[0]), 0);
@@ -199,6 +200,8 @@ TEST_F(FileNodo, SenzaNervatureRestanoQuelleDiPrima) {
   EXPECT_FALSE(insDati.HFazzTxt[0].abilitato);
   EXPECT_EQ(nodo.HNerv, 33);
   EXPECT_EQ(nodo.SpNerv, 4);
+  EXPECT_EQ(nodo.SaldInt, 1);
+  EXPECT_EQ(insDati.ChSI.scelta, 1);
   EXPECT_EQ(insDati.GolaTxt.testo, "6");
   r[9] = " 3 ";                                    // another typology has no rib lines either and ends as 1
   CaricaByte(lavoro + "x.qb7", Unisci(r));

@@ -8,10 +8,12 @@
 #include <chrono>
 #include <thread>
 
+#include "app/batch/disegno.h"
 #include "app/batch/opzioni.h"
 #include "app/batch/piattaforma_batch.h"
 #include "app/batch/processi.h"
 #include "corredo/registratore.h"
+#include "corredo/suite_prova.h"
 
 static const StatoOspite OSPITE_VUOTO;
 
@@ -125,6 +127,32 @@ TEST(Processi, NessunoResta) {
   errno = 0;
   EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);                      // no child left, not even one that ended
   EXPECT_EQ(errno, ECHILD);
+}
+
+// --- drawing ----------------------------------------------------------------------------------------------------------------------
+
+// The extension is what stands behind the last point of the last component; case does not matter.
+TEST(DisegnoOspite, FormatiAmmessi) {
+  for (const char* uscita : {"a.dis", "a.DXF", "/x/y.Grb", "a.b.svg", "cartella.altro/a.dis", "c:\\x.y\\a.dxf"}) EXPECT_TRUE(FormatoAmmesso(uscita)) << uscita;
+  for (const char* uscita : {"", "a", "dis", "a.", "a.dwg", "a.disx", "a.svgz", "a.dis.txt", "a.di", "cartella.dis/a", "c:\\x.dxf\\a"})
+    EXPECT_FALSE(FormatoAmmesso(uscita)) << uscita;
+}
+
+// Written: 0. Not written, in any of the formats, and a node not loaded: 2, and nothing is drawn.
+TEST(DisegnoOspite, Stato) {
+  const std::string radice = PreparaSuite("disegno_ospite"), nodo = CartellaLavoro(radice) + "pilastro_A1.qb7";
+  ospite = OSPITE_VUOTO;
+  ASSERT_TRUE(AvviaSuite(radice));
+  MontaPiattaforma();
+  testing::internal::CaptureStdout();
+  for (const char* tipo : {".dis", ".dxf", ".grb", ".svg"}) {
+    EXPECT_EQ(DisegnaNodo(nodo, radice + "/uscita" + tipo), 0) << tipo;
+    EXPECT_NE(LeggiByte(radice + "/uscita" + tipo), "") << tipo;
+    EXPECT_EQ(DisegnaNodo(nodo, radice + "/manca/uscita" + tipo), 2) << tipo;
+    EXPECT_EQ(DisegnaNodo(radice + "/manca.qb7", radice + "/senza" + tipo), 2) << tipo;
+    EXPECT_EQ(LeggiByte(radice + "/senza" + tipo), "") << tipo;
+  }
+  testing::internal::GetCapturedStdout();
 }
 
 // --- platform ---------------------------------------------------------------------------------------------------------------------

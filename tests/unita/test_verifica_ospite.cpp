@@ -96,6 +96,22 @@ TEST_F(VerificaOspite, SenzaSestetti) {
   EXPECT_EQ(Verifica({Nodo("vuoto")}, 1), "0|vuoto.qb7: verificato");
 }
 
+// The option's method is chosen after the load, whatever the file says: montante_C1 says TA (0), pilastro_A1 says SLU (1).
+TEST_F(VerificaOspite, IlMetodoDellOpzioneVinceSuQuelloDelFile) {
+  const auto relazioni = [&](const char* nome) {
+    const std::string cartella = CartellaLavoro(radice), coda = std::string("_QB07_") + nome + ".txt";
+    return std::string(LeggiByte(cartella + "RelTA" + coda).empty() ? "" : "TA") + (LeggiByte(cartella + "RelSLU" + coda).empty() ? "" : "SLU");
+  };
+  ospite.opzioni.metodo = 1;
+  Verifica({Nodo("montante_C1"), Nodo("pilastro_A1")}, 1);
+  EXPECT_EQ(relazioni("montante_C1"), "SLU");
+  EXPECT_EQ(relazioni("pilastro_A1"), "SLU");
+  ospite.opzioni.metodo = 0;
+  Verifica({Nodo("montante_C1"), Nodo("pilastro_A1")}, 1);
+  EXPECT_EQ(relazioni("montante_C1"), "TASLU");
+  EXPECT_EQ(relazioni("pilastro_A1"), "TASLU");
+}
+
 // What one node leaves behind - rows of ribs, welds, grades remembered for the other method, the anchors' form - counts for none.
 TEST_F(VerificaOspite, LOrdineNonCambiaNulla) {
   const std::vector<std::string> nomi = {"pilastro_B1", "colonna_H1", "montante_C1", "pilastro_A2", "tirante_G1", "esistente_1998"};
