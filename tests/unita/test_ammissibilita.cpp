@@ -2,6 +2,7 @@
 // M20 at 50 mm from each edge, holes of 100 mm, grout 50 mm, 120 mm out of the footing.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 
 #include "corredo/nodo_prova.h"
@@ -78,6 +79,27 @@ TEST_F(ControlliTest, Tirafondo) {
   EXPECT_EQ(Dopo([] { nodo.TfHMalta = 0; })[0], Domanda(T6));              // 0 - 20 < 120 - 100
 }
 
+TEST_F(ControlliTest, LimitiDeiPositivi) {             // the bound is zero itself: above it, or at it, by a hair
+  const auto conta = [&](double Nodo::* campo, double valore, const char* testo) {
+    const Eventi e = Dopo([&] { nodo.*campo = valore; });
+    return std::count(e.begin(), e.end(), Domanda(testo));
+  };
+  for (double Nodo::* campo : { &Nodo::SpessPiastra, &Nodo::LatoZ, &Nodo::LatoY }) {
+    EXPECT_EQ(conta(campo, 0.001, T2), 0);
+    EXPECT_EQ(conta(campo, 0, T2), 1);
+    EXPECT_EQ(conta(campo, -1, T2), 1);
+  }
+  for (double Nodo::* campo : { &Nodo::TfL, &Nodo::TfLFt, &Nodo::TfFi, &Nodo::TfDForo }) {
+    EXPECT_EQ(conta(campo, 0.001, T3), 0);
+    EXPECT_EQ(conta(campo, 0, T3), 1);
+    EXPECT_EQ(conta(campo, -1, T3), 1);
+  }
+  for (double Nodo::* campo : { &Nodo::TfL1, &Nodo::TfR, &Nodo::TfHMalta, &Nodo::TfLF }) {
+    EXPECT_EQ(conta(campo, 0, T3), 0);
+    EXPECT_EQ(conta(campo, -0.001, T3), 1);
+  }
+}
+
 TEST_F(ControlliTest, ForiSovrapposti) {
   // Pattern by pattern the holes that touch pass, a tenth of a millimetre more does not. Spacing along Z 300, along Y 400.
   struct Riga { int schema; double foro; bool passa; };
@@ -109,6 +131,7 @@ TEST_F(ControlliTest, ForiSovrapposti) {
   // Two pairs at fault: one box. Without holes in the footing none, wherever the anchors stand.
   EXPECT_EQ(Dopo([] { nodo.TfDForo = 500; nodo.TfLFt = 520; }), Eventi{ Domanda(T4) });
   EXPECT_EQ(Dopo([] { nodo.TfDForo = 500; nodo.TfLFt = 520; nodo.TfLF = 0; }), Eventi{});
+  EXPECT_EQ(Dopo([] { nodo.TfDForo = 500; nodo.TfLFt = 520; nodo.TfLF = 0.001; }), Eventi{ Domanda(T4) });
 }
 
 TEST_F(ControlliTest, AltezzeEFori) {                 // the bounds: 5 >, 6 <, 7 <=, 8 <=
@@ -138,6 +161,31 @@ TEST_F(ControlliTest, OrdineERifiuto) {
   EXPECT_EQ(Dopo([&] { guasta(); registratore.risposte = { false }; }), (Eventi{ Domanda(T1, "Annulla"), Avviso(T9), Avviso(T10) }));
   EXPECT_EQ(Dopo([] { nodo.SpessPiastra = 0; registratore.risposte = { false }; }), Eventi{ Domanda(T2, "Annulla") });
   EXPECT_FALSE(esito);
+}
+
+TEST_F(ControlliTest, TuttiEDieciInOrdine) {
+  // Column wider than the plate, no thickness, R below zero, rods and holes of 500 mm 300 mm apart: 50 + 0 + 1000 > 120,
+  // 50 - 500 < 120 - 500, 500 <= 500, 50 <= 500; anchor 1 off the plate. Each Cancel stops the questions behind it, not the notices.
+  const auto guasta = [] {
+    nodo.Sezione.B = 401;
+    nodo.SpessPiastra = 0;
+    nodo.TfR = -1;
+    nodo.TfFi = nodo.TfDForo = 500;
+    nodo.TfZ[1] = -1;
+  };
+  const char* const TESTI[] = { T1, T2, T3, T4, T5, T6, T7, T8 };
+  for (int rifiutata = 0; rifiutata <= 8; ++rifiutata) {           // 8: none
+    Eventi attesi;
+    std::vector<bool> risposte;
+    for (int k = 0; k < 8 && k <= rifiutata; ++k) {
+      risposte.push_back(k != rifiutata);
+      attesi.push_back(Domanda(TESTI[k], k != rifiutata ? "OK" : "Annulla"));
+    }
+    attesi.push_back(Avviso(T9));
+    attesi.push_back(Avviso(T10));
+    EXPECT_EQ(Dopo([&] { guasta(); for (const bool r : risposte) registratore.risposte.push_back(r); }), attesi) << rifiutata;
+    EXPECT_FALSE(esito);
+  }
 }
 
 TEST_F(ControlliTest, FuoriDallaPiastra) {
@@ -171,7 +219,8 @@ TEST_F(ControlliTest, ZoneDAngolo) {
   EXPECT_EQ(Dopo([] { nodo.TipoNodo = 2; nodo.TfZ[1] = 80; nodo.TfZ[2] = 320; nodo.TfY[1] = 145; nodo.TfY[4] = 355; }), Eventi{});
   EXPECT_EQ(Dopo([] { nodo.TipoNodo = 2; nodo.TfZ[1] = 80.1; }), Eventi{ Avviso(T10) });
   EXPECT_EQ(Dopo([] { nodo.TipoNodo = 2; nodo.TfZ[2] = 319.9; }), Eventi{ Avviso(T10) });
-  EXPECT_EQ(Dopo([] { nodo.TipoNodo = 5; nodo.TfZ[1] = 80.1; }), Eventi{ Avviso(T10) });
+  for (const std::int16_t tipo : { std::int16_t(0), std::int16_t(5) })
+    EXPECT_EQ(Dopo([&] { nodo.TipoNodo = tipo; nodo.TfZ[1] = 80.1; }), Eventi{ Avviso(T10) }) << tipo;
 }
 
 TEST_F(ControlliTest, BordoCNR) {                     // 2 x 20 = 40 <= D <= 6 x 20 = 120

@@ -9,6 +9,7 @@
 #include <functional>
 
 #include "corredo/nodo_prova.h"
+#include "engine/Piastra.h"
 #include "engine/PresInfl.h"
 #include "engine/Saldature.h"
 #include "reports/Relazioni.h"
@@ -59,6 +60,17 @@ TEST_F(CalcoliTest, CostantiPerMetodo) {
   EXPECT_NEAR(ris.FtRd, 0.9 * 3600 * 353 / 100 / 1.25, 1e-9);
   EXPECT_NEAR(nodo.MatCls.TauCls, 0.28 * std::sqrt(16.6), 1e-12);
   EXPECT_EQ(nodo.MatCls.SAmm, 5);                      // allowable stresses only
+}
+
+TEST_F(CalcoliTest, AreaPrimaDelleResistenze) {         // the cap of the bond by limit states: this run's area, 353, not the one before
+  nodo.TipoVer = 1;
+  nodo.TipoTirafondo = 1;
+  nodo.NumSoll = 0;
+  ASSERT_TRUE(CalcolaTabelle());
+  EXPECT_NEAR(ris.TadRd, 7056, 1e-9);                  // 245 / 100 x 3600 / 1.25
+  nodo.TfFi = 24;
+  ASSERT_TRUE(CalcolaTabelle());
+  EXPECT_NEAR(ris.TadRd, 10166.4, 1e-9);               // 353 / 100 x 3600 / 1.25
 }
 
 TEST_F(CalcoliTest, MomentiPerDieci) {                 // daN cm to daN mm; forces as stored
@@ -137,10 +149,13 @@ TEST_F(CalcoliTest, TipologiaConNervature) {
   EXPECT_GT(ris.SMaxPiastra[1], 0);
   EXPECT_NE(ris.Saldature[28].SPrp[1][1], 0);
   EXPECT_NE(ris.Saldature[38].TauPa[1][1], 0);
-  // Weld 29: the share of the column replaced what the cuts had put there.
-  const double diretto = ris.Saldature[29].TauPa[1][1];
+  // Welds 29, 31, 36, 38: the share of the column replaced what the cuts had put there.
+  constexpr int COLONNA[] = { 29, 31, 36, 38 };
+  double dirette[4], minima = 0;
+  for (int n = 0; n < 4; ++n) minima = std::min(minima, dirette[n] = ris.Saldature[COLONNA[n]].TauPa[1][1]);
+  EXPECT_LT(minima, 0);                                // which a shear of the cuts, raised only, never is
   TensioniSaldatureColonna(1);
-  EXPECT_EQ(ris.Saldature[29].TauPa[1][1], diretto);
+  for (int n = 0; n < 4; ++n) EXPECT_EQ(ris.Saldature[COLONNA[n]].TauPa[1][1], dirette[n]) << COLONNA[n];
   nodo.SaldInt = 1;
   ASSERT_TRUE(CalcolaTabelle());
   EXPECT_EQ(nodo.NumSaldature, 44);
@@ -154,7 +169,25 @@ TEST_F(CalcoliTest, PiastraNervataPrendeLaMaggiore) {  // the strips' stresses r
   double massima = 0;
   for (int d = 1; d <= 2; ++d)
     for (int i = 1; i <= 6; ++i) massima = std::max(massima, ris.SPiastraTir[1][d][i]);
+  EXPECT_GT(massima, 0);
   EXPECT_GE(ris.SMaxPiastra[1], massima);
+  // The strips' own stresses, with the arms of this run's anchors.
+  double tabella[2 + 1][MaxTir + 1];
+  for (int d = 1; d <= 2; ++d) std::copy(std::begin(ris.SPiastraTir[1][d]), std::end(ris.SPiastraTir[1][d]), tabella[d]);
+  PiastraConNervature(1, verifica.ArmZ, verifica.ArmY);
+  for (int d = 1; d <= 2; ++d)
+    for (int i = 1; i <= 6; ++i) EXPECT_EQ(tabella[d][i], ris.SPiastraTir[1][d][i]) << d << ' ' << i;
+  // Pulled, with ribs so high that the cuts stress the plate little: the strips govern.
+  Prepara();
+  nodo.TipoNodo = 2;
+  nodo.HNerv = 800;
+  SchemaProva(2);
+  nodo.SollN[1] = 100000;
+  ASSERT_TRUE(CalcolaTabelle());
+  massima = 0;
+  for (int d = 1; d <= 2; ++d)
+    for (int i = 1; i <= 6; ++i) massima = std::max(massima, ris.SPiastraTir[1][d][i]);
+  EXPECT_EQ(ris.SMaxPiastra[1], massima);
   // Four anchors: what an earlier verification left still counts, in both directions and for each anchor there is.
   SchemaProva(0);
   for (int d = 1; d <= 2; ++d)
@@ -168,13 +201,16 @@ TEST_F(CalcoliTest, PiastraNervataPrendeLaMaggiore) {  // the strips' stresses r
 }
 
 TEST_F(CalcoliTest, AltraTipologia) {
-  nodo.TipoNodo = 3;
-  ASSERT_TRUE(CalcolaTabelle());
-  EXPECT_EQ(nodo.NumSaldature, 8);
-  EXPECT_EQ(ris.SMaxPiastra[1], 0);
-  EXPECT_EQ(ris.SNerv[1][1], 0);
-  EXPECT_EQ(ris.Saldature[1].SPrp[1][1], 0);
-  EXPECT_NE(ris.SigmaTir[1][1], 0);
+  for (const std::int16_t tipo : { std::int16_t(3), std::int16_t(0) }) {
+    Prepara();
+    nodo.TipoNodo = tipo;
+    ASSERT_TRUE(CalcolaTabelle());
+    EXPECT_EQ(nodo.NumSaldature, 8);
+    EXPECT_EQ(ris.SMaxPiastra[1], 0) << tipo;
+    EXPECT_EQ(ris.SNerv[1][1], 0);
+    EXPECT_EQ(ris.Saldature[1].SPrp[1][1], 0);
+    EXPECT_NE(ris.SigmaTir[1][1], 0);
+  }
 }
 
 TEST_F(CalcoliTest, SolutoreFallitoAlTerzo) {

@@ -103,6 +103,10 @@ TEST_F(NervatureTest, ZeroDentroLungoQ) {
   Confronta(AzioniSuPiastra(-30, 70, -100, 100), 0, 0, 0);
   Piano(1e-7, 0, -1e-5);                               // zero exactly at the end 100: a trapezium
   Confronta(AzioniSuPiastra(-30, 70, -100, 100), -3e-4 * 200 * 200 / 2 * 100, 3e-4 * 200 * 200 * 200 / 12 * 100, 0);
+  // Zero exactly at the first end, -64, in numbers without rounding: a = -2^-24, length 128.
+  const double a = -0x1p-24;
+  Piano(a, 0, 64 * a);
+  Confronta(AzioniSuPiastra(-30, 70, -64, 64), 3000 * a * 128 * 128 / 2 * 100, 3000 * a * 128 * 128 * 128 / 12 * 100, 0);
 }
 
 TEST_F(NervatureTest, ZeroDentroLungoP) {              // no change along q: closed along p, times |qb - qa|
@@ -213,6 +217,10 @@ TEST_F(NervatureTest, TorsioneTagli34) {
   ConfrontaTaglio({ 551350, 0, -12130, 500, true }, 1, 2);
   // Cut 2: mean -0.3465: V = -15592.5, M = 9112.5 + 701662.5 = 710775; T = -575, hole 86.25: + 80 (575 - 86.25) = 749875; V = -16570.
   ConfrontaTaglio({ 749875, 0, -16570, 500, true }, 5, 6);
+  // The plate takes the underside of cut 4, which bends less than cut 3 and twists more: Yg 46.42857, I 36288095, J 1866666.7;
+  // sigma 1518000 / I Yg = 1.94220, tau 267125 / J x 10 = 1.43103: 3.14891.
+  EXPECT_NEAR(ris.SMaxPiastra[1], AttesaSotto({ 1518000, 267125, -19450, 400, false }), 1e-9);
+  EXPECT_NEAR(ris.SMaxPiastra[1], 3.14891, 1e-5);
 }
 
 TEST_F(NervatureTest, SoloTrazione) {                  // no compression: anchors alone. T = 500, no hole.

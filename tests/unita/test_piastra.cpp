@@ -130,6 +130,16 @@ TEST_F(PiastraTest, NervataSchema3) {
   }
 }
 
+TEST_F(PiastraTest, NervataSchema3LarghezzaPropria) {  // the corners' strips along Y keep their own width, also beside a narrower one
+  // Anchor 5, 6 at 95 from the centre: Cy = 10, Bz = min(110, 10) + min(110, 155) = 120, By = min(100, 20) + min(20, 100) = 40 < 100.
+  // Corner: R = 18500 / (50^3/120 + 50^2 100/120) = 5.92, My = 100 (1000 - 5.92 / 6.92 x 1000).
+  Nervata(3);
+  nodo.TfY[5] = 345;
+  nodo.TfY[6] = 155;
+  ConNervature(1);
+  for (int i = 1; i <= 4; ++i) EXPECT_NEAR(ris.SPiastraTir[1][2][i], 6 * (100 * (1000 - 5.92 / 6.92 * 1000) / 100) / 400, 1e-9) << i;
+}
+
 TEST_F(PiastraTest, NervataSchema1NervaturaIntera) {   // anchors 5, 6: Cy = 95 - 20 = 75, against 85 of six anchors
   // R = (150^3 / 4800) / (50^3 / 360) = 703.125 / 347.2222 = 2.025; stress 1 = 6 (50 Tz / 120) / 400
   Nervata(1);

@@ -185,6 +185,43 @@ TEST_F(RelSLU, ArrotondamentiDellaGeometria) {
   EXPECT_EQ(Dopo(r, "MATERIALI", 1), "|Acciaio S 275 (FE 430)                   Calcestruzzo Calcestruzzo di prova con un nome lungo");
 }
 
+// A length of each kind with two decimals: one is shown. Area at 20.37 mm: 245 + (414.9369 - 400) x 108 / 176 = 254.1658.
+TEST_F(RelSLU, OgniLunghezzaConUnDecimale) {
+  nodo.LatoY = 500.26, nodo.SpessPiastra = 20.37, nodo.HNerv = 150.37, nodo.SpNerv = 8.28;
+  nodo.TfY[1] = 50.26, nodo.TfFi = 20.37, nodo.TfLFt = 120.26, nodo.TfL1 = 450.37, nodo.TfR = 70.28, ris.Saldature[1].Lung = 100.26;
+  const RigheFile r = Relazione();
+  EXPECT_EQ(r[12], "|1    |  400|500.3| 20.4");
+  EXPECT_EQ(r[13], "|2(Y) |500.3|150.4|  8.3");
+  EXPECT_EQ(r[14], "|3(Z) | 91.7|150.4|  8.3");                             // 100 - 8.28 = 91.72
+  EXPECT_EQ(r[20], "|1  |350| 50.3|20.4| 254.17 |3      |350|  460|20.4| 254.17");
+  EXPECT_EQ(Dopo(r, "|    l|  lft|   l1|    r", 1), "|  500|120.3|450.4| 70.3");
+  EXPECT_EQ(Dopo(r, TITOLI_LISTA, 1), "|S1   |  100.3|   7 |S3   |    103|   7");
+}
+
+// A unit that leaves three decimals and more in every column: 1 daN/cm2 = 0.0125. Stresses show two of them, forces (kN) three.
+TEST_F(RelSLU, OgniColonnaCoiSuoiDecimali) {
+  suite.FattTensioni = 0.0125;
+  Sestetti(1);
+  nodo.MatTir.Fyk = 6553.7;
+  ris.FvEd[1][1] = 123.4567, ris.FvRd = 7012.3456, ris.FbRd[1] = 12001.2345, ris.FtEd[1][1] = 234.5678;
+  ris.FtRd = 14112.7777, ris.BpRd = 30001.2345, ris.TadRd = 9500.6789;
+  ris.Saldature[1].SPrp[1][1] = 45.67, ris.Saldature[1].TauPa[1][1] = 56.71, ris.Saldature[1].TauPe[1][1] = 67.89;
+  ris.Saldature[5].Nome = "S5", ris.Saldature[5].Lung = 77;                // beyond NumSaldature: no row
+  ris.SMaxPiastra[1] = 1.2345, ris.SNerv[1][3] = 1.2345, ris.SNerv[1][5] = 0.5671, ris.SMaxCls[1] = 0.1049;
+  const RigheFile r = Relazione();
+  // 2619.0476: 32.7381; 2428.5714: 30.3571; 141.1: 1.76375; 6553.7 / 1.25: 65.537
+  EXPECT_EQ(Dopo(r, "MATERIALI", 3), "|32.74               |30.36               1.76                                    ");
+  EXPECT_EQ(Dopo(r, "|fd                                       ", 1), "|65.54               ");
+  EXPECT_EQ(Dopo(r, TITOLI_TIRAFONDI, 1), "|1  |  1.235| 70.123|120.012|  2.346|141.128|300.012| 95.007|   0|   0|   0|SI'");
+  // 0.570875, 0.708875, 0.848625; sqrt(9910.8251) = 99.5531: 1.2444; 113.56: 1.4195; 0.7 x 2750: 24.0625; 0.85 x 2750: 29.21875
+  EXPECT_EQ(Dopo(r, TITOLI_SALDATURE, 1), "|   S1| 0.57|    0.71|    0.85|    1.24|    1.42|   24.06|   29.22|SI'");
+  EXPECT_EQ(Dopo(r, TITOLI_SALDATURE, 5), "");
+  EXPECT_EQ(Dopo(r, TITOLI_PIASTRA, 1), "|   1.54|  32.74|SI'");            // 1.543125
+  EXPECT_EQ(Dopo(r, TITOLI_NERVATURE, 1), "|Z        |   1.54|  32.74|SI'");
+  EXPECT_EQ(Dopo(r, TITOLI_NERVATURE, 2), "|Y        |   0.71|  32.74|SI'");
+  EXPECT_EQ(Dopo(r, TITOLI_CLS, 1), "|   0.13|   1.76|SI'");                // 0.131125
+}
+
 TEST_F(RelSLU, ConteggiDispariNelleDueColonne) {
   nodo.NTir = 5, nodo.TfZ[5] = 200, nodo.TfY[5] = 250;
   Saldature(3);
@@ -234,6 +271,8 @@ TEST_F(RelSLU, SaldatureInterneConTrattini) {
   Saldature(18);                                         // 9 on the left with its values, 18 on the right
   r = Relazione();
   EXPECT_EQ(Dopo(r, TITOLI_LISTA, 9), "|S9   |    112|   7 |S18  |  125.5|   7");
+  nodo.SaldInt = -1;                                     // dashes with 0 only
+  EXPECT_EQ(Dopo(Relazione(), TITOLI_LISTA, 9), "|S9   |    112|   7 |S18  |  125.5|   7");
 
   SetUp();
   Saldature(10 + 8);
@@ -376,6 +415,7 @@ TEST_F(RelSLU, BetaDalNomeDellAcciaio) {
     {"S 235", 0.85, 1},       {"S 235 (FE 360)", 0.85, 1}, {"s235jr", 0.85, 1},   {"S 275", 0.7, 0.85},
     {"S 355 (FE 510)", 0.7, 0.85}, {"S 420", 0.62, 0.75},  {"S 450", 0.62, 0.75}, {"S 460 N", 0.62, 0.75},
     {"275 o 235", 0.85, 1},   {"460-355", 0.7, 0.85},      {"S 500", 0, 0},       {"", 0, 0},
+    {"S 23 27 35 42 45 46", 0, 0},                       // three digits, not two
   };
   for (const auto& c : casi) {
     nodo.MatAcc.Nome = c.nome;

@@ -311,6 +311,36 @@ TEST_F(RelTA, TiroMassimoConIDecimaliDelleTensioni) {
   EXPECT_EQ(Conta(r, "\t1\t0\t\t0\t0\t12.346\t\t0"), 1u);
 }
 
+// A unit that leaves three decimals and more in every column of stresses: 1 daN/cm2 = 0.0125. All are cut to two of them.
+TEST_F(RelTA, OgniTensioneCoiSuoiDecimali) {
+  suite.FattTensioni = 0.0125;
+  Sestetti(1);
+  nodo.MatAcc.SAmm = 1900.5, nodo.MatAcc.SAmm40 = 1700.7, nodo.MatCls.SAmm = 11.7, nodo.MatTir.Fyk = 6555;
+  ris.SigmaTir[1][1] = 1.2345, ris.TauTir[1][1] = 0.5671, ris.SRfTir[1][1] = 2.3457;
+  ris.Saldature[1].SPrp[1][1] = 0.4567, ris.Saldature[1].TauPa[1][1] = 0.5671, ris.Saldature[1].TauPe[1][1] = 0.6789;
+  ris.SMaxPiastra[1] = 1.2345, ris.SNerv[1][3] = 1.2345, ris.SNerv[1][5] = 0.5671, ris.SMaxCls[1] = 0.1049;
+  const RigheFile r = Relazione();
+  const std::string prima = "\tComb. car. I\t", seconda = "\tComb. car. II\t";
+  EXPECT_EQ(Conta(r, prima + "23.76\t\t21.26\t\t0.15"), 1u);        // 23.75625, 21.25875, 0.14625
+  EXPECT_EQ(Conta(r, seconda + "26.73\t\t23.92\t"), 1u);            // 2138.0625 and 1913.2875 daN/cm2: 26.7258, 23.9161
+  EXPECT_EQ(Conta(r, prima + "41.07"), 1u);                          // 6555 / 1.5 / 1.33 = 3285.7143: 41.0714
+  EXPECT_EQ(Conta(r, seconda + "46.21"), 1u);                        // x 1.125: 46.2054
+  // 3285.7: 41.07125; 3285.7 / 1.7320508 = 1897: 23.7125; bond 245 x 3285.7 / 100 = 8049.965 daN; 1900.5 x 2 = 3801: 47.5125
+  EXPECT_EQ(Conta(r, "\t\t41.07\t\t23.71\t\t80.5\t\t47.51"), 1u);
+  EXPECT_EQ(Conta(r, "\t1\t1.54\t\t0.71\t0\t0\t\t2.93"), 1u);       // 1.543125, 0.708875, 2.932125
+  EXPECT_EQ(Conta(r, "\tS1\t0.57\t0.71\t0.85\t0.07"), 1u);          // 0.570875, 0.708875, 0.848625; 99.553 / 0.7 / 1900.5
+  EXPECT_EQ(Conta(r, "\t\t1.54\t\t23.76"), 1u);
+  EXPECT_EQ(Conta(r, "\tZ\t1.54\t\t23.76"), 1u);
+  EXPECT_EQ(Conta(r, "\tY\t0.71\t\t23.76"), 1u);
+  EXPECT_EQ(Conta(r, "\t\t0.13\t\t0.15"), 1u);                       // 0.131125, 0.14625
+}
+
+TEST_F(RelTA, OgniClasseMaLaPrimaEII) {
+  Sestetti(2);
+  nodo.SollCC[1] = -1, nodo.SollCC[2] = 2;
+  EXPECT_EQ(Conta(Relazione(), "Combinazione di carico tipo II"), 2u);
+}
+
 TEST_F(RelTA, PiastraEFazzolettiOltre40mm) {
   Sestetti(1);
   nodo.SpessPiastra = 40, nodo.SpNerv = 40;

@@ -192,6 +192,16 @@ TEST_F(RelazioniComuni, FileCheNonSiApre) {
   EXPECT_FALSE(esitoRelazione.scritta);
 }
 
+// A device that takes no byte: the report could be opened, not written. A fault, and no viewer.
+TEST_F(RelazioniComuni, FileCheNonSiScrive) {
+  if (!std::filesystem::exists("/dev/full")) GTEST_SKIP();
+  std::filesystem::create_symlink("/dev/full", FileTA());
+  EXPECT_FALSE(RelazioneTA());
+  EXPECT_TRUE(FaultAritmetico());
+  EXPECT_TRUE(registratore.eventi.empty());
+  EXPECT_FALSE(esitoRelazione.scritta);
+}
+
 TEST_F(RelazioniComuni, LaRelazioneDiPrimaSiSostituisce) {
   ScriviByte(FileTA(), std::string(100000, 'x'));
   EXPECT_TRUE(RelazioneTA());

@@ -89,6 +89,10 @@ TEST_F(SaldatureTest, Direzioni) {
   EXPECT_DOUBLE_EQ(Direzione(3, 0, 1, 1), std::atan(0.5) + p / 2);
   EXPECT_DOUBLE_EQ(Direzione(0, 0, -2, 1), std::atan(0.5) + p / 2);       // the last branch is odd (deliberate)
   EXPECT_DOUBLE_EQ(Direzione(0, 0, -2, -1), std::atan(-0.5) - p / 2);
+  EXPECT_DOUBLE_EQ(Direzione(1, 2, 3, 5), std::atan(1.5));                // neither point on an axis
+  EXPECT_DOUBLE_EQ(Direzione(3, 1, 1, 4), std::atan(1.5) + p / 2);
+  EXPECT_DOUBLE_EQ(Direzione(0, 0, 1e-4, 1), std::atan(1e4));             // 0.0001 itself is no longer the same place
+  EXPECT_DOUBLE_EQ(Direzione(0, 0, 1, 1e-4), std::atan(1e-4));
 }
 
 TEST_F(SaldatureTest, Aggiunta) {
@@ -107,6 +111,8 @@ TEST_F(SaldatureTest, Aggiunta) {
   EXPECT_DOUBLE_EQ(ris.Saldature[8].Iy, 512000.0 * 5 / 12);
   EXPECT_DOUBLE_EQ(ris.Saldature[8].Iz, 125.0 * 80 / 12);
   EXPECT_DOUBLE_EQ(ris.Saldature[8].PY[2], 12.5);
+  AggiungiSaldatura(0, 0, 1e-4, 80, 1, 8);             // 0.0001 off: no longer along Y
+  EXPECT_NEAR(ris.Saldature[8].Iz, 125.0 * 80 / 12, 1e-6);
   AggiungiSaldatura(5, 5, 5, 5, 1, 9);                 // no length: direction -pi/2, no inertia
   EXPECT_EQ(ris.Saldature[9].Ang[2], -3.141592 / 2);
   EXPECT_EQ(ris.Saldature[9].Iz + ris.Saldature[9].Iy + ris.Saldature[9].Ip, 0);
@@ -120,6 +126,9 @@ TEST_F(SaldatureTest, GolaNulla) {                     // the record stays; the 
   EXPECT_EQ(ris.Saldature[3].Lung, 77);
   EXPECT_EQ(ris.Saldature[1].Nome, "");
   EXPECT_EQ(nodo.NumSaldature, 40);
+  nodo.Gola = -8;                                      // only 0 stops it
+  AggiungiSaldatura(0, 0, 0, 10, 1, 3);
+  EXPECT_EQ(ris.Saldature[3].Lung, 10);
 }
 
 TEST_F(SaldatureTest, TabellaColonna) {
@@ -145,6 +154,12 @@ TEST_F(SaldatureTest, TabellaInterne) {
     if (p.w != 23) Confronta(p);
   Confronta({ 23, 97.5, -250, 97.5, -95, 155 });
   for (const Posto& p : INTERNE) Confronta(p);
+  for (const std::int16_t altro : { std::int16_t(2), std::int16_t(-1) }) {
+    SetUp();
+    Nervato(altro);                                    // counted with any value but 0, made with 1 only
+    EXPECT_EQ(nodo.NumSaldature, 44) << altro;
+    EXPECT_EQ(ris.Saldature[9].Nome + ris.Saldature[19].Nome + ris.Saldature[41].Nome, "") << altro;
+  }
 }
 
 TEST_F(SaldatureTest, InerzieColonna) {
@@ -216,6 +231,10 @@ TEST_F(SaldatureTest, TensioniColonna) {
     EXPECT_EQ(w3.TauPe[4][k], 0);
   }
   for (const int w : { 1, 5 }) EXPECT_NEAR(ris.Saldature[w].TauPa[4][1], 1, 1e-12);
+  ris.Saldature[5].Lung = 67;                          // each web weld by its own length
+  TensioniSaldaturePiastra(4);
+  EXPECT_NEAR(w1.TauPa[4][1], 1, 1e-12);
+  EXPECT_NEAR(ris.Saldature[5].TauPa[4][1], 2, 1e-12);
   Azioni(0, 1340, 0, 0, 0, 0);
   TensioniSaldaturePiastra(4);
   for (const int w : { 2, 3, 4, 6, 7, 8 }) EXPECT_EQ(ris.Saldature[w].TauPa[4][2], 0) << w;
@@ -290,6 +309,10 @@ TEST_F(SaldatureTest, SaldatureDellaColonnaNervata) {
     { 41, a * zi + b }, { 42, a * zi - b }, { 43, -a * zi + b }, { 44, -a * zi - b },
   };
   for (const auto& [w, v] : ATTESI) EXPECT_NEAR(ris.Saldature[w].TauPa[1][3], -0.5 + v, 1e-9) << w;
+  nodo.SaldInt = -1;                                   // any value but 0
+  ris.Saldature[44].TauPa[1][3] = 0;
+  TensioniSaldatureColonna(1);
+  EXPECT_NEAR(ris.Saldature[44].TauPa[1][3], -0.5 - a * zi - b, 1e-9);
 }
 
 TEST_F(SaldatureTest, MomentiDelCalcestruzzo) {        // what the concrete under the column carries is deducted from the moments

@@ -129,13 +129,18 @@ TEST_F(TirafondiTest, AderenzaPiastrinaSLU) {
 }
 
 TEST_F(TirafondiTest, AltraForma) {                    // keeps what the run had; by limit states the cap still acts on it
-  nodo.TipoTirafondo = 2;
-  ris.TadRd = 9000;
-  ResistenzeTA();
-  EXPECT_EQ(ris.TadRd, 9000);
-  Prepara();
-  ResistenzeNTC();
-  EXPECT_NEAR(ris.TadRd, 7056, 1e-9);
+  for (const std::int16_t forma : { std::int16_t(2), std::int16_t(-1) }) {
+    nodo.TipoTirafondo = forma;
+    ris.TadRd = 9000;
+    ResistenzeTA();
+    EXPECT_EQ(ris.TadRd, 9000) << forma;
+    Prepara();
+    ResistenzeNTC();
+    EXPECT_NEAR(ris.TadRd, 7056, 1e-9) << forma;
+    ris.TadRd = 5000;
+    ResistenzeNTC();
+    EXPECT_EQ(ris.TadRd, 5000) << forma;
+  }
 }
 
 TEST_F(TirafondiTest, ClasseETrazione) {               // daN: M24 8.8 203.3 and 135.6 kN, M20 10.9 176.4 and 98.0 kN
@@ -152,7 +157,7 @@ TEST_F(TirafondiTest, ClasseETrazione) {               // daN: M24 8.8 203.3 and
   EXPECT_NEAR(ris.FtRd, 17640, 1e-6);
   EXPECT_NEAR(ris.FvRd, 9800, 1e-6);                   // 0.5
   const std::pair<const char*, double> CLASSI[] = { { "4.6", 0.6 }, { "5.6", 0.6 }, { "8.8", 0.6 }, { "6.8", 0.5 }, { "10.9", 0.5 }, { "12.9", 0 }, { "", 0 },
-                                                    { "6.8 o 8.8", 0.6 } };
+                                                    { "6.8 o 8.8", 0.6 }, { "4.7", 0 }, { "5.7", 0 }, { "8.7", 0 }, { "6.7", 0 }, { "10.8", 0 } };
   for (const auto& [nome, coeff] : CLASSI) {
     nodo.MatVit.Nome = nome;
     ResistenzeNTC();
@@ -222,6 +227,11 @@ TEST_F(TirafondiTest, RifollamentoFraDueTirafondi) {
   nodo.TfZ[8] = 50.01005;
   ResistenzeNTC();
   EXPECT_NEAR(ris.FbRd[8], (1.4 * 0.01005 / 22 - 1.7) * 0.7575757576 * 11520, 1e-4);
+  // 0.01 itself is no longer the end, which would give 2.8.
+  SchemaProva(1, 0, 50);
+  nodo.TfZ[8] = 0.01;
+  ResistenzeNTC();
+  EXPECT_NEAR(ris.FbRd[8], (1.4 * 0.01 / 22 - 1.7) * 0.7575757576 * 11520, 1e-4);
 }
 
 TEST_F(TirafondiTest, TrentaGradiInclusi) {
@@ -282,6 +292,7 @@ TEST_F(TirafondiTest, Rapporti) {
   EXPECT_DOUBLE_EQ(rapporti(-1, 1)[0], 2);
   resistenze(1000, 2000, 500, 900, 200);               // the other resistance of each pair
   EXPECT_EQ(rapporti(-100, 400), (R{ 0.4, 0.2, 0.5 }));
+  EXPECT_DOUBLE_EQ(rapporti(140, 400)[0], 0.6);        // 400 / 1000 + 100 / 500
   // A resistance that is not positive: 100, only where it is used.
   resistenze(0, 800, 500, 400, 200);
   EXPECT_EQ(rapporti(-100, 400)[0], 100);
@@ -295,6 +306,16 @@ TEST_F(TirafondiTest, Rapporti) {
   EXPECT_EQ(rapporti(100, 0), (R{ 100, 100, 0.5 }));
   EXPECT_EQ(rapporti(100, 400)[0], 100);
   EXPECT_EQ(rapporti(-100, 400), (R{ 0.5, 100, 0.5 }));
+  EXPECT_EQ(rapporti(0, 400)[0], 0.5);                 // no pull: Ft is not looked at
+  EXPECT_EQ(rapporti(0, 0)[0], 0);
+  resistenze(1000, 0, 500, 400, 200);                  // with pull and shear all four are
+  EXPECT_EQ(rapporti(100, 400)[0], 100);
+  resistenze(1000, 800, 500, 0, 200);
+  EXPECT_EQ(rapporti(100, 400)[0], 100);
+  resistenze(1000, 800, 500, -2, 200);
+  EXPECT_EQ(rapporti(100, 400)[0], 100);
+  resistenze(-2, 800, 500, 400, 200);
+  EXPECT_EQ(rapporti(100, 400)[0], 100);
   resistenze(1000, 0, 500, 0, 200);
   EXPECT_EQ(rapporti(-100, 400), (R{ 100, 100, 0.5 }));
   resistenze(1000, 800, 500, -3, 0);

@@ -2,6 +2,8 @@
 // Weld stresses are given in daN/mm2; the check takes them to daN/cm2 (factor 100).
 #include "corredo/relazioni_campione.h"
 
+#include <cmath>
+
 #include "core/numeri.h"
 #include "reports/verifiche_ta.h"
 
@@ -55,6 +57,24 @@ TEST_F(SaldatureTA, SegniSenzaPeso) {
   EXPECT_NEAR(Rapporto({-5, 0, 0}), 500.0 / 1360, 1e-12);
   EXPECT_NEAR(Rapporto({0, -5, 0}), 500.0 / 1360, 1e-12);
   EXPECT_NEAR(Rapporto({0, 0, -5}), 500.0 / 1360, 1e-12);
+  EXPECT_NEAR(Rapporto({-2, 0, 6}), 600.0 / 1360, 1e-12);
+  EXPECT_NEAR(Rapporto({6, -3, 2}), 700.0 / 1360, 1e-12);
+  EXPECT_NEAR(Rapporto({0, -3, -4}), 500.0 / 1360, 1e-12);
+  EXPECT_NEAR(Rapporto({0, 3, -4}), 500.0 / 1360, 1e-12);
+  EXPECT_NEAR(Rapporto({-6, -8, 0}), 1000.0 / 1360, 1e-12);
+  EXPECT_NEAR(Rapporto({6, -8, 0}), 1000.0 / 1360, 1e-12);
+}
+
+// A stress counts as soon as it is not zero, a stress of zero never: 0.5 daN/mm2 here. With Sadm below zero the rows that have a
+// sum show it (see below); the others have none.
+TEST_F(SaldatureTA, NonNullaEDiversaDaZero) {
+  EXPECT_NEAR(Rapporto({0.5, 0, 0}), 50.0 / 1360, 1e-12);
+  EXPECT_NEAR(Rapporto({1, 1, 1}, -1600), -101.0 / 1600, 1e-12);
+  EXPECT_NEAR(Rapporto({1, 0, 1}, -1600), -101.0 / 1600, 1e-12);
+  EXPECT_NEAR(Rapporto({0, 3, 4}, -1600), -500.0 / 1360, 1e-12);
+  EXPECT_NEAR(Rapporto({6, 8, 0}, -1600), -1000.0 / 1360, 1e-12);
+  EXPECT_NEAR(Rapporto({0, 1, 1}), std::sqrt(2.0) * 100 / 1360, 1e-12);
+  EXPECT_NEAR(Rapporto({1, 1, 0}), std::sqrt(2.0) * 100 / 1360, 1e-12);
 }
 
 // A point with a normal and a transverse stress takes the larger of the two, not their root: 5 where the root would give 7.07.
@@ -72,6 +92,7 @@ TEST_F(SaldatureTA, CoefficientiDeiTreAcciai) {
   EXPECT_NEAR(Rapporto(p, 1000), 0.5 / 0.85, 1e-12);
   nodo.MatAcc.Nome = "S 275 (FE 430)";
   EXPECT_NEAR(Rapporto(p, 1000), 0.5 / 0.7, 1e-12);
+  EXPECT_NEAR(Rapporto({6, 3, 2}, -1000), -602.0 / 850, 1e-12);   // k2 0.85, see above
   nodo.MatAcc.Nome = "S 355 (FE 510)";
   EXPECT_NEAR(Rapporto(p, 1000), 0.5 / 0.7, 1e-12);
   EXPECT_NEAR(Rapporto({6, 3, 2}, -1000), -602.0 / 850, 1e-12);   // k2 0.85, see above
@@ -144,6 +165,8 @@ TEST_F(SaldatureTA, LimitiClasseII) {
   EXPECT_EQ(l.SRfAdm, 4275);
   EXPECT_EQ(l.SAdmSald, 2137.5);
   nodo.SollCC[1] = 7;                                          // any class but 0
+  EXPECT_EQ(CalcolaLimitiTA(1, 2).FattComb, 1.125);
+  nodo.SollCC[1] = -1;
   EXPECT_EQ(CalcolaLimitiTA(1, 2).FattComb, 1.125);
 }
 
