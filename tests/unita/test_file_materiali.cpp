@@ -180,6 +180,30 @@ TEST_F(FileMateriali, FinePrimaDelTempo) {
   Catalogo("VITI");
 }
 
+// A second section of one title whose count is no number: the count stays, and as many entries are read anew.
+TEST_F(FileMateriali, ConteggioSbagliatoRestaQuelloDiPrima) {
+  Catalogo("VITI\r\n1\r\n8.8\r\n1 2 3 4 5 6\r\nVITI\r\nxx\r\n10.9\r\n7 8 9 10 11 12\r\n");
+  EXPECT_EQ(materiali.NumViti, 1);
+  EXPECT_EQ(materiali.VitiBase[1].Nome, "10.9");
+  EXPECT_EQ(materiali.VitiBase[1].SAmm, 7);
+}
+
+// A line that holds several titles opens the first in the order of the tests, wherever it stands in the line.
+TEST_F(FileMateriali, IlPrimoTitoloDecide) {
+  const struct { const char* riga; std::int16_t Materiali::*conteggio; } casi[] = {
+    {"ACCIAIO_DA_CARPENTERIA_SEZIONI_CHIUSE ACCIAIO_DA_CARPENTERIA_SEZIONI_APERTE", &Materiali::NumAcciai},
+    {"VITI ACCIAIO_DA_CARPENTERIA_SEZIONI_CHIUSE", &Materiali::NumAcciaiChiusi},
+    {"CALCESTRUZZI VITI", &Materiali::NumViti},
+    {"ACCIAIO_DA_CA CALCESTRUZZI", &Materiali::NumCls},
+  };
+  for (const auto& c : casi) {
+    materiali.NumAcciai = materiali.NumAcciaiChiusi = materiali.NumViti = materiali.NumCls = materiali.NumAcciaiCA = 0;
+    Catalogo(c.riga + std::string("\r\n1\r\nA\r\nB\r\n1 2 3 4 5 6 7 8\r\n"));
+    EXPECT_EQ(materiali.*c.conteggio, 1) << c.riga;
+    EXPECT_EQ(materiali.NumAcciai + materiali.NumAcciaiChiusi + materiali.NumViti + materiali.NumCls + materiali.NumAcciaiCA, 1) << c.riga;
+  }
+}
+
 TEST_F(FileMateriali, UnaParolaCheContieneVitiApreLaSezione) {
   Catalogo("Elenco delle chiaviti usate\r\n1\r\n10.9\r\n1 2 3 4 5 6\r\n");
   EXPECT_EQ(materiali.NumViti, 1);
@@ -306,6 +330,17 @@ TEST_F(FileMateriali, GradiPersonalizzati) {
   AttesoSolo(PERSONALIZZATO_ACC);
   EXPECT_EQ(materiali.MatBaseAcc2.Nome, "S 235 H");
   registratore.eventi.clear();
+  EXPECT_TRUE(DecifraRigaMatBase("Altra [ACC_CARP_2_TIPO]"));
+  EXPECT_EQ(materiali.MatBaseAcc2.Nome, "ALTRA");
+  // the whole value counts, not a part of it
+  EXPECT_TRUE(DecifraRigaMatBase("Altra classe [CLS_CLASSE]"));
+  EXPECT_TRUE(DecifraRigaMatBase("Un altro [ACC_CARP_2_TIPO]"));
+  materiali.SezChiuse = false;
+  EXPECT_TRUE(DecifraRigaMatBase("Altro tipo [ACC_CARP_1_TIPO]"));
+  EXPECT_TRUE(registratore.eventi.empty());
+  EXPECT_EQ(materiali.MatBaseCls.Nome, "ALTRA CLASSE");
+  EXPECT_EQ(materiali.MatBaseAcc2.Nome, "UN ALTRO");
+  EXPECT_EQ(materiali.MatBaseAcc1.Nome, "ALTRO TIPO");
   materiali.UsaCls = false;
   EXPECT_TRUE(DecifraRigaMatBase("Altra [CLS_CLASSE]"));
   EXPECT_TRUE(registratore.eventi.empty());
@@ -315,10 +350,10 @@ TEST_F(FileMateriali, GradiPersonalizzati) {
 TEST_F(FileMateriali, CercaUnaChiave) {
   std::string v;
   int k[MaxIndiciChiave] = {9, 9, 9, 9, 9};
-  EXPECT_EQ(CercaChiave("  Valore Uno  [Chiave 3 -4\t5.9  x 7z ] 8", "CHIAVE", v, k), 1);
+  EXPECT_EQ(CercaChiave("  Valore Uno  [Chiave 3 -4.9\t5.9  x 7z ] 8", "CHIAVE", v, k), 1);
   EXPECT_EQ(v, "Valore Uno");
   EXPECT_EQ(k[0], 3);
-  EXPECT_EQ(k[1], -4);
+  EXPECT_EQ(k[1], -4);                                     // towards zero
   EXPECT_EQ(k[2], 5);                                      // cut, not rounded
   EXPECT_EQ(k[3], 0);
   EXPECT_EQ(k[4], 7);
@@ -326,6 +361,10 @@ TEST_F(FileMateriali, CercaUnaChiave) {
   EXPECT_EQ(k[0], 0);
   EXPECT_EQ(CercaChiave("[chiave ]", "chiave", v, k), 1);
   EXPECT_EQ(v, "");
+  EXPECT_EQ(CercaChiave("a [chiave 1] b [chiave 2]", "chiave", v, k), 1);
+  EXPECT_EQ(v, "a");                                       // the first place counts,
+  EXPECT_EQ(k[0], 1);
+  EXPECT_EQ(CercaChiave("a [chiavetta] b [chiave]", "chiave", v, k), 0);   // also where it fails
   EXPECT_EQ(CercaChiave("1 [chiavetta]", "chiave", v, k), 0);
   EXPECT_EQ(CercaChiave("1 [chiave_2]", "chiave", v, k), 0);
   EXPECT_EQ(CercaChiave("1 [chiave", "chiave", v, k), 0);

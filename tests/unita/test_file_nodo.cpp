@@ -55,6 +55,26 @@ TEST_F(FileNodo, NomeTitoloECartella) {
   EXPECT_FALSE(esitoFile.fallito);
 }
 
+TEST_F(FileNodo, AncheUnCaricamentoConsumaLaCartella) {
+  Carica(lavoro + "pilastro_A1.qb7");
+  EXPECT_EQ(registratore.richiesta.cartella, suite.DirLavoro);
+  EXPECT_EQ(registratore.richiesta.estensione, "qb7");
+  Carica(lavoro + "pilastro_A1.qb7");
+  EXPECT_EQ(registratore.richiesta.cartella, "");
+}
+
+// The sides are the file's, whatever the margins of the node before: 460 by 520 around HEA200, 200 by 190, leave 130 and 165.
+TEST_F(FileNodo, LatiEMarginiDelFile) {
+  Righe r = Buono();
+  r[6] = " 460 ";
+  r[7] = " 520 ";
+  CaricaByte(lavoro + "x.qb7", Unisci(r));
+  const char* lati[] = {"460", "520", "130", "165", "20"};
+  for (int i = 0; i < 5; ++i) EXPECT_EQ(insDati.LatoTxt[i].testo, lati[i]) << i;
+  EXPECT_EQ(nodo.LatoZ, 460);
+  EXPECT_EQ(nodo.LatoY, 520);
+}
+
 TEST_F(FileNodo, AnnullaNonCambiaNulla) {
   Carica(lavoro + "pilastro_A1.qb7");
   const std::string prima = ComponiNodo();
@@ -177,6 +197,17 @@ TEST_F(FileNodo, SezioneDiLibreriaEForestiera) {
   CaricaByte(lavoro + "x.qb7", Unisci(r));
   EXPECT_EQ(nodo.Sezione.H, 190);
   EXPECT_EQ(nodo.Sezione.R, 18);
+  r[1] = "hea200";                                 // case counts: foreign
+  CaricaByte(lavoro + "x.qb7", Unisci(r));
+  EXPECT_EQ(nodo.Sezione.H, 999);
+  suite.ProfiliLib[40] = suite.ProfiliLib[32];     // the last of two equal names wins
+  suite.ProfiliLib[40].H = 352;
+  r[1] = suite.ProfiliLib[32].Nome;
+  CaricaByte(lavoro + "x.qb7", Unisci(r));
+  EXPECT_EQ(insDati.TraveP.scelta, 39);
+  EXPECT_EQ(nodo.Sezione.H, 352);
+  r[1] = "HEA200";
+  CaricaByte(lavoro + "x.qb7", Unisci(r));
   r[1] = "SALDATA 300       ";
   CaricaByte(lavoro + "x.qb7", Unisci(r));
   EXPECT_FALSE(esitoFile.fallito);
@@ -317,6 +348,10 @@ TEST_F(FileNodo, UltimaRigaUguale) {
   CaricaByte(lavoro + "x.qb7", Unisci(Buono()));
   EXPECT_EQ(insDati.ComboCalcestruzzo.scelta, 5);
   EXPECT_EQ(nodo.MatCls.Rck, 351);
+  materiali.ClsBase[6].Nome = "c28/35";            // case counts
+  CaricaByte(lavoro + "x.qb7", Unisci(Buono()));
+  EXPECT_EQ(insDati.ComboCalcestruzzo.scelta, 3);
+  EXPECT_EQ(nodo.MatCls.Rck, 350);
 }
 
 TEST_F(FileNodo, VecchiaGenerazione) {

@@ -219,6 +219,9 @@ TEST_F(LayoutNodo, NomeDellaSezione) {
   Leggi("   HEA,200 B  \r\n7\r\n");                // old: the whole line, trimmed
   EXPECT_EQ(nodo.Sezione.Nome, "HEA,200 B         ");
   EXPECT_EQ(nodo.Sezione.H, 7);
+  Leggi("verntc\r\n7\r\n");                        // the marker is in capitals
+  EXPECT_EQ(nodo.Sezione.Nome, "verntc            ");
+  EXPECT_EQ(nodo.Sezione.H, 7);
   Leggi("1234567890123456789012345\r\n");
   EXPECT_EQ(nodo.Sezione.Nome, "123456789012345678");
   Leggi("H\xC8" "A\r\n");                          // characters, not bytes, are counted

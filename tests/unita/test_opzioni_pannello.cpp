@@ -107,6 +107,25 @@ TEST_F(OpzioniPannello, SceltaESpunteTolte) {
   EXPECT_EQ(suite.ParNodo[17], 113);
 }
 
+// Annulla only hides: the options stay, and so does what was typed in the fields that Opz leaves alone. Salva does not hide.
+TEST_F(OpzioniPannello, AnnullaNascondeESalvaNo) {
+  Avvia(1, 0, 1);
+  Premi(InsDati, "Opz");
+  UtenteScrive(Op_Nodo, opNodo.Par_Nodo[0], "7");
+  UtenteScrive(Op_Nodo, opNodo.Par_Nodo[16], "8");
+  Premi(Op_Nodo, "Annulla");
+  EXPECT_FALSE(opNodo.aperto);
+  EXPECT_EQ(suite.ParNodo[0], 100);
+  EXPECT_EQ(suite.ParNodo[20], 120);
+  EXPECT_EQ(opNodo.Par_Nodo[0].testo, "7");
+  Premi(InsDati, "Opz");
+  EXPECT_EQ(opNodo.Par_Nodo[0].testo, "100");
+  EXPECT_EQ(opNodo.Par_Nodo[16].testo, "8");
+  Premi(Op_Nodo, "Def");
+  EXPECT_TRUE(opNodo.aperto);
+  EXPECT_EQ(suite.ParNodo[20], 8);
+}
+
 // After a restart the field shows the signed distance, and the next application turns it again: -(-213) - 107.
 TEST_F(OpzioniPannello, RiavvioConQuoteInferiori) {
   Avvia(1, 0, 1);

@@ -170,6 +170,17 @@ TEST_F(UnitaLavoro, OrdineDelleChiavi) {
   EXPECT_EQ(suite.UnitaSezioni, "dati_sezioni");           // the value counts as part of the key
 }
 
+// Each key gives way to those before it, and only to them; every 8 of the value becomes a slash.
+TEST_F(UnitaLavoro, OgniChiaveDopoLaPrecedente) {
+  ScriviByte(cartella + "/parametrilavoro",
+             "via\na [coppie_momenti carichi_superficie]\nb [tensioni coppie_momenti]\nc [dati_sezioni tensioni]\nd88e8 [dati_sezioni]\n");
+  ASSERT_TRUE(LeggiParametriLavoro());
+  EXPECT_EQ(suite.UnitaCarichi, "a");
+  EXPECT_EQ(suite.UnitaMomenti, "b");
+  EXPECT_EQ(suite.UnitaTensioni, "c");
+  EXPECT_EQ(suite.UnitaSezioni, "d//e/");
+}
+
 TEST_F(UnitaLavoro, GravitaEUnitaSullaStessaRiga) {
   ScriviByte(cartella + "/parametrilavoro", "via\n9.81 [accelerazione_g forze]");
   ASSERT_TRUE(LeggiParametriLavoro());
