@@ -1,11 +1,13 @@
 // finestre/test_ingresso.cpp - what the user does with mouse and keyboard, on the whole program.
 #include "app/qt/finestre.h"
 #include "app/qt/legame.h"
+#include "model/materiali.h"
 #include "model/node_model.h"
 #include "panels/FormTF.h"
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"
 #include "panels/Op_Nodo.h"
+#include "panels/PropMateriali.h"
 #include "panels/pannelli.h"
 #include "scena.h"
 
@@ -32,6 +34,43 @@ TEST(Ingresso, IlFuocoSelezionaTuttoIlTesto) {
   QTest::mouseClick(CampoDi(insDati.LatoTxt[2]), Qt::LeftButton);
   QCoreApplication::processEvents();
   EXPECT_EQ(CampoDi(insDati.LatoTxt[2])->selectedText(), "100");      // the margin of a new node
+}
+
+// The frames in use follow each other two to a row: steel and anchors, the concrete below; with all five, the anchors come fourth.
+TEST(Ingresso, LeCorniciDeiMaterialiInOrdineDueARiga) {
+  const Scena s("cornici");
+  ASSERT_NE(s.principale, nullptr);
+  MostraPagina(OggettoDi(insDati.PropMatButton));
+  PoiDavanti([](QWidget* w) {
+    const StatoPropMateriali& p = propMateriali;
+    const QRect acc = OggettoDi(p.FrameAcc)->geometry(), tir = OggettoDi(p.FrameTir)->geometry(), cls = OggettoDi(p.FrameCls)->geometry();
+    EXPECT_FALSE(OggettoDi(p.FrameAccPia)->isVisible() || OggettoDi(p.FrameBull)->isVisible());
+    EXPECT_EQ(acc.top(), tir.top());
+    EXPECT_LT(acc.right(), tir.left());
+    EXPECT_EQ(acc.left(), cls.left());
+    EXPECT_LT(acc.bottom(), cls.top());
+    w->close();
+  });
+  QTest::mouseClick(OggettoDi(insDati.PropMatButton), Qt::LeftButton);
+}
+
+TEST(Ingresso, LeCinqueCorniciDeiMateriali) {
+  const Scena s("cinque_cornici");
+  ASSERT_NE(s.principale, nullptr);
+  materiali.UsaAccPiastre = materiali.UsaViti = true;
+  MostraPagina(OggettoDi(insDati.PropMatButton));
+  PoiDavanti([](QWidget* w) {
+    const StatoPropMateriali& p = propMateriali;
+    const Controllo* const cornici[] = {&p.FrameAcc, &p.FrameAccPia, &p.FrameBull, &p.FrameTir, &p.FrameCls};
+    for (int i = 0; i < 5; i++) {
+      EXPECT_TRUE(OggettoDi(*cornici[i])->isVisible()) << i;
+      const QRect r = OggettoDi(*cornici[i])->geometry();
+      EXPECT_TRUE(i % 2 == 0 || OggettoDi(*cornici[i - 1])->geometry().right() < r.left()) << i;
+      EXPECT_TRUE(i < 2 || OggettoDi(*cornici[i - 2])->geometry().bottom() < r.top()) << i;
+    }
+    w->close();
+  });
+  QTest::mouseClick(OggettoDi(insDati.PropMatButton), Qt::LeftButton);
 }
 
 // Margins 120 with a column 300 wide: the side is 2 x 120 + 300 = 540, shown when the field is left.

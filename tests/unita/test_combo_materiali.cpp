@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/aritmetica.h"
+#include "core/piattaforma.h"
 #include "corredo/pannello_prova.h"
 #include "corredo/registratore.h"
 #include "model/materiali.h"
@@ -70,6 +71,27 @@ TEST_F(Combo62, FillWithAStrangeNameSaysSoAndTakesAnother) {
   EXPECT_EQ(insDati.Acc.scelta, 0);                  // no overlap: 0
 }
 
+// The two lines are joined by a carriage return alone.
+TEST_F(Combo62, TheTwoLinesOfTheBox) {
+  static std::string testo;
+  piattaforma.messaggio = [](const std::string& t, const std::string&, Icona) { testo = t; };
+  RiempiComboMateriali(insDati.Acc, true, "PROFILI", "zzz");
+  EXPECT_EQ(testo, "Materiale non possibile per verifiche alle tensioni ammissibili. Verrà impostato un altro tipo di acciaio.\r"
+                   "Da questo momento in poi il materiale impostato sarà ricordato anche se si cambia il metodo di verifica.");
+}
+
+TEST_F(Combo62, AlternativeByMethodAndRole) {
+  RiempiComboMateriali(insDati.Acc, false, "PROFILI", "S 450 N");
+  EXPECT_EQ(insDati.Acc.scelta, 3);                  // "S 450", entry 4, which has no allowable stress
+  materiali.AcciaiBase[1].Nome = "S 355 A";
+  materiali.AcciaiBase[2].Nome = "S 355 B";
+  materiali.AcciaiBase[1].Ftk = 0;                   // no anchor steel by limit states
+  RiempiComboMateriali(insDati.Cviti, false, "BULLONI", "S 355");
+  EXPECT_EQ(insDati.Cviti.scelta, 1);                // entry 2 less 1
+  RiempiComboMateriali(insDati.Acc, false, "PROFILI", "S 355");
+  EXPECT_EQ(insDati.Acc.scelta, 0);                  // entry 1 serves a column
+}
+
 TEST_F(Combo62, AlternativeCountsTableEntriesNotItems) {
   materiali.AcciaiBase[1].SAmm = 0;                  // the combo loses its first item
   RiempiComboMateriali(insDati.Acc, true, "PROFILI", "S 275");
@@ -122,7 +144,11 @@ TEST_F(Combo62, MemoriesOfBothMethods) {
   EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");
   EXPECT_EQ(nodo.MatTir.Nome, "S 275 (FE 430)");
   const char* attese[] = {"S 275 (FE 430)", "S 235 (FE 360)", "S 355 (FE 510)", "S 275 (FE 430)"};   // column TA, SLU, anchors TA, SLU
-  for (int i = 0; i < 4; i++) EXPECT_EQ(materiali.MemoriaMateriali[i].Nome, attese[i]);
+  const double fyk[] = {2750, 2350, 3550, 2750};     // whole records are kept
+  for (int i = 0; i < 4; i++) {
+    EXPECT_EQ(materiali.MemoriaMateriali[i].Nome, attese[i]);
+    EXPECT_EQ(materiali.MemoriaMateriali[i].Fyk, fyk[i]) << i;
+  }
   EXPECT_TRUE(registratore.eventi.empty());
 }
 
@@ -212,6 +238,19 @@ TEST_F(Combo62, JobSteelThatTheMethodRefuses) {
   EXPECT_TRUE(propMateriali.FrameAcc.testo.ends_with(" - Tipo S 355 (FE 510)"));
 }
 
+// The job's steel is replaced by one that the method allows for columns.
+TEST_F(Combo62, JobSteelReplacedByMethodAndRole) {
+  Metodo(1);
+  materiali.MatBaseCls.Nome = "C25/30";
+  materiali.MatBaseAcc1.Nome = "S 450 N";
+  InsDati_CheckMatBase(0);
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 450");              // contained; allowable stresses do not have it
+  EXPECT_EQ(insDati.Acc.scelta, 3);
+  materiali.AcciaiBase[4].Fyk = 0;                   // an anchor steel only
+  InsDati_CheckMatBase(0);
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");     // nothing overlaps: entry 1
+}
+
 TEST_F(Combo62, JobConcreteThatTheComboLacksKeepsTheCopy) {
   materiali.MatBaseAcc1.Nome = "S 235 (FE 360)";
   materiali.MatBaseCls.Nome = "C99";
@@ -244,6 +283,14 @@ TEST_F(Nomi62, KnownNamesPassBlanksAside) {
   ControllaMateriali();
   EXPECT_TRUE(registratore.eventi.empty());
   EXPECT_EQ(nodo.MatAcc.Nome, "S 275 (FE 430)");
+  nodo.MatAcc.Nome = "S 185";                        // the last entry
+  nodo.MatTir.Nome = " S 235 (FE 360) ";
+  materiali.UsaViti = true;
+  materiali.NumViti = 2;
+  materiali.VitiBase[2].Nome = nodo.MatVit.Nome = "10.9";
+  ControllaMateriali();
+  EXPECT_TRUE(registratore.eventi.empty());
+  EXPECT_EQ(nodo.MatVit.Nome, "10.9");
   nodo.MatAcc.Nome = "s 275 (FE 430)";               // case counts
   ControllaMateriali();
   EXPECT_EQ(registratore.eventi.size(), 1u);
@@ -289,11 +336,24 @@ TEST_F(Nomi62, ReplacementFollowsTheMethod) {
   EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");
 }
 
+TEST_F(Nomi62, ReplacementFollowsTheRole) {
+  Metodo(1);
+  materiali.AcciaiBase[1].Nome = "S 355 A";
+  materiali.AcciaiBase[1].Ftk = 0;                   // by limit states a column's steel only
+  materiali.AcciaiBase[2].Nome = "S 355 B";
+  materiali.AcciaiBase[2].Fyk = 0;                   // an anchor's only
+  nodo.MatAcc.Nome = nodo.MatTir.Nome = "S 355";
+  ControllaMateriali();
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 355 A");
+  EXPECT_EQ(nodo.MatTir.Nome, "S 355 B");
+}
+
 TEST_F(Nomi62, RowsThatAreSwitchedOffToday) {
   materiali.UsaViti = materiali.UsaAccPiastre = true;
   materiali.UsaTirafondi = materiali.UsaCls = false;
   nodo.MatPiastra.Nome = "p";
   nodo.MatVit.Nome = "v";
+  nodo.MatVit.Ft = 99;
   nodo.MatTir.Nome = nodo.MatCls.Nome = "ignoti";
   ControllaMateriali();
   EXPECT_EQ(registratore.eventi,
@@ -303,6 +363,7 @@ TEST_F(Nomi62, RowsThatAreSwitchedOffToday) {
                    "tendina delle viti"}));
   EXPECT_EQ(nodo.MatPiastra.Nome, "S 235 (FE 360)");
   EXPECT_EQ(nodo.MatVit.Nome, "8.8");
+  EXPECT_EQ(nodo.MatVit.Ft, 99);                     // by name only
   EXPECT_EQ(nodo.MatTir.Nome, "ignoti");
 }
 
@@ -314,6 +375,17 @@ TEST_F(Nomi62, ClosedSectionsHaveTheirOwnTable) {
   ControllaMateriali();                              // S 275 is not in it
   EXPECT_EQ(registratore.eventi.size(), 1u);
   EXPECT_EQ(nodo.MatAcc.Nome, "S 355 H");
+  materiali.NumAcciaiChiusi = 2;                     // its own count and its own order
+  materiali.NumAcciai = 1;
+  materiali.AcciaiChiusiBase[2] = materiali.AcciaiBase[1];
+  materiali.AcciaiChiusiBase[2].Nome = "S 235 H";
+  nodo.MatTir.Nome = "S 235 (FE 360)";
+  nodo.MatAcc.Nome = "S 235 H";
+  ControllaMateriali();
+  EXPECT_EQ(registratore.eventi.size(), 1u);
+  nodo.MatAcc.Nome = "S 235";
+  ControllaMateriali();
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 H");            // entry 2 of its table, where the other holds S 235 first
 }
 
 }  // namespace

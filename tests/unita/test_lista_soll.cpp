@@ -40,7 +40,11 @@ void Gruppo(int n, double N, double ty = 0, double tz = 0, double mt = 0, double
 int RigheVisibili() {
   int n = 0;
   for (int i = 0; i < 5; i++) {
-    if (!insDati.Lsa[i].visibile) continue;
+    if (!insDati.Lsa[i].visibile) {
+      for (const Controllo* c : {&insDati.TxtSN[i], &insDati.TxtTy[i], &insDati.TxtTz[i], &insDati.TxtMt[i], &insDati.TxtMy[i], &insDati.TxtMz[i], &insDati.CasCar[i]})
+        EXPECT_FALSE(c->visibile) << i;
+      continue;
+    }
     EXPECT_EQ(n, i) << "visible rows come first";
     n++;
     for (const Controllo* c : {&insDati.TxtSN[i], &insDati.TxtTy[i], &insDati.TxtTz[i], &insDati.TxtMt[i], &insDati.TxtMy[i], &insDati.TxtMz[i]})
@@ -368,6 +372,19 @@ TEST_F(Lista72, EachComponentCountsForADouble) {
   }
 }
 
+// Equal class, by its value; near in stored units, whatever is shown.
+TEST_F(Lista72, ClassAndUnitOfADouble) {
+  nodo.NumSoll = 2;
+  Gruppo(1, 5, 0, 0, 0, 0, 0, 1);
+  Gruppo(2, 5, 0, 0, 0, 0, 0, 2);
+  RimuoviDoppi();
+  EXPECT_EQ(nodo.NumSoll, 2);
+  suite.FattForze = 0.01;                            // kN: the fields differ by 0.00001
+  Gruppo(2, 5.001, 0, 0, 0, 0, 0, 1);
+  RimuoviDoppi();
+  EXPECT_EQ(nodo.NumSoll, 2);
+}
+
 TEST_F(Lista72, TwoHundredEqualGroupsBecomeOne) {
   nodo.NumSoll = 200;
   RimuoviDoppi();
@@ -401,7 +418,28 @@ TEST_F(Lista72, MaxMinKeepsTheExtremesOnce) {
   EXPECT_EQ(nodo.SollN[1], 9);
   EXPECT_EQ(nodo.SollTy[4], -4);
   EXPECT_EQ(RigheVisibili(), 4);
+  EXPECT_EQ(insDati.TxtTy[0].testo, "");             // b's zero: doubles were removed last
+  EXPECT_EQ(insDati.TxtTy[3].testo, "-4");
   EXPECT_EQ(insDati.Soll.testo, "n° 4 [daN, daNcm]");
+}
+
+// With its sign: of -5, 3 and 1 the maximum is 3, the minimum -5.
+TEST_F(Lista72, MaxMinWithTheSign) {
+  for (int k = 0; k < 6; k++) {
+    nodo.NumSoll = 3;
+    const double valori[] = {-5, 3, 1};
+    for (int n = 1; n <= 3; n++) {
+      double v[6] = {};
+      v[k] = valori[n - 1];
+      Gruppo(n, v[0], v[1], v[2], v[3], v[4], v[5]);
+      nodo.SollNome[n] = "g" + std::to_string(n);
+    }
+    Premi(insDati.MaxMin);
+    // Of the components that are all 0 the first group holds both extremes: it leads the list unless k is the first.
+    ASSERT_EQ(nodo.NumSoll, 2) << k;
+    EXPECT_EQ(nodo.SollNome[1], k == 0 ? "g2" : "g1") << k;
+    EXPECT_EQ(nodo.SollNome[2], k == 0 ? "g1" : "g2") << k;
+  }
 }
 
 TEST_F(Lista72, MaxMinOfSecondClassOnly) {
@@ -466,8 +504,12 @@ TEST_F(Lista72, CaptionsAndStatusTexts) {
     Scatena(InsDati, *a.c, Evento::Passa);
     EXPECT_EQ(insDati.StatoTxt, a.stato);
   }
+  insDati.StatoTxt = "prima";                        // none of its own
+  Scatena(InsDati, insDati.Label4, Evento::Passa);
+  EXPECT_EQ(insDati.StatoTxt, "prima");
   EXPECT_EQ(insDati.Label4.testo, "C.c. II");
   EXPECT_EQ(insDati.EsportaSollButt.testo, "Esporta su file");
+  EXPECT_EQ(insDati.ImpS3D.testo, "Imp. 3D");
 }
 
 TEST_F(Lista72, NameTellsOfTheDoubleClickOnlyWhileNotEmpty) {
@@ -477,6 +519,10 @@ TEST_F(Lista72, NameTellsOfTheDoubleClickOnlyWhileNotEmpty) {
   Aggiungi(1);
   Scatena(InsDati, insDati.Lsa[0], Evento::Passa);
   EXPECT_EQ(insDati.StatoTxt, "Doppio click per rimuovere il gruppo di sollecitazioni");
+  Scrivi(insDati.Lsa[0], "");                        // a visible row without a name
+  insDati.StatoTxt = "prima";
+  Scatena(InsDati, insDati.Lsa[0], Evento::Passa);
+  EXPECT_EQ(insDati.StatoTxt, "prima");
 }
 
 }  // namespace

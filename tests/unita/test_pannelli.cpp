@@ -299,6 +299,42 @@ TEST_F(Pannelli_, ProprietaConTuttiIRiquadri) {
   EXPECT_EQ(propMateriali.Unit.coloreSfondo, 0xFFFFC8);   // red 200, green 255, blue 255
 }
 
+// A frame not in use is hidden, and nothing is worked out for it: bolts of class 0 would divide by zero.
+TEST_F(Pannelli_, ProprietaDelSoloAcciaio) {
+  materiali.UsaViti = materiali.UsaAccPiastre = materiali.UsaTirafondi = materiali.UsaCls = false;
+  suite.FattTensioni = 1;
+  suite.DecTensioni = 1;
+  nodo.MatVit = {};
+  nodo.MatCls = {};
+  nodo.MatAcc.Fyk40 = 3350;
+  nodo.MatAcc.GammaMT = 1.25;
+  for (Controllo* c : {&propMateriali.FrameBull, &propMateriali.FrameAccPia, &propMateriali.FrameTir, &propMateriali.FrameCls}) c->testo = "prima";
+  Premi(InsDati, "PropMatButton");
+  for (const Controllo* c : {&propMateriali.FrameBull, &propMateriali.FrameAccPia, &propMateriali.FrameTir, &propMateriali.FrameCls}) {
+    EXPECT_FALSE(c->visibile);
+    EXPECT_EQ(c->testo, "prima");
+  }
+  EXPECT_TRUE(propMateriali.FrameAcc.visibile);
+  EXPECT_EQ(C(PropMateriali, "fdt40Label").testo, "2680");         // 3350 / 1.25
+  EXPECT_TRUE(registratore.eventi.empty());
+}
+
+// Over the main panel until its own command closes it.
+TEST_F(Pannelli_, ProprietaModaleFinoAChiudi) {
+  static bool sopra;
+  sopra = false;
+  registratore.dentro.push_back([] {
+    sopra = pannelli.modali.size() == 1 && pannelli.modali.back() == &PropMateriali && !Raggiungibile(InsDati);
+    EXPECT_TRUE(propMateriali.FrameTir.visibile && propMateriali.FrameCls.visibile);
+    EXPECT_EQ(C(PropMateriali, "Chiudi").testo, "Chiudi");
+    Premi(PropMateriali, "Chiudi");
+    EXPECT_FALSE(propMateriali.aperto);
+    EXPECT_TRUE(Raggiungibile(InsDati));
+  });
+  Premi(InsDati, "PropMatButton");
+  EXPECT_TRUE(sopra);
+}
+
 // "-" stands for a steel without the value; the class of a concrete is rounded as it is.
 TEST_F(Pannelli_, ClasseNegativaSiMostraComE) {
   suite.FattTensioni = 1;

@@ -154,7 +154,7 @@ TEST_F(Profili, UnNomeSolo) {
   EXPECT_EQ(Leggi(t, {}, "HEA100"), 1);      // ends at the match: no end line needed
   EXPECT_EQ(suite.ProfiliLib[1].Area, 2);
   EXPECT_EQ(Leggi(t + "*END*", FILTRO_PROFILI, "UPN80"), 0);
-  EXPECT_EQ(Leggi(t + "*END*", {}, "HEA10"), 0);
+  for (const char* altro : {"HEA10", "HEA1000", "hea100", "HEA 100"}) EXPECT_EQ(Leggi(t + "*END*", {}, altro), 0) << altro;
   EXPECT_EQ(Leggi(t + "*END*", {}, AllineaSinistra("UPN80", LungNomeSez)), 1);
 }
 

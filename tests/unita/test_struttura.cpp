@@ -44,6 +44,7 @@ TEST_F(Struttura, SezioneDiUnAsta) {
   EXPECT_EQ(SezioneDiAsta(5), 1);
   EXPECT_EQ(SezioneDiAsta(6), 2);
   EXPECT_EQ(SezioneDiAsta(99), -1);
+  EXPECT_EQ(SezioneDiAsta(4), -1);                        // bars with a greater number follow
   EXPECT_TRUE(registratore.eventi.empty());
 }
 
@@ -51,6 +52,17 @@ TEST_F(Struttura, SezioneDiUnAstaSenzaFile) {
   suite.DirLavoro = lavoro + "\\manca";
   EXPECT_EQ(SezioneDiAsta(5), -1);
   AttesoSolo("[messaggio] esclamazione | VESTRAWIN | Errore in lettura del file STRUTTUR.STR");
+}
+
+// The section of a bar is looked for under the name in capitals, unlike the bars of a node.
+TEST_F(Struttura, IlNomeInMaiuscolePerLaSezioneDiUnAsta) {
+  std::string t = STRUTTURA_MINIMA;
+  Scrivi("struttur.str", t);
+  t.replace(t.find(" 5 1 0"), 6, " 5 9 0");
+  Scrivi("STRUTTUR.STR", t);
+  EXPECT_EQ(SezioneDiAsta(5), 9);
+  ASSERT_EQ(AsteDelNodo(10), EsitoAste::Trovate);
+  EXPECT_EQ(collegamento.SezAsteNodo[1], 1);
 }
 
 TEST_F(Struttura, VersioneVecchiaSiDiceESiLeggeDallaStessaRiga) {
@@ -87,6 +99,30 @@ TEST_F(Struttura, ProfiloDallaSezioneConPrefissoEBlank) {
   EXPECT_TRUE(registratore.eventi.empty());
 }
 
+// The prefix is "P_" at the beginning of the name without its blanks; the rest is the library's name, blanks aside, letter for letter.
+TEST_F(Struttura, PrefissoENomeInteri) {
+  suite.ProfiliLib[2].Nome = AllineaSinistra("HE A200", LungNomeSez);
+  const struct { const char* nome; int profilo; } casi[] = {
+      {"P_IPE300", 1}, {"P _HE A200", 2}, {" HEA 20 0", 2},
+      {"PXIPE300", 0}, {"p_IPE300", 0}, {"IPEP_300", 0}, {"P_P_IPE300", 0}, {"P_HEA20", 0}, {"P_HEA2000", 0}, {"P_hea200", 0}};
+  for (const auto& c : casi) {
+    Scrivi("sezioni_", std::string("1\r\n1,\"") + c.nome + "\",0\r\nr\r\nr\r\nr\r\nr\r\n");
+    EXPECT_EQ(ProfiloDaAsta(5), c.profilo) << c.nome;
+  }
+  EXPECT_EQ(registratore.eventi.size(), 7u);
+}
+
+// Section 0 is a section like the others; of records with one number the last counts, and no record of another number.
+TEST_F(Struttura, LaSezioneColNumeroDellAsta) {
+  std::string t = STRUTTURA_MINIMA;
+  t.replace(t.find(" 5 1 0"), 6, " 5 0 0");
+  Scrivi("Struttur.Str", t);
+  const std::string righe = ",0\r\nr\r\nr\r\nr\r\nr\r\n";
+  Scrivi("sezioni_", "4\r\n2,P_IPE300" + righe + "0,P_IPE300" + righe + "0,P_HEA200" + righe + "-1,P_IPE300" + righe);
+  EXPECT_EQ(ProfiloDaAsta(5), 2);
+  EXPECT_TRUE(registratore.eventi.empty());
+}
+
 TEST_F(Struttura, DiDueProfiliDelloStessoNomeVinceLUltimo) {
   suite.NumProfili = 3;
   suite.ProfiliLib[3] = suite.ProfiliLib[2];
@@ -120,7 +156,22 @@ TEST_F(Struttura, AsteDiUnNodo) {
   EXPECT_EQ(collegamento.NumAsteNodo, 0);
 }
 
+// A bar counts from number 1 on.
+TEST_F(Struttura, AsteDiNumeroZeroONegativoNonContano) {
+  std::string t = STRUTTURA_MINIMA;
+  t.replace(t.find(" 5 1 0"), 6, " 0 1 0");
+  t.replace(t.find(" 6 2 0"), 6, "-6 2 0");
+  t.replace(t.find(" 7 1 0"), 6, " 1 1 0");
+  Scrivi("Struttur.Str", t);
+  ASSERT_EQ(AsteDelNodo(20), EsitoAste::Trovate);
+  ASSERT_EQ(collegamento.NumAsteNodo, 1);
+  EXPECT_EQ(collegamento.AsteNodo[1], 1);
+}
+
 TEST_F(Struttura, NodoInesistenteEFileAssente) {
+  EXPECT_EQ(AsteDelNodo(25), EsitoAste::Fallito);         // between the model's 20 and 30
+  AttesoSolo("[messaggio] nessuna | ERRORE | Errore: nodo inesistente");
+  registratore.eventi.clear();
   EXPECT_EQ(AsteDelNodo(50), EsitoAste::Fallito);
   AttesoSolo("[messaggio] nessuna | ERRORE | Errore: nodo inesistente");
   registratore.eventi.clear();
@@ -139,12 +190,31 @@ TEST_F(Struttura, TroppeAste) {
 
 TEST_F(Struttura, SezioniDelleAste) {
   Scrivi("sezioni_", "2\r\n1,\"P_HEA 200\",0\r\nr\r\nr\r\nr\r\nr\r\n2,\"Composta saldata 1\",0\r\nr\r\nr\r\nr\r\nr\r\n");
+  suite.ProfiliLib[2].B = 200;
+  suite.ProfiliLib[2].A = 6.5;
+  suite.ProfiliLib[2].E = 10;
   ASSERT_EQ(AsteDelNodo(20), EsitoAste::Trovate);
   ASSERT_EQ(SezioniAsteNodo(), EsitoAste::Trovate);
-  EXPECT_EQ(collegamento.SezioniStr[1].Nome, "HEA200            ");
-  EXPECT_EQ(collegamento.SezioniStr[1].H, 190);
-  EXPECT_EQ(collegamento.SezioniStr[1].R, 18);
+  for (const int i : {1, 3}) {                            // bars 5 and 7 share section 1
+    const Sezione& s = collegamento.SezioniStr[i];
+    EXPECT_EQ(s.Nome, "HEA200            ");
+    EXPECT_EQ(s.H, 190);
+    EXPECT_EQ(s.B, 200);
+    EXPECT_EQ(s.A, 6.5);
+    EXPECT_EQ(s.E, 10);
+    EXPECT_EQ(s.R, 18);
+  }
   EXPECT_EQ(collegamento.SezioniStr[2].Nome, "Non app. Composta ");   // cut to 18 characters
+  EXPECT_EQ(collegamento.SezioniStr[2].H, 0);
+  // Without "P_" also a name of the library is refused, and with it one that the library lacks; a section that the file lacks has no name.
+  Scrivi("sezioni_", "2\r\n2,\"HEA 200\",0\r\nr\r\nr\r\nr\r\nr\r\n3,P_HEA200,0\r\nr\r\nr\r\nr\r\nr\r\n");
+  ASSERT_EQ(SezioniAsteNodo(), EsitoAste::Trovate);
+  EXPECT_EQ(collegamento.SezioniStr[1].Nome, "Non app.          ");
+  EXPECT_EQ(collegamento.SezioniStr[1].H, 0);
+  EXPECT_EQ(collegamento.SezioniStr[2].Nome, "Non app. HEA 200  ");
+  Scrivi("sezioni_", "1\r\n2,\"P_HE 220\",0\r\nr\r\nr\r\nr\r\nr\r\n");
+  ASSERT_EQ(SezioniAsteNodo(), EsitoAste::Trovate);
+  EXPECT_EQ(collegamento.SezioniStr[2].Nome, "Non app. P_HE 220 ");
 }
 
 TEST_F(Struttura, FileDelleSezioniAssenteOConUnConteggioFuoriMisura) {
@@ -170,6 +240,9 @@ TEST_F(Struttura, IlNumeroDelNodoEIlPrimoValore) {
   Nodi({1});
   ASSERT_TRUE(NodiAste());
   EXPECT_EQ(collegamento.LatoAsta[1], 1);
+  Nodi({2});                                              // named 1, but its number is 2
+  ASSERT_TRUE(NodiAste());
+  EXPECT_EQ(collegamento.LatoAsta[1], 2);
 }
 
 TEST_F(Struttura, LatoDelleAste) {
@@ -194,6 +267,17 @@ TEST_F(Struttura, IlNodoDellaStessaPosizionePrimaDegliAltri) {
   Nodi({30, 20, 10});
   ASSERT_TRUE(NodiAste());
   EXPECT_EQ(collegamento.LatoAsta[1], 1);                 // both ends are listed: the first end before the second
+  Nodi({10, 20});
+  Aste({6, 5});
+  ASSERT_TRUE(NodiAste());
+  EXPECT_EQ(collegamento.LatoAsta[2], 2);                 // the last position: node 20, bar 5's second end, before the listed 10
+  std::string s = STRUTTURA_MINIMA;
+  s.replace(s.find("20,30,2,10"), 5, "20,20");
+  Scrivi("Struttur.Str", s);
+  Nodi({20});
+  Aste({6});
+  ASSERT_TRUE(NodiAste());
+  EXPECT_EQ(collegamento.LatoAsta[1], 1);                 // a bar that ends where it begins
 }
 
 TEST_F(Struttura, AstaAssenteSiNegaENodoAssenteFerma) {
@@ -203,6 +287,10 @@ TEST_F(Struttura, AstaAssenteSiNegaENodoAssenteFerma) {
   EXPECT_EQ(collegamento.AsteNodo[1], 5);
   EXPECT_EQ(collegamento.AsteNodo[2], -99);
   EXPECT_EQ(collegamento.AstaNodo[2], -1);
+  Aste({99});                                             // at a place that a former search found
+  ASSERT_TRUE(NodiAste());
+  EXPECT_EQ(collegamento.AsteNodo[1], -99);
+  EXPECT_EQ(collegamento.AstaNodo[1], -1);
   Nodi({20, 77});
   EXPECT_FALSE(NodiAste());
   AttesoSolo("[messaggio] esclamazione | ERRORE | Errore: uno o più nodi inesistenti");

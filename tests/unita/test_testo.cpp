@@ -49,8 +49,13 @@ TEST(Testo, Parole) {
   t = " \t ";
   EXPECT_EQ(TokenSuccessivo(t), "");
   EXPECT_EQ(t, " \t ");                                   // separators only: left as it was
+  t = "a,b;c d";
+  EXPECT_EQ(TokenSuccessivo(t), "a,b;c");                 // blank and tab are the only separators
   EXPECT_EQ(PrimaParola("HE 200 A"), "HE");
+  EXPECT_EQ(PrimaParola("HE\t200 A"), "HE\t200");         // up to the first blank
+  EXPECT_EQ(PrimaParola(" HE"), "");
   EXPECT_EQ(PrimaParola("HEA200"), "HEA200");
   EXPECT_EQ(SenzaSpazi(" P_HE 200 A "), "P_HE200A");
+  EXPECT_EQ(SenzaSpazi("A\t B  C"), "A\tBC");             // a tab is no blank
   EXPECT_EQ(Componi("daN8cm2 8", "8", "/"), "daN/cm2 /");
 }
