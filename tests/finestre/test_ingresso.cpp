@@ -58,6 +58,7 @@ TEST(Ingresso, LeCinqueCorniciDeiMateriali) {
   const Scena s("cinque_cornici");
   ASSERT_NE(s.principale, nullptr);
   materiali.UsaAccPiastre = materiali.UsaViti = true;
+  nodo.MatPiastra = nodo.MatAcc;
   MostraPagina(OggettoDi(insDati.PropMatButton));
   PoiDavanti([](QWidget* w) {
     const StatoPropMateriali& p = propMateriali;
