@@ -24,6 +24,7 @@
 #include <QWheelEvent>
 
 #include <cmath>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -34,6 +35,20 @@ TEST(Ingresso, IlFuocoSelezionaTuttoIlTesto) {
   QTest::mouseClick(CampoDi(insDati.LatoTxt[2]), Qt::LeftButton);
   QCoreApplication::processEvents();
   EXPECT_EQ(CampoDi(insDati.LatoTxt[2])->selectedText(), "100");      // the margin of a new node
+}
+
+// The same where the keyboard brings the focus: an arrow along a column of the load list, the tabulator along a row.
+TEST(Ingresso, AncheLaTastieraSelezionaTutto) {
+  const Scena s("fuoco_tastiera");
+  for (int i = 0; i < 2; i++) InsDati_Singolo(0);
+  Scrivi(insDati.TxtSN[1], "2200");
+  Scrivi(insDati.TxtTy[1], "33");
+  QTest::mouseClick(CampoDi(insDati.TxtSN[0]), Qt::LeftButton);
+  QCoreApplication::processEvents();
+  QTest::keyClick(CampoDi(insDati.TxtSN[0]), Qt::Key_Down);
+  EXPECT_EQ(CampoDi(insDati.TxtSN[1])->selectedText(), "2200");
+  QTest::keyClick(CampoDi(insDati.TxtSN[1]), Qt::Key_Tab);
+  EXPECT_EQ(CampoDi(insDati.TxtTy[1])->selectedText(), "33");
 }
 
 // Those in use, in order: k stands in row k / 2, at the left or the right by k % 2.
