@@ -248,6 +248,7 @@ TEST_F(CalcoliTest, FaultFermanoLaVerifica) {          // one box, no report, no
     { "Ftk", [] { nodo.TipoVer = 1; nodo.MatAcc.Ftk = 0; } },
     { "HNerv", [] { nodo.TipoNodo = 2; nodo.HNerv = 0; } },
     { "SpNerv", [] { nodo.TipoNodo = 2; nodo.SpNerv = 0; } },
+    { "rapporto", [] { nodo.TipoVer = 1; nodo.TipoTirafondo = 2; ris.TadRd = 1e-308; } },      // force over it: beyond a double
     { "area nulla", [] { for (double& a : suite.DiamArea) a = 0; } },
     { "troppo grande", [] { nodo.SollMz[1] = 1e308; nodo.SollN[1] = 1e308; } },
   };

@@ -168,6 +168,13 @@ TEST_F(Diametri, UnaRigaSola) {
   EXPECT_TRUE(ris.FlagDiamEstrapolato);
 }
 
+TEST_F(Diametri, DueRigheBastanoFuoriTabella) {
+  Leggi("A|10|100|\r\nB|20|400|\r\n");                // 1 mm2 for each mm2 of d^2
+  EXPECT_NEAR(AreaResistente(8), 64, 1e-12);
+  EXPECT_NEAR(AreaResistente(25), 625, 1e-12);
+  EXPECT_TRUE(ris.FlagDiamEstrapolato);
+}
+
 TEST_F(Diametri, DiametriFuoriOrdineIlPrimoIntervallo) {
   Leggi("A|10|100|\r\nB|8|80|\r\nC|30|300|\r\nD|20|200|\r\n");
   // 16: above the first, below the last; only 8..30 holds it

@@ -112,6 +112,7 @@ TEST_F(NervatureTest, ZeroDentroLungoQ) {
 TEST_F(NervatureTest, ZeroDentroLungoP) {              // no change along q: closed along p, times |qb - qa|
   Piano(0, 1e-7, -2e-6);
   Confronta(AzioniSuPiastra(-100, 100, -30, 70), -216, 0, 12960);
+  Confronta(AzioniSuPiastra(-100, 100, 70, -30), -216, 0, 12960);          // the length along q by its absolute value
   Piano(0, -1e-7, 2e-6);
   Confronta(AzioniSuPiastra(-100, 100, -30, 70), -96, 0, -96 * (20 + 160.0 / 3));
   Piano(1e-12, -1e-7, 2e-6);                           // 1e-12 along q still counts as no change

@@ -70,6 +70,17 @@ TEST_F(PiastraTest, QuattroLati) {
       PiastraSenzaNervature(1);
       EXPECT_NEAR(ris.SMaxPiastra[1], 45 * (r.coppia + r.extra[schema]) * 245 / r.W, 1e-9) << r.lato << ' ' << schema;
     }
+  // A pair that is compressed, a lever below zero: absolute values again. Side 1, anchor 8 pulled: 45 (3 + 128).
+  SchemaProva(1);
+  for (int i = 1; i <= 8; ++i) ris.SigmaTir[1][i] = (i > 4 ? 1.0 : -1.0) * std::pow(2, i - 1);
+  for (const double y : { 110.0, 200.0 }) {
+    nodo.TfY[1] = y;
+    nodo.TfZ[2] = 300;
+    nodo.TfY[3] = 345;
+    nodo.TfZ[1] = 100;
+    PiastraSenzaNervature(1);
+    EXPECT_NEAR(ris.SMaxPiastra[1], 45 * 131 * 245 / Wz, 1e-9) << y;
+  }
   // The pair's sum is taken before its absolute value: 1 and 2 cancel.
   SchemaProva(0);
   const double S[] = { 0, 8, -8, 0, 0 };
@@ -128,6 +139,27 @@ TEST_F(PiastraTest, NervataSchema3) {
     EXPECT_NEAR(ris.SPiastraTir[1][1][i], 6 * (std::fabs(50 * Tz5 - Mz) / 145) / 400, 1e-9) << i;
     EXPECT_NEAR(ris.SPiastraTir[1][2][i], 6 * (100 * (1000 - Tz5) / 200) / 400, 1e-9) << i;
   }
+}
+
+TEST_F(PiastraTest, LuceRestanteInValoreAssoluto) {    // anchors beyond the plate's edge: the remaining span has no sign
+  // Plate 260 long: Cz2 = |30 - 50| = 20, By = min(50, 110) + min(110, 20) = 70, of anchor 5 too; Bz = 120.
+  // R = (100^3/70 + 100^2 85/70) / 3125 = 26428.571 / 3125 = 8.457143; Ty = 1000 / 9.457143.
+  Nervata(2);
+  nodo.LatoZ = 260;
+  SchemaProva(2, -20, 65);
+  ConNervature(1);
+  const double Ty = 1000 / (1 + 1850000.0 / 70 / 3125);
+  EXPECT_NEAR(ris.SPiastraTir[1][1][1], 6 * (50 * (1000 - Ty) / 120) / 400, 1e-9);   // 5.58912
+  EXPECT_NEAR(ris.SPiastraTir[1][2][1], 6 * (100 * Ty / 70) / 400, 1e-9);            // 2.26586
+  // Plate 300 high: Cy2 = |65 - 100| = 35, Bz = min(60, 100) + min(60, 35) = 95, By = 100.
+  // R = 18500 / (50^3/95 + 50^2 100/95) = 18500 x 95 / 375000 = 4.686667.
+  nodo.LatoZ = 400;
+  nodo.LatoY = 300;
+  SchemaProva(2, 50, -35);
+  ConNervature(1);
+  const double Ty2 = 1000 / (1 + 18500.0 * 95 / 375000);
+  EXPECT_NEAR(ris.SPiastraTir[1][1][1], 6 * (50 * (1000 - Ty2) / 95) / 400, 1e-9);   // 6.50645
+  EXPECT_NEAR(ris.SPiastraTir[1][2][1], 6 * (100 * Ty2 / 100) / 400, 1e-9);          // 2.63775
 }
 
 TEST_F(PiastraTest, NervataSchema3LarghezzaPropria) {  // the corners' strips along Y keep their own width, also beside a narrower one

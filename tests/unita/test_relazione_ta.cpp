@@ -222,8 +222,13 @@ const CasoLimite CASI[] = {
   {"plate on the limit", [] { ris.SMaxPiastra[1] = 19; }, true},
   {"plate, judged to one decimal", [] { ris.SMaxPiastra[1] = 19.0004; }, true},   // 1900.04 -> 1900
   {"plate", [] { ris.SMaxPiastra[1] = 19.0006; }, false},                         // 1900.06 -> 1900.1
+  {"plate, halves go up", [] { nodo.MatAcc.SAmm = 1856.2, ris.SMaxPiastra[1] = 18.5625; }, false},     // 1856.25 -> 1856.3
   {"plate, not absolute", [] { ris.SMaxPiastra[1] = -50; }, true},
   {"rib Z on the limit", [] { ris.SNerv[1][8] = 19; }, true},
+  {"rib, judged to one decimal", [] { ris.SNerv[1][4] = 19.0004; }, true},
+  {"rib, above it", [] { ris.SNerv[1][4] = 19.0006; }, false},
+  {"rib, halves go up", [] { nodo.MatAcc.SAmm = 1856.2, ris.SNerv[1][2] = 18.5625; }, false},
+  {"rib, not absolute", [] { for (int p = 1; p <= 8; ++p) ris.SNerv[1][p] = -50; }, true},
   {"rib Z, 3", [] { ris.SNerv[1][3] = 19.001; }, false},
   {"rib Z, 8", [] { ris.SNerv[1][8] = 19.001; }, false},
   {"rib Y on the limit", [] { ris.SNerv[1][6] = 19; }, true},
@@ -232,6 +237,7 @@ const CasoLimite CASI[] = {
   {"concrete on the limit", [] { ris.SMaxCls[1] = 0.11; }, true},
   {"concrete, judged to one decimal", [] { ris.SMaxCls[1] = 0.1104; }, true},     // 11.04 -> 11
   {"concrete", [] { ris.SMaxCls[1] = 0.1106; }, false},
+  {"concrete, halves go up", [] { nodo.MatCls.SAmm = 11.2, ris.SMaxCls[1] = 0.1125; }, false},         // 11.25 -> 11.3
 };
 
 TEST_F(RelTA, OgniVerificaEStretta) {
@@ -333,6 +339,18 @@ TEST_F(RelTA, OgniTensioneCoiSuoiDecimali) {
   EXPECT_EQ(Conta(r, "\tZ\t1.54\t\t23.76"), 1u);
   EXPECT_EQ(Conta(r, "\tY\t0.71\t\t23.76"), 1u);
   EXPECT_EQ(Conta(r, "\t\t0.13\t\t0.15"), 1u);                       // 0.131125, 0.14625
+}
+
+// Ratios are rounded with halves upward, unlike the printed stresses.
+TEST_F(RelTA, RapportiAlCentesimoPerEccesso) {
+  Sestetti(1);
+  suite.DecTensioni = 4;
+  Acciaio235(), nodo.MatTir.Fyk = 5152;                  // limits 2582.5, and 2582.5 / 1.7320508 = 1491.007: 1491
+  ris.SigmaTir[1][1] = 6.45625, ris.TauTir[1][1] = 3.7275;   // a quarter of each: 0.25^2 + 0.25^2 = 0.125
+  ris.Saldature[1].SPrp[1][1] = 1.0625;                  // 106.25 / 0.85 / 1000 = 0.125
+  const RigheFile r = Relazione();
+  EXPECT_EQ(Conta(r, "\t1\t64.5625\t\t37.275\t0.13\t0\t\t0"), 1u);
+  EXPECT_EQ(Conta(r, "\tS1\t10.625\t0\t0\t0.13"), 1u);
 }
 
 TEST_F(RelTA, OgniClasseMaLaPrimaEII) {

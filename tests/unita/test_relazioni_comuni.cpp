@@ -93,8 +93,14 @@ TEST_F(RelazioniComuni, NumeriArrotondati) {
   EXPECT_EQ(Voce({0.00005, 5}), "5E-05");
   EXPECT_EQ(Voce({123456789012345678.0, 2}), "1,23456789012346E+17");
   EXPECT_EQ(Voce({1.23456789, 8}), "1,23456789");
+  EXPECT_EQ(Voce({0.000052, 5}), "5E-05");               // rounded in these forms too
+  EXPECT_EQ(Voce({1.234567894, 8}), "1,23456789");
   EXPECT_DOUBLE_EQ(Arrotonda1(-0.25), -0.2);             // the roundings of the checks go upward
   EXPECT_DOUBLE_EQ(Arrotonda1(2.25), 2.3);
+  EXPECT_DOUBLE_EQ(Arrotonda1(2.2499), 2.2);
+  EXPECT_DOUBLE_EQ(Arrotonda2(0.125), 0.13);
+  EXPECT_DOUBLE_EQ(Arrotonda2(0.12499), 0.12);
+  EXPECT_DOUBLE_EQ(Arrotonda2(-0.125), -0.12);
   EXPECT_FALSE(FaultAritmetico());
 }
 

@@ -111,6 +111,8 @@ TEST_F(SaldatureTest, Aggiunta) {
   EXPECT_DOUBLE_EQ(ris.Saldature[8].Iy, 512000.0 * 5 / 12);
   EXPECT_DOUBLE_EQ(ris.Saldature[8].Iz, 125.0 * 80 / 12);
   EXPECT_DOUBLE_EQ(ris.Saldature[8].PY[2], 12.5);
+  AggiungiSaldatura(0, 0, 0, 100.25, 1, 8);
+  EXPECT_EQ(ris.Saldature[8].Lung, 100.3);             // halves go up
   AggiungiSaldatura(0, 0, 1e-4, 80, 1, 8);             // 0.0001 off: no longer along Y
   EXPECT_NEAR(ris.Saldature[8].Iz, 125.0 * 80 / 12, 1e-6);
   AggiungiSaldatura(5, 5, 5, 5, 1, 9);                 // no length: direction -pi/2, no inertia

@@ -72,6 +72,10 @@ TEST_F(TirafondiTest, CostantiTA) {
   ResistenzeTA();
   EXPECT_EQ(nodo.MatCls.SAmm, 9.75);                   // (30 - 15) / 4 + 6
   EXPECT_EQ(nodo.MatCls.TauCls, 0.1);                  // (15 / 75 + 0.4) 0.15 = 0.09, to one decimal
+  nodo.MatCls.Rck = 100;
+  ResistenzeTA();
+  EXPECT_EQ(nodo.MatCls.SAmm, 4.75);                   // (10 - 15) / 4 + 6
+  EXPECT_EQ(nodo.MatCls.TauCls, 0.1);                  // (-5 / 75 + 0.4) 0.15 = 0.05: halves go up
   nodo.MatCls.Rck = 500;
   ResistenzeTA();
   EXPECT_EQ(nodo.MatCls.SAmm, 14.75);

@@ -85,6 +85,8 @@ TEST_F(SaldatureTA, NormaleETrasversaleNonSiCompongono) { EXPECT_NEAR(Rapporto({
 TEST_F(SaldatureTA, SommaSenzaFattoreSullaTrasversale) {
   EXPECT_NEAR(Rapporto({6, 3, 2}, -1600), -602.0 / 1600, 1e-12);
   EXPECT_NEAR(Rapporto({6, 0, 6}, -1600), -606.0 / 1600, 1e-12);
+  EXPECT_NEAR(Rapporto({-6, 3, -2}, -1600), -602.0 / 1600, 1e-12);   // absolute values
+  EXPECT_NEAR(Rapporto({-6, 0, -6}, -1600), -606.0 / 1600, 1e-12);
 }
 
 TEST_F(SaldatureTA, CoefficientiDeiTreAcciai) {
@@ -177,6 +179,21 @@ TEST_F(SaldatureTA, LimitiArrotondatiAlDecimo) {
   EXPECT_EQ(l.SRfAdm, 4143.5);                                 // 1801.5 x 2.3 = 4143.45, from the rounded limit
 }
 
+// Halves go up, the rest to the nearest tenth: 1600.25, 1600.21, 1600.28; each limit by itself.
+TEST_F(SaldatureTA, LimitiAlDecimoPiuVicino) {
+  const struct { double SAmm, limite; } casi[] = {{1600.25, 1600.3}, {1600.21, 1600.2}, {1600.28, 1600.3}};
+  for (const auto& c : casi) {
+    nodo.MatAcc.SAmm = c.SAmm;
+    const LimitiTA l = CalcolaLimitiTA(1, 2);
+    EXPECT_EQ(l.SAdmPiastra, c.limite);
+    EXPECT_EQ(l.SAdmNerv, c.limite);
+    EXPECT_EQ(l.SAdmSald, c.limite);
+  }
+  EXPECT_EQ(CalcolaLimitiTA(1, 1.1).SRfAdm, 1760.3);           // 1600.3 x 1.1 = 1760.33
+  nodo.MatTir.Fyk = 6520;
+  EXPECT_EQ(CalcolaLimitiTA(1, 2).SAdmTir, 3268.2);            // 3268.1704
+}
+
 TEST_F(SaldatureTA, LimitiOltre40mm) {
   nodo.SpessPiastra = 40, nodo.SpNerv = 40;
   EXPECT_EQ(CalcolaLimitiTA(1, 2).SAdmPiastra, 1900);
@@ -206,6 +223,13 @@ TEST_F(SaldatureTA, CoefficienteDiRifollamento) {
   EXPECT_EQ(CalcolaCoeffRifollamento(), 1.3);
   nodo.TfY[3] = 479;                                           // 1.05 -> 1.1
   EXPECT_EQ(CalcolaCoeffRifollamento(), 1.1);
+  nodo.TfY[3] = 475.8;                                         // 1.21 -> 1.2
+  EXPECT_EQ(CalcolaCoeffRifollamento(), 1.2);
+  nodo.TfY[3] = 400, nodo.TfY[1] = 24.2, nodo.TfZ[2] = 350;
+  EXPECT_EQ(CalcolaCoeffRifollamento(), 1.2);
+  nodo.TfY[1] = 50, nodo.TfZ[2] = 375.8;
+  EXPECT_EQ(CalcolaCoeffRifollamento(), 1.2);
+  nodo.TfY[3] = 479;
   nodo.TfZ[4] = nodo.TfY[4] = nodo.TfY[2] = nodo.TfZ[3] = 1;   // the other coordinates take no part
   EXPECT_EQ(CalcolaCoeffRifollamento(), 1.1);
   EXPECT_FALSE(FaultAritmetico());
