@@ -64,11 +64,21 @@ TEST_F(Dxf, VuotoMaValido) {
   EXPECT_EQ(File(), Righe(" 0|SECTION| 2|HEADER| 9|$EXTMIN| 10|0| 20|0| 30|0.0| 9|$EXTMAX| 10|0| 20|0| 30|0.0| 0|ENDSEC|" + TABELLE + CODA));
 }
 
+// The extents start from coordinate 0, also where the table is empty.
+TEST_F(Dxf, EstensioniDallaCoordinataZero) {
+  disegno.CoordX[0] = 7;
+  disegno.CoordY[0] = -3;
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
+  EXPECT_EQ(File().find(Righe(" 0|SECTION| 2|HEADER| 9|$EXTMIN| 10|7| 20|-3| 30|0.0| 9|$EXTMAX| 10|7| 20|-3| 30|0.0| 0|ENDSEC|")), 0u);
+  EXPECT_EQ(Entita(), "");
+}
+
 TEST_F(Dxf, ColoriETipi) {
   const int attesi[] = {18, 7, 5, 1, 3, 2, 8, 6, 7};
   for (int c = 0; c <= 8; ++c) {
     EXPECT_EQ(ColoreDxf(c, 0), attesi[c]);
     EXPECT_EQ(ColoreDxf(c, 1), 7);
+    EXPECT_EQ(ColoreDxf(c, 2), attesi[c]);              // 1 alone
   }
   EXPECT_EQ(ColoreDxf(-1, 0), 7);
   const char* const tipi[] = {"CONTINUOUS", "CENTER", "DASHED", "DIVIDE", "DASHED2", "CONTINUOUS"};
@@ -103,6 +113,10 @@ TEST_F(Dxf, Testi) {
   EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
   EXPECT_EQ(Entita(), Righe(" 0|TEXT| 8|0| 10|1| 20|2| 30|0.0| 40|20| 1|a%%cb]| 50|-90| 41|.5| 62|8|"
                             " 0|TEXT| 8|0| 10|1| 20|2| 30|0.0| 40|20| 1|%%c| 50|0| 41|.75|"));
+  AzzeraDisegno();
+  DisTesto("t", 1, 2, 0, 2, 2.5, std::int16_t{1});      // 20 and 25 tenths
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
+  EXPECT_EQ(Entita(), Righe(" 0|TEXT| 8|0| 10|1| 20|2| 30|0.0| 40|2.5| 1|t| 50|0| 41|.8|"));
 }
 
 TEST_F(Dxf, TestoSenzaAltezzaFermaIlFile) {
@@ -191,6 +205,14 @@ TEST_F(Dxf, ApertoSoloSeSiPuo) {
   EXPECT_FALSE(SalvaDxf(assente, 0, 0, 0, 0, 0));
   EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] esclamazione | NODO COLONNA - PLINTO | ERRORE: non riesco ad aprire il file " + assente});
   EXPECT_EQ(disegno.EstXMax, 77);
+}
+
+// Each mode is on with 1 alone; the final box is left out above 0.
+TEST_F(Dxf, ModiConUnoSolo) {
+  DisTesto("t", 0, 0, 0, 1, 1, std::int16_t{3});
+  EXPECT_TRUE(SalvaDxf(nome, 2, 2, 0, 2, -1));
+  EXPECT_EQ(Entita(), Righe(" 0|TEXT| 8|0| 10|0| 20|0| 30|0.0| 40|1| 1|t| 50|0| 41|1| 62|1|"));
+  EXPECT_EQ(registratore.eventi.size(), 1u);
 }
 
 class Tratteggio : public Dxf {
@@ -291,6 +313,37 @@ TEST_F(Tratteggio, NelFileConMessaggio) {
                             " 0|LINE| 8|0| 10|0| 20|0| 30|0.0| 11|0| 21|5| 31|0.0|"));
   EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] nessuna | SALVA FILE DXF | Le linee tratteggiate sono state disgregate "
     "ipotizzando una scala di plottaggio 1:10\\nFile " + nome + " salvato."});
+}
+
+// Without a scale the pattern's own lengths, and no line about it in the box; with 2 the lines stay whole.
+TEST_F(Tratteggio, SenzaScala) {
+  Modello(modello);
+  disegno.TipoLinCorr = 1;
+  DisLinea(nullptr, 0, 0, 4, 0, std::int16_t{1});
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 1, 0));
+  EXPECT_EQ(Entita(), Righe(" 0|LINE| 8|0| 10|0| 20|0| 30|0.0| 11|3| 21|0| 31|0.0|"));
+  EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] nessuna | SALVA FILE DXF | File " + nome + " salvato."});
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 2, 1));
+  EXPECT_NE(Entita().find("DASHED2"), std::string::npos);
+}
+
+// The pattern goes on from line to line of one pass, continuous ones left aside: 3 full, of which 1 is left for the second line of 2;
+// then a gap of which 1 is left. The axis behind it begins with that gap, and goes on with its own strokes of 1 full and 1 gap.
+TEST_F(Tratteggio, DaUnaLineaAllaSeguente) {
+  Modello(modello);
+  disegno.TipoLinCorr = 1;
+  DisLinea(nullptr, 0, 0, 2, 0, std::int16_t{1});
+  disegno.TipoLinCorr = 0;
+  DisLinea(nullptr, 0, 5, 7, 5, std::int16_t{1});
+  disegno.TipoLinCorr = 1;
+  DisLinea(nullptr, 0, 10, 2, 10, std::int16_t{1});
+  disegno.TipoLinCorr = 3;
+  DisLinea(nullptr, 0, 20, 3, 20, std::int16_t{1});
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 1, 1, 1));
+  EXPECT_EQ(Entita(), Righe(" 0|LINE| 8|0| 10|0| 20|0| 30|0.0| 11|2| 21|0| 31|0.0|"
+                            " 0|LINE| 8|0| 10|0| 20|5| 30|0.0| 11|7| 21|5| 31|0.0|"
+                            " 0|LINE| 8|0| 10|0| 20|10| 30|0.0| 11|1| 21|10| 31|0.0|"
+                            " 0|LINE| 8|0| 10|1| 20|20| 30|0.0| 11|2| 21|20| 31|0.0|"));
 }
 
 TEST_F(Tratteggio, SenzaModelliLineeIntere) {

@@ -15,6 +15,7 @@
 #include "drawing/formats/scrittori.h"
 #include "drawing/saldature_dis.h"
 #include "model/suite.h"
+#include "panels/InsDati.h"
 #include "panels/comandi_disegno.h"
 
 namespace {
@@ -83,6 +84,7 @@ TEST_F(Grb, LimiteDeiTesti) {
 }
 
 TEST_F(Grb, Quote) {
+  disegno.OffX = 1000;
   disegno.OffY = 50;
   QuotaGrb("", 0, 0, 100, 0.00009, 3.5, 7);
   QuotaGrb("  12 ", 0, 0, 0.00009, 100, 0, 7);
@@ -97,8 +99,10 @@ TEST_F(Grb, Quote) {
   EXPECT_EQ(disegno.QuoTesto[2], "Stringa_di_default");
   EXPECT_EQ(disegno.QuoDist[0], 3.5);
   EXPECT_EQ(disegno.QuoStile[0], 7);
-  EXPECT_EQ(Y(disegno.QuoIni[0]), 50);
-  EXPECT_EQ(X(disegno.QuoFin[0]), 100);
+  EXPECT_EQ(X(disegno.QuoIni[2]), 1000);
+  EXPECT_EQ(Y(disegno.QuoIni[2]), 50);
+  EXPECT_EQ(X(disegno.QuoFin[2]), 1100);
+  EXPECT_EQ(Y(disegno.QuoFin[2]), 150);
 }
 
 // Strictly below the tolerance only.
@@ -129,6 +133,8 @@ TEST_F(Grb, LimiteDelleQuote) {
 TEST_F(Grb, Riga4) {
   EXPECT_EQ(Riga4("12", "345", "-1", "H"), std::string(18, ' ') + "12" + std::string(17, ' ') + "345" + std::string(18, ' ') + "-1" + std::string(19, ' ') + "H");
   EXPECT_EQ(Riga4("123456789012345678901", "a", "b", " "), "12345678901234567890 " + std::string(18, ' ') + "a " + std::string(18, ' ') + "b");
+  const std::string lungo = "12345678901234567890x", campo = "1234567890123456789";      // the other fields hold 19
+  EXPECT_EQ(Riga4(lungo, lungo, lungo, lungo), "12345678901234567890 " + campo + " " + campo + " " + campo);
 }
 
 // One of each table by hand.
@@ -295,6 +301,9 @@ TEST_F(Grb, EstensioniDellUltimoDis) {
   ASSERT_TRUE(EsportaDisegno(cartella + "\\altro.dis", 1, "dis"));
   ASSERT_TRUE(EsportaGrb(nome, 1));
   EXPECT_EQ(File().find("0\r\n 0             0 \r\n 0             0 \r\n"), std::string::npos);
+  disegno.EstXMin = -1, disegno.EstXMax = 2, disegno.EstYMin = -3, disegno.EstYMax = 4;
+  ASSERT_TRUE(EsportaGrb(nome, 1));            // as they stand, whatever is drawn
+  EXPECT_NE(File().find("0\r\n-1             2 \r\n-3             4 \r\n"), std::string::npos);
 }
 
 TEST_F(Grb, QuoteDaCapoAOgniDisegno) {
@@ -382,7 +391,9 @@ TEST_F(GenDis, FormatoDelFiltro) {
     EXPECT_EQ(File(nomi[filtro - 1]).find(inizi[filtro - 1]), 0u) << filtro;
   }
   registratore.file.push_back({cartella + "/b.dis", 1});     // the filter decides, not the name
+  insDati.CartellaDialogo = cartella;
   ScegliFileDisegno();
+  EXPECT_EQ(insDati.CartellaDialogo, "");                    // the next dialog opens where this one ended
   EXPECT_EQ(File("/b.dis").find(inizi[0]), 0u);
   EXPECT_FALSE(registratore.attesa);
   EXPECT_EQ(registratore.eventi[5], "[messaggio] nessuna | SALVA FILE DXF | File " + cartella + "/a.dxf salvato.");
@@ -437,11 +448,21 @@ TEST_F(GenDis, DialogoFallitoConUnNome) {
 }
 
 TEST_F(GenDis, TipoInOgniMaiuscola) {
-  EXPECT_TRUE(EsportaDisegno(cartella + "\\a.dxf", 2, "dXf"));
+  EXPECT_TRUE(EsportaDisegno(cartella + "\\a.dxf", 2, "dXf"));          // its box comes all the same
+  EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] nessuna | SALVA FILE DXF | File " + cartella + "\\a.dxf salvato."});
   EXPECT_FALSE(EsportaDisegno(cartella + "\\a.grb", 2, "GRB"));          // has its own command
   EXPECT_FALSE(EsportaDisegno(cartella + "\\a.pdf", 2, "PDF"));
   EXPECT_TRUE(ScriviSvg(cartella + "\\a.svg"));
   EXPECT_NE(File("/a.svg").find("</svg>"), std::string::npos);
+}
+
+// The sheet with texts as texts, lines whole though there are patterns, and colours.
+TEST_F(GenDis, DxfSenzaModi) {
+  suite.DirCustom = cartella;
+  ScriviByte(cartella + "/tipilinea.txt", "0\r\n2\r\n3\r\n2\r\n0\r\n0\r\n2\r\n3\r\n2\r\n");
+  ASSERT_TRUE(EsportaDisegno(cartella + "\\a.dxf", 0, "DXF"));
+  const std::string t = File("/a.dxf");
+  for (const char* c : {" 0\r\nTEXT\r\n", " 6\r\nCENTER\r\n", " 6\r\nDASHED2\r\n", " 62\r\n5\r\n"}) EXPECT_NE(t.find(c), std::string::npos) << c;
 }
 
 TEST_F(GenDis, FaultSenzaFile) {

@@ -120,11 +120,9 @@ static int ScriviLineeSpezzate(const Dxf& f, double scala) {
   const Disegno& d = disegno;
   StatoTratteggio stato;
   std::vector<TrattoLinea> tratti;
-  int spezzate = 0, tipoPrima = 0;
+  int spezzate = 0;
   for (int i = 0; i < d.NumLinee; ++i) {
     const int a = d.LinIni[i], b = d.LinFin[i], tipo = d.LinTipo[i];
-    if (tipo > 0 && tipo != tipoPrima) stato = {};       // the pattern goes on within its type
-    if (tipo > 0) tipoPrima = tipo;
     if (tipo <= 0 || !SpezzaLinea(d.CoordX[a], d.CoordY[a], d.CoordX[b], d.CoordY[b], tipo, stato, false, scala, tratti)) {
       ScriviLinea(f, i);
       continue;

@@ -25,7 +25,8 @@ static bool DisegnaEdizioneDis() {
 }
 
 static bool EsportaDis(const std::string& nomeFile, int silenzioso) { return DisegnaEdizioneDis() && SalvaDis(nomeFile, silenzioso); }
-static bool EsportaDxf(const std::string& nomeFile, int silenzioso) { return DisegnaEdizioneDis() && SalvaDxf(nomeFile, 0, 0, 0, 0, silenzioso); }
+// The writer with all its options at 0, the boxes among them; deliberate.
+static bool EsportaDxf(const std::string& nomeFile, int) { return DisegnaEdizioneDis() && SalvaDxf(nomeFile, 0, 0, 0, 0, 0); }
 static bool EsportaSvg(const std::string& nomeFile, int silenzioso) { return DisegnaEdizioneDis() && SalvaSvg(nomeFile, silenzioso); }
 
 bool EsportaDisegno(const std::string& nomeFile, int silenzioso, std::string_view tipo) {

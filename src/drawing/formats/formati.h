@@ -1,5 +1,5 @@
 // drawing/formats/formati.h - the formats of the executive drawing, and the commands that draw the sheet anew and write it.
-// nomeFile    suite path; silenzioso: 0 all boxes, 1 and above no success box, 2 no box of a failed write.
+// nomeFile    suite path; silenzioso: 0 all boxes, 1 and above no success box, 2 no box of a failed write; DXF shows all of them always.
 // Returns     true: the file was written. A failure has shown its box; an arithmetic fault ends the drawing and leaves no file.
 #pragma once
 #include <string>
