@@ -57,10 +57,12 @@ TEST_F(Archivio, ColoreZeroDiventaUno) {
   EXPECT_EQ(disegno.ArcCol[0], 1);
   EXPECT_EQ(disegno.TesCol[0], 1);
   EXPECT_EQ(disegno.LinCol[1], 1);
+  DisLinea(nullptr, 0, 0, 3, 0, std::int16_t{-2});           // 0 alone
+  EXPECT_EQ(disegno.LinCol[2], -2);
 }
 
 TEST_F(Archivio, TipoDiLinea) {
-  disegno.LinTipo[3] = 9;
+  disegno.LinTipo[0] = disegno.LinTipo[3] = 9;
   const std::int16_t stili[] = {0, 1, 3, 2};
   for (int i = 0; i < 4; ++i) {
     disegno.TipoLinCorr = stili[i];
@@ -87,6 +89,11 @@ TEST_F(Archivio, ToleranzaStrettaSuiDueAssi) {
   EXPECT_EQ(IndiceCoord(0.00009, 0.00009), 0);
   EXPECT_EQ(IndiceCoord(0.0001, 0), 1);
   EXPECT_EQ(IndiceCoord(-0.0001, 0.00001), 2);
+  EXPECT_EQ(IndiceCoord(0, 0.0001), 3);
+  AzzeraDisegno();
+  IndiceCoord(0, 0);
+  IndiceCoord(0.00015, 0);
+  EXPECT_EQ(IndiceCoord(0.00008, 0), 1);       // both are near: the newest
 }
 
 TEST_F(Archivio, SoloLeLineeSpingonoLeEstensioni) {
@@ -97,11 +104,22 @@ TEST_F(Archivio, SoloLeLineeSpingonoLeEstensioni) {
   EXPECT_EQ(disegno.YMin, -2);
   EXPECT_EQ(disegno.XMax, 3);
   EXPECT_EQ(disegno.YMax, 4);
+  DisLinea(nullptr, 30, 40, -10, -20);         // both ends push, whichever comes first
+  EXPECT_EQ(disegno.XMin, -10);
+  EXPECT_EQ(disegno.YMin, -20);
+  EXPECT_EQ(disegno.XMax, 30);
+  EXPECT_EQ(disegno.YMax, 40);
+  disegno.NumCerchi = 2;
   AzzeraDisegno();
   EXPECT_EQ(disegno.NumCoord + disegno.NumLinee + disegno.NumArchi + disegno.NumTesti + disegno.NumCerchi, 0);
-  EXPECT_EQ(disegno.XMax, 3);                  // emptying leaves the extents
+  EXPECT_EQ(disegno.XMax, 30);                 // emptying leaves the extents
+  EXPECT_EQ(disegno.YMax, 40);
+  EXPECT_EQ(disegno.XMin, -10);
+  EXPECT_EQ(disegno.YMin, -20);
   AzzeraEstensioni();
   EXPECT_EQ(disegno.XMax, -1e10);
+  EXPECT_EQ(disegno.YMax, -1e10);
+  EXPECT_EQ(disegno.XMin, 1e10);
   EXPECT_EQ(disegno.YMin, 1e10);
 }
 
@@ -125,6 +143,24 @@ TEST_F(Archivio, ArcoECerchio) {
   ASSERT_EQ(disegno.NumArchi, 4);
   EXPECT_EQ(disegno.ArcIni[3], disegno.ArcIni[2]);
   EXPECT_EQ(disegno.ArcFin[3], disegno.ArcIni[2]);
+}
+
+// The diameter is measured, not the radius; of a large circle too the end is the start, and not a turn of 6.283184 farther, which would
+// miss it by 1.3 mm on a radius of a kilometre.
+TEST_F(Archivio, CerchiPiccoliEGrandi) {
+  disegno.OffX = 100;
+  disegno.OffY = 1000;
+  disegno.ArcTipo[0] = 9;
+  disegno.TipoLinCorr = 1;
+  DisArco(nullptr, 0, 7, 0.00015);
+  DisArco(nullptr, 0, 7, 2e6);
+  ASSERT_EQ(disegno.NumArchi, 2);
+  EXPECT_EQ(disegno.CoordX[disegno.ArcCen[0]], 100);
+  EXPECT_EQ(disegno.CoordY[disegno.ArcCen[0]], 1007);
+  EXPECT_EQ(disegno.ArcTipo[0], 0);            // an arc is continuous, whatever the current style
+  EXPECT_EQ(disegno.ArcTipo[1], 0);
+  EXPECT_EQ(disegno.ArcIni[1], disegno.ArcFin[1]);
+  EXPECT_EQ(disegno.CoordX[disegno.ArcIni[1]], 1000100);
 }
 
 TEST_F(Archivio, TestoInDecimiAlPari) {
@@ -192,6 +228,7 @@ TEST_F(Archivio, TabellaPiena) {
   DisTesto("a", 700, 0, 0, 1, 1);
   EXPECT_EQ(disegno.NumArchi, 0);
   EXPECT_EQ(disegno.NumTesti, 0);
+  EXPECT_TRUE(registratore.eventi.empty());    // the box came with the last place
 }
 
 TEST_F(Archivio, La32768esimaCoordinataEUnFault) {
@@ -202,6 +239,7 @@ TEST_F(Archivio, La32768esimaCoordinataEUnFault) {
   EXPECT_TRUE(FaultAritmetico());
   EXPECT_TRUE(disegno.Interrotto);
   EXPECT_EQ(disegno.NumCoord, 32767);
+  EXPECT_EQ(disegno.NumLinee, 0);              // its start had a place, its end has none: taken back
   const int linee = disegno.NumLinee;
   DisLinea(nullptr, 7, 7, 7, 8);               // nothing is stored any more
   EXPECT_EQ(disegno.NumLinee, linee);
@@ -239,17 +277,27 @@ TEST_F(Archivio, NumeroFuoriDaSediciBit) {
 
 TEST_F(Archivio, SullaTela) {
   disegno.DestDis = {};
-  disegno.OffX = 1000;                         // never for a canvas
+  disegno.OffX = disegno.OffY = 1000;          // never for a canvas
   suite.ParNodo[19] = 1;
   Tela t;
   t.primoPiano = 0x00C000;
-  DisLinea(&t, 0, 0, 1, 2);
+  DisLinea(&t, -3, -4, 1, 2);
   DisLinea(&t, 0, 0, 0, 0.00001);
   DisLinea(&t, 0, 0, 3, 0, std::int16_t{3});
   DisArco(&t, 5, 6, 8, {}, 1.0, 2.0);
-  ASSERT_EQ(t.tratti.size(), 3u);
+  DisLineaRel(&t, 10, 20, 3, 4, std::int16_t{0});            // only in the store is 0 replaced
+  ASSERT_EQ(t.tratti.size(), 4u);
+  EXPECT_EQ(t.tratti[0].x1, -3);
+  EXPECT_EQ(t.tratti[0].y1, -4);
   EXPECT_EQ(t.tratti[0].x2, 1);
+  EXPECT_EQ(t.tratti[0].y2, 2);
   EXPECT_EQ(t.tratti[0].colore, 0x00C000);
+  EXPECT_EQ(t.tratti[2].xc, 5);
+  EXPECT_EQ(t.tratti[2].yc, 6);
+  EXPECT_EQ(t.tratti[2].colore, 0x00C000);
+  EXPECT_EQ(t.tratti[3].x1, 10);
+  EXPECT_EQ(t.tratti[3].y2, 24);
+  EXPECT_EQ(t.tratti[3].colore, 0);
   EXPECT_EQ(t.tratti[1].colore, 0x000080);
   EXPECT_EQ(t.tratti[2].raggio, 4);
   EXPECT_EQ(t.tratti[2].a1, 1.0);
@@ -269,6 +317,8 @@ TEST_F(Archivio, Tavolozze) {
   const std::int32_t altra[] = {0xFFFFFF, 0, 0xFFFF00, 0x0000FF, 0x00FF00, 0x00FFFF, 0x0080FF, 0xFF00FF, 0xFFFFFF};
   for (int i = 0; i <= 8; ++i) EXPECT_EQ(RgbDaColore(i), altra[i]);
   EXPECT_EQ(RgbDaColore(-1), 0xFFFFFF);
+  suite.ParNodo[19] = 0.5;                     // 1 alone has the other one
+  EXPECT_EQ(RgbDaColore(1), 0);
 }
 
 TEST_F(Archivio, OrdinaVett) {

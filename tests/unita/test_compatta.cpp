@@ -64,6 +64,20 @@ TEST_F(Compatta, NascostaSottoContinua) {
   EXPECT_EQ(disegno.NumCoord, 2);
 }
 
+// 0.00004 mm beyond the end make the way over it 0.00008 longer, 0.00006 make 0.00012. An axis counts as a hidden line does.
+TEST_F(Compatta, ToleranzaDelCoperto) {
+  Linea(0, 0, 10, 0, 1, 0);
+  Linea(2, 0, 10.00004, 0, 2, 1);
+  Linea(2, 0, 8, 0, 4, 0);
+  Linea(0, 50, 10, 50, 1, 0);
+  Linea(2, 50, 10.00006, 50, 3, 1);
+  CompattaDisegno();
+  ASSERT_EQ(disegno.NumLinee, 4);
+  EXPECT_EQ(disegno.LinCol[1], 4);
+  EXPECT_EQ(disegno.LinCol[3], 3);
+  EXPECT_EQ(disegno.LinTipo[3], 1);
+}
+
 TEST_F(Compatta, ContinuaSopraNascostaAncheSeVieneDopo) {
   Linea(0, 0, 10, 0, 2, 4);
   Linea(0, 0, 10, 0, 1, 0);
@@ -143,15 +157,38 @@ TEST_F(Compatta, ArchiDoppi) {
   EXPECT_EQ(disegno.ArcTipo[3], 1);
 }
 
+// Any one reference that differs keeps the arc; those that agree only after the merging of coordinates stay two.
+TEST_F(Compatta, ArchiConUnRiferimentoDiverso) {
+  for (int i = 0; i < 4; ++i) Coord(i * 10, 0);
+  Coord(10, 0);
+  Arco(0, 1, 0, 2);
+  Arco(3, 1, 0, 2);
+  Arco(0, 3, 0, 2);
+  Arco(0, 1, 3, 2);
+  Arco(0, 4, 0, 2);
+  CompattaDisegno();
+  ASSERT_EQ(disegno.NumArchi, 5);
+  EXPECT_EQ(disegno.ArcIni[4], 1);
+}
+
 TEST_F(Compatta, TestiVuoti) {
   for (int i = 0; i < 4; ++i) Coord(i * 10, 0);
   Testo(0, 0, 10, "a");
-  Testo(1, 10, 10, "b");
+  Testo(1, 12, 14, "b");
   Testo(2, 10, 0, "c");
   Testo(3, -5, 10, "d");
+  Testo(1, 1, 1, "e");                        // a tenth is a size
+  disegno.TesCol[1] = 5;
+  disegno.TesAllin[1] = 2;
   CompattaDisegno();
-  ASSERT_EQ(disegno.NumTesti, 1);
+  ASSERT_EQ(disegno.NumTesti, 2);
   EXPECT_EQ(disegno.TesStr[0], "b");
+  EXPECT_EQ(disegno.TesLarg[0], 12);
+  EXPECT_EQ(disegno.TesAlt[0], 14);
+  EXPECT_EQ(disegno.TesAng[0], 1);
+  EXPECT_EQ(disegno.TesCol[0], 5);
+  EXPECT_EQ(disegno.TesAllin[0], 2);
+  EXPECT_EQ(disegno.TesStr[1], "e");
   EXPECT_EQ(disegno.TesPos[0], 0);
   EXPECT_EQ(disegno.NumCoord, 1);
   EXPECT_EQ(disegno.CoordX[0], 10);
@@ -164,6 +201,23 @@ TEST_F(Compatta, CoordinateVicineLontaneNellaTabella) {
   CompattaDisegno();
   EXPECT_EQ(disegno.LinIni[0], disegno.LinIni[41]);
   EXPECT_EQ(disegno.CoordX[disegno.LinIni[41]], 5);
+}
+
+// Centres, both, starts and places of texts go to the first of the near coordinates; what nothing refers to any more is removed.
+TEST_F(Compatta, UnioneDiArchiETesti) {
+  Coord(0, 0);
+  Coord(5, 0);
+  const int centro = Coord(0, 0.00009), inizio = Coord(5, 0.00009);
+  Arco(0, 1, 0, 1, 2);
+  Arco(centro, inizio, centro, 1, 3);
+  Testo(inizio, 10, 10, "a");
+  CompattaDisegno();
+  ASSERT_EQ(disegno.NumArchi, 2);
+  EXPECT_EQ(disegno.ArcCen[1], 0);
+  EXPECT_EQ(disegno.ArcIni[1], 1);
+  EXPECT_EQ(disegno.ArcCen2[1], 0);
+  EXPECT_EQ(disegno.TesPos[0], 1);
+  EXPECT_EQ(disegno.NumCoord, 2);
 }
 
 TEST_F(Compatta, LEstremoDellArcoTieneIlSuo) {
@@ -328,7 +382,8 @@ void ConfrontaCon(const Disegno& a) {
     ASSERT_TRUE(d.ArcCen[i] == a.ArcCen[i] && d.ArcIni[i] == a.ArcIni[i] && d.ArcCen2[i] == a.ArcCen2[i] && d.ArcFin[i] == a.ArcFin[i] &&
                 d.ArcCol[i] == a.ArcCol[i] && d.ArcTipo[i] == a.ArcTipo[i]) << i;
   for (int i = 0; i < d.NumTesti; ++i)
-    ASSERT_TRUE(d.TesPos[i] == a.TesPos[i] && d.TesAng[i] == a.TesAng[i] && d.TesStr[static_cast<std::size_t>(i)] == a.TesStr[static_cast<std::size_t>(i)]) << i;
+    ASSERT_TRUE(d.TesPos[i] == a.TesPos[i] && d.TesAng[i] == a.TesAng[i] && d.TesLarg[i] == a.TesLarg[i] && d.TesAlt[i] == a.TesAlt[i] && d.TesCol[i] == a.TesCol[i] &&
+                d.TesStr[static_cast<std::size_t>(i)] == a.TesStr[static_cast<std::size_t>(i)]) << i;
 }
 
 using Caso = std::mt19937;

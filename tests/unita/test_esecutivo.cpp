@@ -30,6 +30,38 @@ TEST_F(FoglioDisegno, PostoDelleViste) {
   // Schedule: 588 + 90, 400; first cell's text: "Prof." in a column of "HEX 200" + 2 = 9 characters.
   TestoA(TrovaTesto("Prof."), 678 + 45 - 25, 400 - 22.5 + 3.75, 0, 1);
   EXPECT_EQ(disegno.ColCorr, 2);
+  OX = 678, OY = 400;                          // its lines in their own colour
+  Linea(0, 0, 0, -45, 1);
+}
+
+// Tenths of mm: titles 25 x 18, dimensions, weld names and the detail's label 15 x 10.
+TEST_F(FoglioDisegno, MisureDeiTesti) {
+  Disegna();
+  for (const char* t : {"SEZIONE B-B", "SEZIONE C-C", "TIRAFONDO", "A", "HEX 200"}) {
+    EXPECT_EQ(disegno.TesAlt[TrovaTesto(t)], 250) << t;
+    EXPECT_EQ(disegno.TesLarg[TrovaTesto(t)], 180) << t;
+  }
+  for (const char* t : {"280", "S1", "piatto 70x70x10"}) {
+    EXPECT_EQ(disegno.TesAlt[TrovaTesto(t)], 150) << t;
+    EXPECT_EQ(disegno.TesLarg[TrovaTesto(t)], 100) << t;
+    EXPECT_EQ(disegno.TesCol[TrovaTesto(t)], 6) << t;
+  }
+}
+
+// The detail twice as large stands at -450 - 0.8 x 700 = -1010 and -872 - 310 x 2 - 7.5 x 25 - 3 x 15 = -1724.5; its chains keep to its own
+// extents: right of 34 at 97 and 172, left of -274 at -337, above 620 at 690.
+TEST_F(FoglioDisegno, PostoDelDettaglio) {
+  suite.ParNodo[19] = 2;
+  OX = -1010, OY = -1724.5;
+  Disegna();
+  Linea(-20, 620, 20, 620, 2);
+  nodo.TipoTirafondo = 1;
+  Disegna();
+  Linea(-16, 620, 16, 620, 2);
+  Linea(97, 540, 97, 620, 5);
+  Linea(172, -480, 172, 620, 5);
+  Linea(-337, -480, -337, 420, 5);
+  Linea(-20, 690, 20, 690, 5);
 }
 
 TEST_F(FoglioDisegno, TitoloConINodi) {
@@ -54,6 +86,12 @@ TEST_F(FoglioDisegno, SenzaQuoteLeVisteSiAvvicinano) {
     ASSERT_GE(i, 0) << t;
     EXPECT_EQ(disegno.TesCol[i], 6) << t;
   }
+  suite.ParNodo[15] = 2;                       // only 1 draws chains
+  Disegna();
+  EXPECT_DOUBLE_EQ(esecutivo.BoxBXMax, 450);
+  EXPECT_DOUBLE_EQ(esecutivo.BoxAXMax, -1010 + 500);
+  EXPECT_DOUBLE_EQ(esecutivo.BoxCYMin, -627 - 350 - 187.5 - 385);
+  EXPECT_LT(TrovaTesto("280"), 0);
 }
 
 TEST_F(FoglioDisegno, SenzaDistinta) {
@@ -66,6 +104,9 @@ TEST_F(FoglioDisegno, SenzaDistinta) {
   for (int i = 0; i < disegno.NumLinee; ++i) ASSERT_TRUE(disegno.LinIni[i] == con->LinIni[i] && disegno.LinFin[i] == con->LinFin[i]);
   for (int i = 0; i < disegno.NumTesti; ++i) ASSERT_EQ(disegno.TesStr[static_cast<std::size_t>(i)], con->TesStr[static_cast<std::size_t>(i)]);
   EXPECT_EQ(con->TesStr[static_cast<std::size_t>(disegno.NumTesti)], "Prof.");
+  suite.ParNodo[18] = 2;                       // only 1 draws it
+  Disegna();
+  EXPECT_LT(TrovaTesto("Prof."), 0);
 }
 
 TEST_F(FoglioDisegno, NomiDelleSaldature) {
@@ -75,7 +116,13 @@ TEST_F(FoglioDisegno, NomiDelleSaldature) {
   nodo.SaldInt = 1;
   Disegna();
   EXPECT_EQ(ContaTesti("S19"), 3);             // both sides carry it
-  for (const int s : {-1, 1}) EXPECT_GE(TrovaLinea(s * 83, -85, s * 83, 85, 0, -1409.5), 0);  // inside the flanges
+  OY = -1409.5;
+  for (const int s : {-1, 1}) {
+    Linea(s * 83, -85, s * 83, 85, 9);         // inside the flanges, without strokes at the ends
+    Manca(s * 90, -85, s * 83, -85);
+    Manca(s * 90, 85, s * 83, 85);
+    Linea(s * 90, -85, s * 90, 85, 2);         // and the line itself
+  }
   EXPECT_EQ(ContaTesti("S9"), 1);
 }
 
@@ -131,6 +178,11 @@ TEST_F(FoglioDisegno, SaldaturaInternaSoloUno) {
   EXPECT_EQ(ContaTesti("S9"), 0);
   EXPECT_EQ(ContaTesti("S19"), 0);
   EXPECT_EQ(ContaTesti("S20"), 1);
+  OY = -1409.5;
+  for (const int s : {-1, 1}) {
+    Manca(s * 83, -85, s * 83, 85);
+    Linea(s * 90, -85, s * 90, 85, 2);
+  }
 }
 
 TEST_F(FoglioDisegno, GolaNullaSenzaMarchi) {

@@ -74,6 +74,15 @@ TEST_F(Carattere, RigheVuoteSaltateETestoSenzaNumeroZero) {
   EXPECT_EQ(font.FontY[int{'A'}][0], 99);
 }
 
+// Numbers of a point to the nearest integer, a half to the even one: .6 is 1, .4 and .5 are 0.
+TEST_F(Carattere, PuntiArrotondati) {
+  ASSERT_TRUE(Leggi("0\r\nA.6.4.5.6\r\n"));
+  EXPECT_EQ(font.FontX[int{'A'}][0], 1);
+  EXPECT_EQ(font.FontY[int{'A'}][0], 0);
+  EXPECT_EQ(font.FontX[int{'A'}][1], 0);
+  EXPECT_EQ(font.FontY[int{'A'}][1], 1);
+}
+
 TEST_F(Carattere, CodiceAnsiDelleAccentate) {
   ASSERT_TRUE(Leggi("0\r\n\xE0" "11223344\r\n"));            // a with grave accent in Windows-1252
   EXPECT_EQ(font.FontN[0xE0], 2);
@@ -171,6 +180,11 @@ TEST_F(Modello, NumeroDiStiliFuoriTabella) {
   EXPECT_FALSE(Leggi("testa\r\n1,2,0\r\nquanti\r\n101\r\n" + coda));
   EXPECT_FALSE(Leggi("testa\r\n1,2,0\r\nquanti\r\n-1\r\n" + coda));
   EXPECT_FALSE(Leggi("testa\r\n1,2,0\r\nquanti\r\n99999\r\n" + coda));
+  std::string cento, uno = "uno\r\n18,25,1,7\r\nfine\r\n";
+  for (int i = 0; i < 100; ++i) cento += uno;
+  EXPECT_TRUE(Leggi("testa\r\n1,2,0\r\nquanti\r\n100\r\n" + cento + coda));
+  EXPECT_EQ(stiliGrb.AltStile[100], 25);
+  EXPECT_FALSE(Leggi("testa\r\n1,2,0\r\nquanti\r\n101\r\n" + cento + uno + coda));    // also when they are all there
 }
 
 }  // namespace

@@ -92,6 +92,19 @@ TEST_F(Dis, EstensioniPrimaDellaPulizia) {
   EXPECT_EQ(disegno.EstXMax, 500);             // they outlive the file
 }
 
+// From coordinate 0, not from the origin.
+TEST_F(Dis, EstensioniLontanoDallOrigine) {
+  for (const int s : {1, -1}) {
+    AzzeraDisegno();
+    DisLinea(nullptr, s * 10, s * 30, s * 20, s * 40);
+    CalcolaEstensioni();
+    EXPECT_EQ(disegno.EstXMin, s > 0 ? 10 : -20);
+    EXPECT_EQ(disegno.EstXMax, s > 0 ? 20 : -10);
+    EXPECT_EQ(disegno.EstYMin, s > 0 ? 30 : -40);
+    EXPECT_EQ(disegno.EstYMax, s > 0 ? 40 : -30);
+  }
+}
+
 TEST_F(Dis, VuotoMaValido) {
   EXPECT_TRUE(SalvaDis(nome, 2));
   EXPECT_EQ(File(), "                   4\r\n 0             0 \r\n 0             0 \r\n-10000.000000        10000.000000\r\n"

@@ -41,7 +41,9 @@ TEST_F(Misure, Orizzontale) {
   EXPECT_EQ(disegno.CoordX[disegno.LinIni[0]], 0);           // ends ordered left to right
   EXPECT_EQ(disegno.CoordX[disegno.ArcIni[0]], 2);           // diameter 4
   EXPECT_EQ(disegno.ArcIni[0], disegno.ArcFin[0]);
+  EXPECT_EQ(disegno.CoordX[disegno.ArcIni[1]], 102);
   EXPECT_EQ(disegno.LinCol[0], 7);
+  EXPECT_EQ(disegno.ArcCol[0], 7);
   EXPECT_EQ(disegno.ArcCol[1], 7);
   EXPECT_EQ(disegno.TesCol[0], 6);
   EXPECT_EQ(disegno.TesStr[0], "100");
@@ -71,6 +73,7 @@ TEST_F(Misure, Obliqua) {
 
 TEST_F(Misure, DegenereNonDisegnaNulla) {
   Quota("titolo", 5, 5.00005, 7, 7);
+  DisQuota("titolo", 5, 5, 7, 7, -1, 6, 10, 15, 0, 1);       // a text alone neither
   EXPECT_EQ(disegno.NumTesti + disegno.NumLinee + disegno.NumArchi, 0);
 }
 
@@ -158,12 +161,15 @@ TEST_F(Misure, LargoQuantoLaLineaResta) {
   EXPECT_DOUBLE_EQ(Y(1), 80);
 }
 
-// Only -1 is text alone; colour 0 arrives as 1.
+// Only -1 is text alone; colour 0 arrives as 1, another negative one as it is.
 TEST_F(Misure, ColoreZeroHaLaLinea) {
   DisQuota("", 0, 100, 0, 0, 0, 6, 10, 15, 5, 1);
   ASSERT_EQ(disegno.NumLinee, 1);
   EXPECT_EQ(disegno.LinCol[0], 1);
   EXPECT_EQ(disegno.NumArchi, 2);
+  DisQuota("", 0, 100, 50, 50, -2, 6, 10, 15, 5, 1);
+  ASSERT_EQ(disegno.NumLinee, 2);
+  EXPECT_EQ(disegno.LinCol[1], -2);
 }
 
 TEST_F(Misure, FuoriCatenaIlTestoLargoResta) {
@@ -269,6 +275,11 @@ TEST_F(Catene, TirafondiY) {
 
 TEST_F(Catene, Fori) {
   Attesa(QuoteForiZ, false, {-190, -90, 90, 190});
+  Attesa(QuoteForiY, false, {-230, -130, 130, 230});
+  nodo.TfZ[6] = nodo.TfZ[8] = 210;                           // the middle hole is drawn about 0
+  nodo.TfY[6] = 260;
+  nodo.OptionNTir = 3;
+  Attesa(QuoteForiZ, false, {-190, -90, -50, 50, 90, 190});
   Attesa(QuoteForiY, false, {-230, -130, 130, 230});
   nodo.OptionNTir = 1;
   Attesa(QuoteForiZ, false, {-190, -90, -50, 50, 90, 190});
@@ -402,6 +413,14 @@ TEST_F(Marchi, GolaNullaNessunMarchio) {
   EXPECT_EQ(disegno.NumLinee, 1);
 }
 
+// Nil alone draws nothing: a negative throat has no strokes between, and its parallel line on the other side.
+TEST_F(Marchi, GolaNegativa) {
+  nodo.Gola = -7;
+  DisSaldatura(nullptr, 0, 0, 20, 0, 1, 2, 3);
+  ASSERT_EQ(disegno.NumLinee, 1);
+  Segmento(0, {0, -7, 20, -7});
+}
+
 TEST_F(Marchi, LineaSaldata) {
   disegno.ColCorr = 4;
   DisLineaSald(0, 0, 20, 0, 1, 2, 3);
@@ -445,6 +464,9 @@ TEST_F(Marchi, Angoli) {
     EXPECT_EQ(disegno.ArcCol[q], 3);
   }
   EXPECT_EQ(disegno.ArcCol[4], 6);
+  nodo.Gola = 1000;                                          // four quarters of 3.141592 end 0.0013 short of where they began
+  DisAngoloSald(nullptr, 0, 0, 4);
+  EXPECT_DOUBLE_EQ(disegno.CoordY[disegno.ArcFin[5]], 1000 * std::sin(2 * 3.141592));
 }
 
 }  // namespace

@@ -148,9 +148,12 @@ TEST_F(Pezzi, DettaglioUncinato) {
 
 TEST_F(Pezzi, DettaglioUncinatoSenzaQuote) {
   nodo.TipoTirafondo = 1;
-  suite.ParNodo[15] = 0;
-  DettaglioTirafondo();
-  EXPECT_EQ(disegno.NumTesti, 0);
+  for (const double quote : {0.0, 2.0}) {      // 1 alone draws chains
+    suite.ParNodo[15] = quote;
+    Vuota();
+    DettaglioTirafondo();
+    EXPECT_EQ(disegno.NumTesti, 0);
+  }
 }
 
 // k = 2: yc = -620 + 1000 + 100 + 40 = 520, the rod's top at (520 - 120 - 90) x 2 = 620.
@@ -160,6 +163,7 @@ TEST_F(Pezzi, DettaglioConPiastra) {
   Linea(-20, 620, 20, 620, 2);
   Linea(-20, 616, 20, 616, 9);
   Linea(-16, 620, -16, 420, 9);                // thread as deep as TfDForo
+  Linea(16, 620, 16, 420, 9);
   Linea(-20, 420, 20, 420, 2);
   // plate's lower face: 310 - 120 - 450 = -260, times 2
   Linea(-20, 620, -20, -480, 2);
@@ -233,6 +237,37 @@ TEST_F(Tabelle, BlocchiConNervature) {
   for (const double x : {0.0, 120.0, 160.0, 230.0}) Linea(x, -225, x, -270, 4);
 }
 
+// Every cell in its order.
+TEST_F(Tabelle, Celle) {
+  nodo.NTir = 6;
+  Distinta();
+  const char* const celle[] = {
+    "Prof.", "h", "b", "a", "e", "HEX 200", "200", "180", "10", "15",
+    "N. piastre", "lz", "ly", "s", "1", "400", "500", "20",
+    "Nome", "l", "h", "s", "Y", "500", "150", "8", "Z", "400", "150", "8",
+    "N. t.fondi", "]", "L tot", "6", "20", "620",
+    "Sald.", "lungh", "lato", "S1", "146", "7",          // along the web: 200 - 2 (15 + 12)
+  };
+  ASSERT_GE(disegno.NumTesti, 42);
+  for (std::size_t i = 0; i < std::size(celle); ++i) EXPECT_EQ(disegno.TesStr[i], celle[i]) << i;
+}
+
+// Characters of 20 x 12 in their own colour: rows of 30, columns of 9, 5 and so on characters, cells raised by 5 and centred.
+TEST_F(Tabelle, MisureProprie) {
+  suite.ParNodo[11] = 20;
+  suite.ParNodo[12] = 12;
+  edizione = EdizioneDis();
+  Distinta();
+  Linea(0, -30, 12 * 27, -30, 4);              // 9 + 5 + 5 + 4 + 4
+  Linea(108, 0, 108, -60, 4);
+  const int i = TrovaTesto("Prof.");
+  EXPECT_DOUBLE_EQ(disegno.CoordX[disegno.TesPos[i]], (9 - 5) * 6);
+  EXPECT_DOUBLE_EQ(disegno.CoordY[disegno.TesPos[i]], -25);
+  EXPECT_EQ(disegno.TesAlt[i], 200);
+  EXPECT_EQ(disegno.TesLarg[i], 120);
+  EXPECT_EQ(disegno.TesCol[i], 1);
+}
+
 TEST_F(Tabelle, BlocchiSenzaNervature) {
   nodo.TipoNodo = 1;
   CostruisciSaldature();
@@ -241,6 +276,11 @@ TEST_F(Tabelle, BlocchiSenzaNervature) {
   EXPECT_DOUBLE_EQ(Y("N. t.fondi"), -7 * 22.5 + 3.75);
   EXPECT_DOUBLE_EQ(Y("Sald."), -10 * 22.5 + 3.75);
   EXPECT_DOUBLE_EQ(Y("S8"), -18 * 22.5 + 3.75);
+  nodo.NumSaldature = 9;                       // without ribs no row is left out
+  ris.Saldature[9].Nome = "S9";
+  Vuota();
+  Distinta();
+  EXPECT_DOUBLE_EQ(Y("S9"), -19 * 22.5 + 3.75);
 }
 
 TEST_F(Tabelle, RigheDelleSaldature) {
@@ -275,6 +315,11 @@ TEST_F(Tabelle, LunghezzaDellUncino) {
   nodo.TipoTirafondo = 1;
   Distinta();
   EXPECT_GE(TrovaTesto("1219.9"), 0);
+  nodo.TipoTirafondo = 2;                      // 1 alone has a hook
+  Vuota();
+  Distinta();
+  EXPECT_LT(TrovaTesto("1219.9"), 0);
+  EXPECT_GE(TrovaTesto("620"), 0);
 }
 
 }  // namespace
