@@ -147,9 +147,9 @@ TEST_F(Dxf, ArchiECerchi) {
 
 // A radius of the tolerance is written; ends at the tolerance from each other make an arc.
 TEST_F(Dxf, ArchiAlLimiteDellaTolleranza) {
-  const double x[] = {0, 0.0001, 5, 5}, y[] = {0, 0, 0, 0.0001};
-  for (int i = 0; i < 4; ++i) disegno.CoordX[i] = x[i], disegno.CoordY[i] = y[i];
-  disegno.NumCoord = 4;
+  const double x[] = {0, 0.0001, 5, 5, 5, 5.00009}, y[] = {0, 0, 0, 0.0001, 0.00009, 0.00009};
+  for (int i = 0; i < 6; ++i) disegno.CoordX[i] = x[i], disegno.CoordY[i] = y[i];
+  disegno.NumCoord = 6;
   disegno.ArcIni[0] = disegno.ArcFin[0] = 1;
   disegno.ArcIni[1] = 2;
   disegno.ArcFin[1] = 3;
@@ -158,6 +158,11 @@ TEST_F(Dxf, ArchiAlLimiteDellaTolleranza) {
   EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
   const std::string t = Entita();
   EXPECT_EQ(t.find(Righe(" 0|CIRCLE| 8|0| 10|0| 20|0| 30|0.0| 40|.0001| 0|ARC|")), 0u) << t;
+  disegno.ArcIni[0] = disegno.ArcIni[1] = 2;
+  disegno.ArcFin[0] = 4;                                // two coordinates, 0.00009 from each other
+  disegno.ArcFin[1] = 5;                                // that much on both axes: 0.00013 by distance
+  EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
+  EXPECT_EQ(Entita().find(Righe(" 0|CIRCLE| 8|0| 10|0| 20|0| 30|0.0| 40|5| 0|ARC|")), 0u) << Entita();
 }
 
 TEST_F(Dxf, OrdineLineeTestiArchi) {
@@ -197,6 +202,21 @@ TEST_F(Dxf, TestiComeLinee) {
   EXPECT_EQ(Entita(), Righe(" 0|LINE| 8|0| 10|110| 20|69| 30|0.0| 11|110| 21|0| 31|0.0| 62|1|"
                             " 0|LINE| 8|0| 10|308| 20|69| 30|0.0| 11|308| 21|0| 31|0.0| 62|1|"
                             " 0|LINE| 8|0| 10|10| 20|69| 30|0.0| 11|10| 21|0| 31|0.0|"));
+}
+
+// 9.9 x 6.9 upward: a tenth of the glyph's units, turned; the quarter turn of 3.141592 / 2 leaves 3.3E-7 of the 1 along. Colour 7 of the
+// file, here by monochrome, is not written.
+TEST_F(Dxf, TestiComeLineeRuotati) {
+  font.FontN[int{'I'}] = 2;
+  font.FontX[int{'I'}][0] = font.FontX[int{'I'}][1] = 10;
+  font.FontY[int{'I'}][0] = 99;
+  font.FontY[int{'I'}][1] = 30;
+  DisTesto("I", 0, 0, 90, 9.9, 6.9, std::int16_t{3});
+  EXPECT_TRUE(SalvaDxf(nome, 1, 1, 0, 0, 1));
+  const std::string t = Entita();
+  EXPECT_EQ(t.find(Righe(" 0|LINE| 8|0| 10|-6.8999996")), 0u) << t;
+  EXPECT_NE(t.find(Righe("| 20|1.00000")), std::string::npos) << t;
+  EXPECT_EQ(t.find(" 62\r\n"), std::string::npos);
 }
 
 TEST_F(Dxf, ApertoSoloSeSiPuo) {

@@ -135,6 +135,13 @@ TEST_F(FoglioDisegno, FaultDaScalaNulla) {
   EXPECT_FALSE(FaultAritmetico());
 }
 
+// A fault of an earlier command is not this drawing's.
+TEST_F(FoglioDisegno, FaultDiPrima) {
+  SegnalaFault();
+  EXPECT_TRUE(DisegnaFoglio());
+  EXPECT_TRUE(registratore.eventi.empty());
+}
+
 TEST_F(FoglioDisegno, FaultDaGolaMinuscola) {
   nodo.Gola = 0.001;
   EXPECT_FALSE(DisegnaFoglio());

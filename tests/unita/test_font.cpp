@@ -107,6 +107,15 @@ TEST_F(Carattere, MappaDelGlifo) {
   EXPECT_DOUBLE_EQ(t[2].x1, 1000 + 2 * 99 + 10);             // no glyph: the pen still advances
 }
 
+// A letter of the text becomes the byte of its code, whatever it is.
+TEST_F(Carattere, MappaDelleAccentate) {
+  ASSERT_TRUE(Leggi("0\r\n\xE0" "10991030\r\n"));
+  const std::vector<TrattoTesto> t = TrattiTesto("aàa", 0, 0, 0, 99, 69);
+  ASSERT_EQ(t.size(), 1u);
+  EXPECT_DOUBLE_EQ(t[0].x1, 109);
+  EXPECT_DOUBLE_EQ(t[0].y1, 69);
+}
+
 TEST_F(Carattere, MappaRuotataEStretta) {
   ASSERT_TRUE(Leggi("50\r\nL10991030\r\n"));
   const std::vector<TrattoTesto> t = TrattiTesto("LL", 0, 0, 90, 99, 69);

@@ -219,6 +219,7 @@ TEST_F(Grb, DifferenzeDelleViste) {
   const int p = TrovaTesto("Prof.");
   EXPECT_DOUBLE_EQ(TX(p), 450 + 5 * largo + 11 * largo / 2);
   EXPECT_DOUBLE_EQ(TY(p), 400 - 48 + 12);
+  EXPECT_EQ(disegno.TesCol[p], 1);
   const int q = TrovaTesto("N. piastre");
   EXPECT_DOUBLE_EQ(TX(q), 450 + 5 * largo + 6 * largo);      // 12 characters, fixed
   EXPECT_DOUBLE_EQ(TY(q), 400 - 4 * 48 + 12);

@@ -244,8 +244,10 @@ class Catene : public Misure {
 TEST_F(Catene, Piastra) {
   Attesa([](double x) { QuoteQuotePiastra(x, 2); }, true, {-80, -70, -20, 0, 50, 150});
   Attesa([](double x) { QuoteQuotePiastra(x, 1); }, true, {-80, -70, -20, 0, 150});
-  nodo.TipoNodo = 1;
-  Attesa([](double x) { QuoteQuotePiastra(x, 2); }, true, {-80, -70, -20, 0});
+  for (const int tipo : {1, 3}) {
+    nodo.TipoNodo = static_cast<std::int16_t>(tipo);
+    Attesa([](double x) { QuoteQuotePiastra(x, 2); }, true, {-80, -70, -20, 0});
+  }
 }
 
 TEST_F(Catene, FondazioneEMalta) {

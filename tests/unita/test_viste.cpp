@@ -31,6 +31,33 @@ TEST_F(FoglioDisegno, TerziTirafondiDalloSchema) {
   }
 }
 
+// View B-B takes the first and the second, its section the second; of a loaded joint the others need not stand in line with them.
+TEST_F(FoglioDisegno, TirafondiDiBB) {
+  nodo.TfZ[3] = 80, nodo.TfZ[4] = 300;
+  Prepara();
+  VistaBB();
+  EXPECT_EQ(esecutivo.ForiX[0], -140);
+  EXPECT_EQ(esecutivo.ForiX[1], 140);
+  Linea(140, 120, 140, -627, 4, 1);
+}
+
+// What is being drawn when a view begins counts for nothing.
+TEST_F(FoglioDisegno, OgniVistaCominciaContinua) {
+  nodo.TipoNodo = 1;
+  for (void (*vista)() : {VistaBB, VistaAA, VistaCC}) {
+    Prepara();
+    disegno.TipoLinCorr = 1;
+    disegno.XMin = -7000;
+    esecutivo.VistaX = esecutivo.VistaY = 33;
+    vista();
+    EXPECT_EQ(disegno.LinTipo[0], 0);
+    EXPECT_GT(disegno.XMin, -7000);
+    if (vista == VistaBB) Linea(-200, 0, -200, -20, 3);
+    if (vista == VistaAA) Linea(-250, 0, -250, -20, 3);
+    if (vista == VistaCC) Linea(-155, -180, -125, -180, 2);
+  }
+}
+
 // View A-A takes the second, the fourth and, in both patterns, the sixth, which it draws last; of a loaded joint the first and the
 // third need not stand in line with them.
 TEST_F(FoglioDisegno, TerzoTirafondoDiAA) {
@@ -41,6 +68,7 @@ TEST_F(FoglioDisegno, TerzoTirafondoDiAA) {
     Prepara();
     VistaAA();
     EXPECT_EQ(esecutivo.ForiX[0], -180);
+    Linea(-180, 120, -180, -627, 4, 1);        // the section through the second
     EXPECT_EQ(esecutivo.ForiX[1], 180);
     EXPECT_EQ(esecutivo.ForiX[2], 12);
     Linea(2, 50, 22, 50, 2);
