@@ -182,8 +182,10 @@ TEST_F(Combo62, SelectionEvents) {
   Scegli(insDati.Cviti, 1);
   EXPECT_EQ(nodo.MatTir.Ftk, 4300);
   EXPECT_EQ(insDati.LabNormaTir.testo, "norma 2");
+  materiali.ClsBase[2].GammaC = 1.6;
   Scegli(insDati.ComboCalcestruzzo, 1);
   EXPECT_EQ(nodo.MatCls.Nome, "C25/30");
+  EXPECT_EQ(nodo.MatCls.GammaC, 1.6);                // the whole record
   EXPECT_NEAR(nodo.EcCls, 312201.85778, 1e-5);       // 5700 sqrt(300 / 10) 10 daN/cm2
   Scegli(insDati.ComboCalcestruzzo, 0);
   EXPECT_DOUBLE_EQ(nodo.EcCls, 285000);              // 5700 * 5 * 10

@@ -74,6 +74,22 @@ TEST_F(Pannello71, NumericHeadOfTheText) {
   EXPECT_TRUE(registratore.eventi.empty());
 }
 
+TEST_F(Pannello71, EmptyGeometryIsZero) {
+  Scrivi("LatoTxt", 0, "");
+  Scrivi("LatoTxt", 1, "");
+  EXPECT_EQ(nodo.LatoZ, 0);
+  EXPECT_EQ(nodo.LatoY, 0);
+  Scrivi("LatoTxt", 2, "");
+  Scrivi("LatoTxt", 3, "");
+  EXPECT_EQ(nodo.LatoZ, 280);                        // a margin of 0: the section's sides
+  EXPECT_EQ(nodo.LatoY, 300);
+  for (int i = 1; i <= 4; i++) Scrivi("DTf", i, "");
+  AttendiTirafondi({0, 280, 0, 280}, {0, 0, 300, 300});
+  for (int i = 0; i < 2; i++) Scrivi("HFazzTxt", i, "");
+  Scrivi("GolaTxt", SENZA_INDICE, "");
+  for (const double v : {nodo.HNerv, nodo.SpNerv, nodo.Gola, nodo.GolaCalc}) EXPECT_EQ(v, 0);
+}
+
 TEST_F(Pannello71, AnOverflowIsAFailedStepAndKeepsTheValue) {
   Scrivi("LatoTxt", 4, "1e999");
   EXPECT_TRUE(passi.fallito);

@@ -423,6 +423,19 @@ TEST_F(Lista72, MaxMinKeepsTheExtremesOnce) {
   EXPECT_EQ(insDati.Soll.testo, "n° 4 [daN, daNcm]");
 }
 
+// A class of one group gives that group, once.
+TEST_F(Lista72, MaxMinOfASingleGroupOfAClass) {
+  nodo.NumSoll = 3;
+  Gruppo(1, 4);
+  Gruppo(2, 7, 0, 0, 0, 0, 0, 1);
+  Gruppo(3, 6);
+  Premi(insDati.MaxMin);
+  ASSERT_EQ(nodo.NumSoll, 3);
+  const double N[] = {6, 4, 7};                      // class I: maximum, minimum; class II behind
+  for (int n = 1; n <= 3; n++) EXPECT_EQ(nodo.SollN[n], N[n - 1]);
+  EXPECT_EQ(nodo.SollCC[3], 1);
+}
+
 // With its sign: of -5, 3 and 1 the maximum is 3, the minimum -5.
 TEST_F(Lista72, MaxMinWithTheSign) {
   for (int k = 0; k < 6; k++) {

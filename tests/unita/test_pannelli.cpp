@@ -234,6 +234,7 @@ TEST_F(Pannelli_, ProprietaDeiMateriali) {
   nodo.MatAcc.GammaM = 1.05;
   nodo.MatAcc.GammaMT = 1.1;
   nodo.MatTir = nodo.MatAcc;
+  nodo.MatTir.Nome = "S 275 J";
   nodo.MatTir.Ftk = 4300;
   nodo.MatVit.GammaM2 = 1.25;
   nodo.MatCls.Nome = "C25/30";
@@ -248,7 +249,7 @@ TEST_F(Pannelli_, ProprietaDeiMateriali) {
       {"fdLabel", "261.9"},                               // 275 / 1.05 = 261.905
       {"fdtLabel", "250"}, {"fd40Label", "-"},            // a negative stress
       {"SAmmILabel", "190"}, {"SAmmIILabel", "213.75"},
-      {"FrameTir", "Tirafondi - [NTC08 11.3.4.1] - Tipo S 275 (FE 430)"},
+      {"FrameTir", "Tirafondi - [NTC08 11.3.4.1] - Tipo S 275 J"},
       {"fyTirLabel", "275"}, {"gMTirLabel", "1.25"}, {"fydTirLabel", "220"}, {"ftTirLabel", "430"}, {"ftdTirLabel", "344"},
       {"SAmmITirLabel", "190"}, {"TauAmmITirLabel", "109.7"},        // 190 / sqrt 3 = 109.697
       {"TauAmmIITirLabel", "123.41"},                     // 123.409

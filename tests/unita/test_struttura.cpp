@@ -169,7 +169,9 @@ TEST_F(Struttura, AsteDiNumeroZeroONegativoNonContano) {
 }
 
 TEST_F(Struttura, NodoInesistenteEFileAssente) {
+  ASSERT_EQ(AsteDelNodo(20), EsitoAste::Trovate);
   EXPECT_EQ(AsteDelNodo(25), EsitoAste::Fallito);         // between the model's 20 and 30
+  EXPECT_EQ(collegamento.NumAsteNodo, 3);                 // the list is emptied only for a node that exists
   AttesoSolo("[messaggio] nessuna | ERRORE | Errore: nodo inesistente");
   registratore.eventi.clear();
   EXPECT_EQ(AsteDelNodo(50), EsitoAste::Fallito);
@@ -294,6 +296,9 @@ TEST_F(Struttura, AstaAssenteSiNegaENodoAssenteFerma) {
   Nodi({20, 77});
   EXPECT_FALSE(NodiAste());
   AttesoSolo("[messaggio] esclamazione | ERRORE | Errore: uno o più nodi inesistenti");
+  Nodi({77, 20});
+  EXPECT_FALSE(NodiAste());
+  EXPECT_EQ(registratore.eventi.size(), 2u);
   registratore.eventi.clear();
   Nodi({40});
   Aste({5});
