@@ -271,6 +271,13 @@ TEST_F(Pannello71, ASideMovesTheAnchorsOfTheFarEdge) {
   Scrivi("LatoTxt", 0, "600");
   AttendiTirafondi({50, 550, 50, 550}, {50, 50, 450, 450});
   EXPECT_EQ(insDati.DTf[2].testo, "50");             // Dz2 itself stays
+  Scrivi("LatoTxt", 1, "700");
+  AttendiTirafondi({50, 550, 50, 550}, {50, 50, 650, 650});
+  EXPECT_EQ(insDati.DTf[4].testo, "50");
+  Scrivi("LatoTxt", 2, "60");                        // 2 * 60 + 280 = 400
+  AttendiTirafondi({50, 350, 50, 350}, {50, 50, 650, 650});
+  Scrivi("LatoTxt", 3, "70");                        // 2 * 70 + 300 = 440
+  AttendiTirafondi({50, 350, 50, 350}, {50, 50, 390, 390});
 }
 
 TEST_F(Pannello71, AnchorLabels) {
@@ -296,6 +303,12 @@ TEST_F(Pannello71, MethodActsOnARealChangeOnly) {
   Scegli("TipoVer", 0);                              // already there
   EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");
   EXPECT_TRUE(materiali.MemoriaMateriali[1].Nome.empty());
+  Scegli("TipoVer", 1);
+  materiali.MemoriaMateriali[0] = materiali.AcciaiBase[5];
+  nodo.MatAcc.Fyk = 1;                               // a new fill would copy the table's record
+  Scegli("TipoVer", 1);
+  EXPECT_EQ(nodo.MatAcc.Fyk, 1);
+  EXPECT_EQ(materiali.MemoriaMateriali[0].Nome, "S 185");
 }
 
 TEST_F(Pannello71, MethodShowsTheLoadClassesOfVisibleRows) {
@@ -363,6 +376,9 @@ TEST_F(Pannello71, PanelAndFramesClearTheStatusLine) {
   }
   ImpostaStato("x");
   PassaTempo(800);
+  Scatena(InsDati, C("Label2", 0), Evento::Passa);   // a control without a text clears nothing
+  EXPECT_TRUE(insDati.Help.visibile);
+  EXPECT_EQ(insDati.Help.testo, "x");
   PassaSulPannello(InsDati);
   EXPECT_FALSE(insDati.Help.visibile);
 }

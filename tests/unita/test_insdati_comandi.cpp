@@ -114,11 +114,14 @@ TEST_F(Pannello71, Canvas) {
 
 // The plan is drawn anew by Enter or a choice, not by each key.
 TEST_F(Pannello71, WhatRedrawsTheSketch) {
+  static bool dipinto;                               // the picture is painted with its new strokes
+  piattaforma.aggiorna = [](Controllo& c) { dipinto = dipinto || (&c == &insDati.Nodo && !insDati.telaNodo.tratti.empty()); };
   const auto ridisegna = [](const char* nome, int i, Evento e) {
     PulisciTela(insDati.telaNodo);
+    dipinto = false;
     if (e == Evento::Invio) Invio(nome, i);
     else Scegli(nome, i);
-    EXPECT_FALSE(insDati.telaNodo.tratti.empty()) << nome << i;
+    EXPECT_TRUE(dipinto) << nome << i;
   };
   for (int i = 0; i < 5; i++) ridisegna("LatoTxt", i, Evento::Invio);
   for (int i = 0; i < 2; i++) ridisegna("HFazzTxt", i, Evento::Invio);

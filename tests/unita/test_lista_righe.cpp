@@ -1,4 +1,4 @@
-// The five rows of the load list one by one: what each field writes and shows, what a row without a group keeps.
+// The five rows of the load list one by one: what each field writes and shows, what a row without a group keeps; the texts.
 #include "corredo/banco_insdati.h"
 #include "model/node_model.h"
 #include "model/suite.h"
@@ -136,6 +136,66 @@ TEST_F(Righe72, TheBarAfterARemoval) {
   EXPECT_EQ(insDati.ScrollSa.massimo, 5);
   EXPECT_EQ(insDati.ScrollSa.scelta, 5);
   EXPECT_EQ(insDati.Lsa[4].testo, "Soll 8");         // group 7
+}
+
+TEST_F(Righe72, LimitStatesHideTheClass) {
+  UtenteSceglie(InsDati, insDati.TipoVer[1], 1);
+  Aggiungi(6);
+  for (const Controllo& c : insDati.CasCar) EXPECT_FALSE(c.visibile);
+  EXPECT_TRUE(insDati.TxtMz[4].visibile);
+}
+
+TEST_F(Righe72, RemovalOutsideTheListDoesNothing) {
+  Aggiungi(2);
+  for (int n : {-1, 0, 3, 201}) RimuoviGruppo(n);
+  EXPECT_EQ(nodo.NumSoll, 2);
+}
+
+// ---- texts ----
+
+TEST_F(Righe72, CaptionsAndStatusTexts) {
+  const struct { Controllo* c; const char* didascalia; const char* stato; } attesi[] = {
+      {&insDati.Singolo, "Agg. sing.", "Cliccare per inserire un nuovo gruppo di sollecitazioni agenti"},
+      {&insDati.RimuoviSA, "Rim. ultimo", "Cliccare per rimuovere l'ultimo gruppo di sollecitazioni della lista"},
+      {&insDati.RimuoviTSA, "Rim. tutto  ", "Cliccare per rimuovere tutti i gruppi di sollecitazioni"},
+      {&insDati.Doppi, "Rim. doppi", "Cliccare per rimuovere i gruppi di sollecitazioni ripetuti più volte"},
+      {&insDati.MaxMin, "Max e min",
+       "Cliccare per ridurre l'elenco di sollecitazioni agenti ai gruppi contenenti le sollecitazioni massime e minime"},
+      {&insDati.Label5, "Origine", "Nomi dei casi di carico (se importati da 3d indicano caso, asta e nodo di provenienza)"},
+      {&insDati.Label27, "N", "Sollecitazioni di sforzo normale"}, {&insDati.Label26, "Ty", "Sollecitazioni di taglio Y"},
+      {&insDati.Label13, "Tz", "Sollecitazioni di taglio Z"}, {&insDati.Label14, "My", "Sollecitazioni di momento Y"},
+      {&insDati.Label16, "Mz", "Sollecitazioni di momento Z"}, {&insDati.Label18, "Mt", "Sollecitazioni di momento torcente"},
+      {&insDati.TxtSN[0], "", "Inserire il valore della sollecitazione di sforzo normale"},
+      {&insDati.TxtTy[1], "", "Inserire il valore della sollecitazione di taglio Y"},
+      {&insDati.TxtTz[2], "", "Inserire il valore della sollecitazione di taglio Z"},
+      {&insDati.TxtMt[3], "", "Inserire il valore della sollecitazione di momento torcente"},
+      {&insDati.TxtMy[4], "", "Inserire il valore della sollecitazione di momento Y"},
+      {&insDati.TxtMz[0], "", "Inserire il valore della sollecitazione di momento Z"}};
+  for (const auto& a : attesi) {
+    insDati.StatoTxt.clear();
+    EXPECT_EQ(a.c->testo, a.didascalia);
+    Scatena(InsDati, *a.c, Evento::Passa);
+    EXPECT_EQ(insDati.StatoTxt, a.stato);
+  }
+  insDati.StatoTxt = "prima";                        // none of its own
+  Scatena(InsDati, insDati.Label4, Evento::Passa);
+  EXPECT_EQ(insDati.StatoTxt, "prima");
+  EXPECT_EQ(insDati.Label4.testo, "C.c. II");
+  EXPECT_EQ(insDati.EsportaSollButt.testo, "Esporta su file");
+  EXPECT_EQ(insDati.ImpS3D.testo, "Imp. 3D");
+}
+
+TEST_F(Righe72, NameTellsOfTheDoubleClickOnlyWhileNotEmpty) {
+  insDati.StatoTxt = "prima";
+  Scatena(InsDati, insDati.Lsa[0], Evento::Passa);
+  EXPECT_EQ(insDati.StatoTxt, "prima");
+  Aggiungi(1);
+  Scatena(InsDati, insDati.Lsa[0], Evento::Passa);
+  EXPECT_EQ(insDati.StatoTxt, "Doppio click per rimuovere il gruppo di sollecitazioni");
+  Scrivi("Lsa", 0, "");                        // a visible row without a name
+  insDati.StatoTxt = "prima";
+  Scatena(InsDati, insDati.Lsa[0], Evento::Passa);
+  EXPECT_EQ(insDati.StatoTxt, "prima");
 }
 
 }  // namespace

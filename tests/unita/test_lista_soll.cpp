@@ -286,12 +286,6 @@ TEST_F(Lista72, RemovalClipsTheBarAndAtFiveDisablesIt) {
   EXPECT_FALSE(insDati.EsportaSollButt.abilitato);
 }
 
-TEST_F(Lista72, RemovalOutsideTheListDoesNothing) {
-  Aggiungi(2);
-  for (int n : {-1, 0, 3, 201}) RimuoviGruppo(n);
-  EXPECT_EQ(nodo.NumSoll, 2);
-}
-
 TEST_F(Lista72, CopyTakesAllEight) {
   Gruppo(3, 1, 2, 3, 4, 5, 6, 1);
   nodo.SollNome[3] = "tre";
@@ -328,13 +322,6 @@ TEST_F(Lista72, AggiornaRighe) {
   EXPECT_EQ(RigheVisibili(), 0);
   Barra(false, 3, 3);
   EXPECT_FALSE(insDati.EsportaSollButt.abilitato);
-}
-
-TEST_F(Lista72, LimitStatesHideTheClass) {
-  UtenteSceglie(InsDati, insDati.TipoVer[1], 1);
-  Aggiungi(6);
-  for (const Controllo& c : insDati.CasCar) EXPECT_FALSE(c.visibile);
-  EXPECT_TRUE(insDati.TxtMz[4].visibile);
 }
 
 // ---- doubles ----
@@ -436,6 +423,18 @@ TEST_F(Lista72, MaxMinOfASingleGroupOfAClass) {
   EXPECT_EQ(nodo.SollCC[3], 1);
 }
 
+// Doubles go before the extremes are looked for: the second group, greater by less than the tolerance, is no maximum.
+TEST_F(Lista72, MaxMinOfGroupsWithoutDoubles) {
+  nodo.NumSoll = 3;
+  Gruppo(1, 5);
+  Gruppo(2, 5.00005);
+  Gruppo(3, 1);
+  Premi(insDati.MaxMin);
+  ASSERT_EQ(nodo.NumSoll, 2);
+  EXPECT_EQ(nodo.SollN[1], 5);
+  EXPECT_EQ(nodo.SollN[2], 1);
+}
+
 // With its sign: of -5, 3 and 1 the maximum is 3, the minimum -5.
 TEST_F(Lista72, MaxMinWithTheSign) {
   for (int k = 0; k < 6; k++) {
@@ -489,53 +488,6 @@ TEST_F(Lista72, MaxMinPutsTheSecondClassBehind) {
     EXPECT_EQ(nodo.SollN[n], N[n - 1]);
     EXPECT_EQ(nodo.SollCC[n], cc[n - 1]);
   }
-}
-
-// ---- texts ----
-
-TEST_F(Lista72, CaptionsAndStatusTexts) {
-  const struct { Controllo* c; const char* didascalia; const char* stato; } attesi[] = {
-      {&insDati.Singolo, "Agg. sing.", "Cliccare per inserire un nuovo gruppo di sollecitazioni agenti"},
-      {&insDati.RimuoviSA, "Rim. ultimo", "Cliccare per rimuovere l'ultimo gruppo di sollecitazioni della lista"},
-      {&insDati.RimuoviTSA, "Rim. tutto  ", "Cliccare per rimuovere tutti i gruppi di sollecitazioni"},
-      {&insDati.Doppi, "Rim. doppi", "Cliccare per rimuovere i gruppi di sollecitazioni ripetuti più volte"},
-      {&insDati.MaxMin, "Max e min",
-       "Cliccare per ridurre l'elenco di sollecitazioni agenti ai gruppi contenenti le sollecitazioni massime e minime"},
-      {&insDati.Label5, "Origine", "Nomi dei casi di carico (se importati da 3d indicano caso, asta e nodo di provenienza)"},
-      {&insDati.Label27, "N", "Sollecitazioni di sforzo normale"}, {&insDati.Label26, "Ty", "Sollecitazioni di taglio Y"},
-      {&insDati.Label13, "Tz", "Sollecitazioni di taglio Z"}, {&insDati.Label14, "My", "Sollecitazioni di momento Y"},
-      {&insDati.Label16, "Mz", "Sollecitazioni di momento Z"}, {&insDati.Label18, "Mt", "Sollecitazioni di momento torcente"},
-      {&insDati.TxtSN[0], "", "Inserire il valore della sollecitazione di sforzo normale"},
-      {&insDati.TxtTy[1], "", "Inserire il valore della sollecitazione di taglio Y"},
-      {&insDati.TxtTz[2], "", "Inserire il valore della sollecitazione di taglio Z"},
-      {&insDati.TxtMt[3], "", "Inserire il valore della sollecitazione di momento torcente"},
-      {&insDati.TxtMy[4], "", "Inserire il valore della sollecitazione di momento Y"},
-      {&insDati.TxtMz[0], "", "Inserire il valore della sollecitazione di momento Z"}};
-  for (const auto& a : attesi) {
-    insDati.StatoTxt.clear();
-    EXPECT_EQ(a.c->testo, a.didascalia);
-    Scatena(InsDati, *a.c, Evento::Passa);
-    EXPECT_EQ(insDati.StatoTxt, a.stato);
-  }
-  insDati.StatoTxt = "prima";                        // none of its own
-  Scatena(InsDati, insDati.Label4, Evento::Passa);
-  EXPECT_EQ(insDati.StatoTxt, "prima");
-  EXPECT_EQ(insDati.Label4.testo, "C.c. II");
-  EXPECT_EQ(insDati.EsportaSollButt.testo, "Esporta su file");
-  EXPECT_EQ(insDati.ImpS3D.testo, "Imp. 3D");
-}
-
-TEST_F(Lista72, NameTellsOfTheDoubleClickOnlyWhileNotEmpty) {
-  insDati.StatoTxt = "prima";
-  Scatena(InsDati, insDati.Lsa[0], Evento::Passa);
-  EXPECT_EQ(insDati.StatoTxt, "prima");
-  Aggiungi(1);
-  Scatena(InsDati, insDati.Lsa[0], Evento::Passa);
-  EXPECT_EQ(insDati.StatoTxt, "Doppio click per rimuovere il gruppo di sollecitazioni");
-  Scrivi(insDati.Lsa[0], "");                        // a visible row without a name
-  insDati.StatoTxt = "prima";
-  Scatena(InsDati, insDati.Lsa[0], Evento::Passa);
-  EXPECT_EQ(insDati.StatoTxt, "prima");
 }
 
 }  // namespace
