@@ -374,6 +374,7 @@ TEST_F(Nomi62, ClosedSectionsHaveTheirOwnTable) {
   materiali.NumAcciaiChiusi = 1;
   materiali.AcciaiChiusiBase[1] = materiali.AcciaiBase[3];
   materiali.AcciaiChiusiBase[1].Nome = "S 355 H";
+  materiali.AcciaiChiusiBase[2].Nome = nodo.MatAcc.Nome;   // beyond the table's own count
   ControllaMateriali();                              // S 275 is not in it
   EXPECT_EQ(registratore.eventi.size(), 1u);
   EXPECT_EQ(nodo.MatAcc.Nome, "S 355 H");

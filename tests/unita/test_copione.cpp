@@ -146,6 +146,18 @@ TEST_F(Copione, TrattiDiUnImmagine) {
   EXPECT_EQ(Stampa("mostra InsDati.Nodo"), "InsDati.Nodo = 1 #0080FF, 2 #FF0000\n");
 }
 
+// A line end inside a text is printed as \\n, blanks as they stand, wherever the text comes from.
+TEST_F(Copione, TestiSuUnaRiga) {
+  insDati.Label7.testo = " a\r\nb ";
+  EXPECT_EQ(Stampa("mostra InsDati.Label7"), "InsDati.Label7 =  a\\nb \n");
+  MostraVoci(insDati.ComboEsposizione, {" c\rd ", "e\nf"});
+  EXPECT_EQ(Stampa("voci InsDati.ComboEsposizione"), "InsDati.ComboEsposizione(0) =  c\\nd \nInsDati.ComboEsposizione(1) = e\\nf\n");
+  MostraScelta(insDati.ComboEsposizione, 0);
+  EXPECT_EQ(Stampa("mostra InsDati.ComboEsposizione"), "InsDati.ComboEsposizione = 0 \" c\\nd \"\n");
+  nodo.SollNome[1] = " g\r\nh ";
+  EXPECT_EQ(Stampa("modello SollNome(1)"), "SollNome(1) =  g\\nh \n");
+}
+
 TEST_F(Copione, ListaSenzaScelta) {
   MostraScelta(insDati.TraveP, -1);
   EXPECT_EQ(Stampa("mostra InsDati.TraveP"), "InsDati.TraveP = -1 \"\"\n");

@@ -107,6 +107,21 @@ TEST_F(File, ValoriNumerici) {
   EXPECT_FALSE(passi.fallito);
 }
 
+// A comma ends its value only: the empty one between it and the line's end is a value of its own.
+TEST_F(File, VirgolaInFondoAllaRiga) {
+  FileLettura f = Apri("5,\r\n6\r\na,\r\nb");
+  for (const double atteso : {5., 0., 6.}) {
+    double v = -1;
+    ASSERT_TRUE(LeggiValore(f, v));
+    EXPECT_EQ(v, atteso);
+  }
+  std::string t;
+  for (const char* atteso : {"a", "", "b"}) {
+    ASSERT_TRUE(LeggiValore(f, t));
+    EXPECT_EQ(t, atteso);
+  }
+}
+
 TEST_F(File, UnNumeroFuoriCampoSiConsumaESiSalta) {
   FileLettura f = Apri("1e400\r\n40000\r\n2.5\r\n12\r\n");
   double d = 7;

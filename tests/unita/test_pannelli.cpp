@@ -263,6 +263,15 @@ TEST_F(Pannelli_, ProprietaDeiMateriali) {
   EXPECT_TRUE(propMateriali.FrameTir.visibile);
 }
 
+// A material that the node does not use has no frame.
+TEST_F(Pannelli_, ProprietaSenzaTirafondiNeCalcestruzzo) {
+  materiali.UsaTirafondi = materiali.UsaCls = false;
+  Premi(InsDati, "PropMatButton");
+  EXPECT_TRUE(propMateriali.FrameAcc.visibile);
+  for (const Controllo* c : {&propMateriali.FrameAccPia, &propMateriali.FrameBull, &propMateriali.FrameTir, &propMateriali.FrameCls})
+    EXPECT_FALSE(c->visibile) << c->riga->nome;
+}
+
 TEST_F(Pannelli_, ProprietaConTuttiIRiquadri) {
   materiali.UsaAccPiastre = materiali.UsaViti = true;
   suite.FattTensioni = 1;
@@ -402,6 +411,10 @@ TEST_F(Pannelli_, CalcolatriceCheNonParteONonRisponde) {
   Scatena(InsDati, insDati.TxtSN[0], Evento::Doppio);
   EXPECT_EQ(UltimoEvento(), "[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: il comando non può continuare.");
   EXPECT_EQ(insDati.TxtSN[0].testo, "3");
+  Scrivi(InsDati, "TxtSN", 0, "1e400");                   // no number to convert: nothing runs
+  registratore.eventi.clear();
+  Scatena(InsDati, insDati.TxtSN[0], Evento::Doppio);
+  EXPECT_TRUE(registratore.eventi.empty());
 }
 
 TEST_F(Pannelli_, EsportaSuFile) {
