@@ -112,6 +112,19 @@ TEST(Ingresso, LasciareUnCampoValeInvio) {
   EXPECT_EQ(CampoDi(insDati.LatoTxt[0])->text(), "540");
 }
 
+// The Enter key does the same while the field keeps the focus, also that of the number pad.
+TEST(Ingresso, InvioNelCampo) {
+  const Scena s("invio");
+  QLineEdit* const campo = CampoDi(insDati.LatoTxt[2]);
+  Scrivi(insDati.LatoTxt[2], "120");
+  QTest::keyClick(campo, Qt::Key_Return);
+  EXPECT_EQ(CampoDi(insDati.LatoTxt[0])->text(), "540");          // 2 x 120 + 300
+  EXPECT_TRUE(campo->hasFocus());
+  Scrivi(insDati.LatoTxt[2], "110");
+  QTest::keyClick(campo, Qt::Key_Enter);
+  EXPECT_EQ(CampoDi(insDati.LatoTxt[0])->text(), "520");
+}
+
 TEST(Ingresso, LaVirgolaNonEIlSeparatore) {
   const Scena s("virgola");
   Scrivi(insDati.LatoTxt[4], "12,5");
