@@ -200,6 +200,12 @@ TEST_F(FileNodo, SezioneDiLibreriaEForestiera) {
   r[1] = "hea200";                                 // case counts: foreign
   CaricaByte(lavoro + "x.qb7", Unisci(r));
   EXPECT_EQ(nodo.Sezione.H, 999);
+  for (const int k : {1, static_cast<int>(suite.NumProfili)}) {   // the library's ends
+    r[1] = suite.ProfiliLib[k].Nome;
+    CaricaByte(lavoro + "x.qb7", Unisci(r));
+    EXPECT_EQ(insDati.TraveP.scelta, k - 1);
+    EXPECT_EQ(nodo.Sezione.H, suite.ProfiliLib[k].H);
+  }
   suite.ProfiliLib[40] = suite.ProfiliLib[32];     // the last of two equal names wins
   suite.ProfiliLib[40].H = 352;
   r[1] = suite.ProfiliLib[32].Nome;

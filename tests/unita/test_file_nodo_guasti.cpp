@@ -79,8 +79,10 @@ TEST_F(FileNodoGuasti, PosizioneOltreLaTendinaFiltrata) {
 }
 
 TEST_F(FileNodoGuasti, FileMancante) {
-  const std::string prima = ComponiNodo();
+  UtenteScrive(InsDati, insDati.LatoTxt[4], "15 mm");
   Carica(lavoro + "non_c_e.qb7");
+  EXPECT_EQ(nodo.SpessPiastra, 15);
+  EXPECT_EQ(insDati.LatoTxt[4].testo, "15") << "the panel is brought in line all the same";
   EXPECT_EQ(Box(CARICAMENTO), 1);
   EXPECT_TRUE(esitoFile.fallito);
   EXPECT_FALSE(esitoFile.annullato);
