@@ -71,6 +71,7 @@ TEST_F(Compatta, ToleranzaDelCoperto) {
   Linea(2, 0, 8, 0, 4, 0);
   Linea(0, 50, 10, 50, 1, 0);
   Linea(2, 50, 10.00006, 50, 3, 1);
+  Linea(-0.00004, 0, 5, 0, 5, 4);             // and before its beginning
   CompattaDisegno();
   ASSERT_EQ(disegno.NumLinee, 4);
   EXPECT_EQ(disegno.LinCol[1], 4);
@@ -242,6 +243,29 @@ TEST_F(Compatta, UnioneSenzaCatene) {
   EXPECT_EQ(disegno.LinIni[0], disegno.LinIni[1]);
   EXPECT_NE(disegno.LinIni[2], disegno.LinIni[1]);
   EXPECT_EQ(disegno.CoordX[disegno.LinIni[2]], 0.00008);
+}
+
+// At the tolerance, on either axis, they stay two.
+TEST_F(Compatta, UnioneSottoLaTolleranza) {
+  const int a = Coord(0, 0), x = Coord(0.0001, 0), y = Coord(0, 0.0001), z = Coord(50, 0);
+  for (const int i : {a, x, y}) LineaTra(i, z, 1, 0);
+  CompattaDisegno();
+  EXPECT_EQ(disegno.NumCoord, 4);
+  EXPECT_EQ(disegno.LinIni[1], 1);
+  EXPECT_EQ(disegno.LinIni[2], 2);
+}
+
+// Each of an arc's four references keeps its coordinate.
+TEST_F(Compatta, QuattroRiferimentiDegliArchi) {
+  Coord(900, 900);
+  for (int i = 0; i < 4; ++i) Coord(10 * i, 0);
+  Arco(1, 2, 3, 4);
+  CompattaDisegno();
+  ASSERT_EQ(disegno.NumCoord, 4);
+  EXPECT_EQ(disegno.ArcCen[0], 0);
+  EXPECT_EQ(disegno.ArcIni[0], 1);
+  EXPECT_EQ(disegno.ArcCen2[0], 2);
+  EXPECT_EQ(disegno.ArcFin[0], 3);
 }
 
 TEST_F(Compatta, Vuoto) {

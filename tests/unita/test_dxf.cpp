@@ -115,8 +115,10 @@ TEST_F(Dxf, Testi) {
                             " 0|TEXT| 8|0| 10|1| 20|2| 30|0.0| 40|20| 1|%%c| 50|0| 41|.75|"));
   AzzeraDisegno();
   DisTesto("t", 1, 2, 0, 2, 2.5, std::int16_t{1});      // 20 and 25 tenths
+  DisTesto("u", 1, 2, 0, 0.2, 0.1, std::int16_t{1});
   EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
-  EXPECT_EQ(Entita(), Righe(" 0|TEXT| 8|0| 10|1| 20|2| 30|0.0| 40|2.5| 1|t| 50|0| 41|.8|"));
+  EXPECT_EQ(Entita(), Righe(" 0|TEXT| 8|0| 10|1| 20|2| 30|0.0| 40|2.5| 1|t| 50|0| 41|.8|"
+                            " 0|TEXT| 8|0| 10|1| 20|2| 30|0.0| 40|.1| 1|u| 50|0| 41|2|"));
 }
 
 TEST_F(Dxf, TestoSenzaAltezzaFermaIlFile) {
@@ -257,6 +259,7 @@ TEST_F(Tratteggio, Lettura) {
   EXPECT_FALSE(LeggiTipiLinea());
   EXPECT_EQ(tipiLinea.TipiLungh[3], 60);
   EXPECT_EQ(tipiLinea.TipiLungh[4], 0);
+  EXPECT_FALSE(passi.fallito);                          // no matter to the command that looks for it
   Modello("12\r\n");
   EXPECT_FALSE(LeggiTipiLinea());
 }
