@@ -262,16 +262,16 @@ const std::vector<std::string> CORPO_RISPOSTE = {"\r\n", "1,,2\r\n", "-\r\n", ",
 
 const std::vector<Lettore>& Lettori() {
   static const std::vector<Lettore> lettori = {
-      {"struttura", "struttur.str", STRUTTURA_MINIMA, OstileStruttura,
+      {"struttura", "struttur.str", 110, STRUTTURA_MINIMA, OstileStruttura,
        {"Caricare e risalvare la struttura in 'Ambiente Grafico'", "Errore: uno o più nodi inesistenti", "Errore: mancata corrispondenza fra aste e nodi",
         "Errore: nodo inesistente", "che concorra nel nodo 20"},
        {"Errore: uno o più nodi inesistenti"}, StrutturaMancante, CorpoStruttura()},
-      {"sezioni", "sezioni_", SEZIONI_MINIME, OstileSezioni, {"Il profilo della colonna non è applicabile"}, {}, nullptr, CorpoSezioni()},
-      {"casi", "combinaz.tot", CASI, OstileCasi, {"Errore: numero di combinazioni eccessivo"}, {}, nullptr, CorpoCasi()},
-      {"risultati", "astec007.bin", FileRisultatiDi(2, 2, 2, DUE_ASTE), OstileRisultati, {"Errore: numero di sollecitazioni eccessivo"}, {}, nullptr, CorpoRisultati()},
-      {"elemento", "risposta", "12,15\r\n", OstileElemento, {"Inserimento dati errato"}, {}, ElementoSenzaRisposta, CORPO_RISPOSTE},
-      {"nodo", "risposta", "0,2\r\n15\r\n1,5\r\nA\r\nB\r\n", OstileNodo, {"Il profilo della colonna non è applicabile"}, {}, NodoSenzaRisposta, CORPO_RISPOSTE},
-      {"calcolatrice", "risposta", " 7.25 \r\n", OstileCalcolatrice, {"Errore aritmetico: il comando non può continuare."}, {}, CalcolatriceSenzaRisposta, CORPO_RISPOSTE},
+      {"sezioni", "sezioni_", 137, SEZIONI_MINIME, OstileSezioni, {"Il profilo della colonna non è applicabile"}, {}, nullptr, CorpoSezioni()},
+      {"casi", "combinaz.tot", 345, CASI, OstileCasi, {"Errore: numero di combinazioni eccessivo"}, {}, nullptr, CorpoCasi()},
+      {"risultati", "astec007.bin", 190, FileRisultatiDi(2, 2, 2, DUE_ASTE), OstileRisultati, {"Errore: numero di sollecitazioni eccessivo"}, {}, nullptr, CorpoRisultati()},
+      {"elemento", "risposta", 52, "12,15\r\n", OstileElemento, {"Inserimento dati errato"}, {}, ElementoSenzaRisposta, CORPO_RISPOSTE},
+      {"nodo", "risposta", 74, "0,2\r\n15\r\n1,5\r\nA\r\nB\r\n", OstileNodo, {"Il profilo della colonna non è applicabile"}, {}, NodoSenzaRisposta, CORPO_RISPOSTE},
+      {"calcolatrice", "risposta", 440, " 7.25 \r\n", OstileCalcolatrice, {"Errore aritmetico: il comando non può continuare."}, {}, CalcolatriceSenzaRisposta, CORPO_RISPOSTE},
   };
   return lettori;
 }

@@ -99,28 +99,28 @@ void CatalogoMancante(const std::string& cartella) {
 
 const std::vector<Lettore>& Lettori() {
   static const std::vector<Lettore> lettori = {
-      {"diametri", "QbDiam.txt", "rem x|\r\nM8|8|38.6|\r\nM20|20|245|\r\nM24|24|353|\r\n", OstileDiametri,
+      {"diametri", "QbDiam.txt", 70, "rem x|\r\nM8|8|38.6|\r\nM20|20|245|\r\nM24|24|353|\r\n", OstileDiametri,
        {"| Errore nella lettura del file QbDiam.txt", "contiene un numero eccessivo di diametri (max 100)"}},
-      {"opzioni", "OpzioniNodi1-5.txt", " 2 \r\n 4 \r\n-3.5 \r\n6,6,2 2\r\n15 10 25 18 15 10 5 6 1 0 5 1 1 7 0 0 0 0 3 1 2\r\n 1E+20 \r\n", OstileOpzioni, {}},
-      {"unita", "parametrilavoro",
+      {"opzioni", "OpzioniNodi1-5.txt", 85, " 2 \r\n 4 \r\n-3.5 \r\n6,6,2 2\r\n15 10 25 18 15 10 5 6 1 0 5 1 1 7 0 0 0 0 3 1 2\r\n 1E+20 \r\n", OstileOpzioni, {}},
+      {"unita", "parametrilavoro", 75,
        "PARAMETRI\r\n9.81 [accelerazione_g]\r\n0 [nord_geografico]\r\ncm [lunghezze]\r\nkgf [forze]\r\ndaNcm [coppie_momenti]\r\nt8cm2 [tensioni]\r\n"
        "cm [dati_sezioni]\r\ndaN8m2 [carichi_superficie]\r\n", OstileUnita, {}},
-      {"profili", "prof_pro",
+      {"profili", "prof_pro", 80,
        "*\r\nIPE 80 7.64 80.14 3 20 8.489 1 3 2 5 .67 1 6 0 I 0 0 80 46 3.8 5.2 5\r\nUPN 80 11 106 2 19 1 2 8 0 U 0 0 80 45 6 8 14 8 4\r\n%\r\n*END*\r\n",
        OstileProfili, {}},
-      {"catalogo", "MaterialiNTC08.tx1",
+      {"catalogo", "MaterialiNTC08.tx1", 75,
        "ACCIAIO_DA_CARPENTERIA_SEZIONI_APERTE\r\n1\r\nS 235\r\nEN\r\n1 2 3 4 5 6 7 8\r\nACCIAIO_DA_CARPENTERIA_SEZIONI_CHIUSE\r\n1\r\nC\r\nEN\r\n1 2 3 4 5 6 7 8\r\n"
        "VITI\r\n1\r\n8.8\r\n1 2 3 4 5 6\r\nCALCESTRUZZI\r\n1\r\nC25/30\r\n300 1.5\r\nACCIAIO_DA_CA\r\n1\r\nB\r\n1 2 3 4\r\n", OstileCatalogo, {}, {}, CatalogoMancante},
-      {"materiali del lavoro", "propmateriali.tx1",
+      {"materiali del lavoro", "propmateriali.tx1", 45,
        "[ReleaseQuestoFile=3]\r\nC25/30 [CLS_CLASSE]\r\n300 [VALORECALCOLATO_CLS_RCK]\r\nAltro [ACC_CARP_1_TIPO]\r\n1.05 [ACC_CARP_COEFFICIENTE_GAMMAM 1 2 3 4 5]\r\n",
        OstileMatLavoro,
        {"| ATTENZIONE! | Materiali base non corretti. Aprire 'Materiali base' dal pannello principale di Vestra e salvarli",
         "Impostare una classe standard", "Impostare un tipo standard"},
        {"Impostare un tipo standard"}},
-      {"dirlav", "impostazioni/dirlav", "\"c:\\dati\\lavori\\\"\r\n",
+      {"dirlav", "impostazioni/dirlav", 50, "\"c:\\dati\\lavori\\\"\r\n",
        [](const std::string& c) { Altro(c, "impostazioni/lavoro", "Ponte1\r\n"); OstileAvvio(c); },
        {"\\impostazioni\\dirlav errato o mancante", "deve terminare con < \\lavori >"}},
-      {"lavoro", "impostazioni/lavoro", "  Ponte1\r\n",
+      {"lavoro", "impostazioni/lavoro", 45, "  Ponte1\r\n",
        [](const std::string& c) { Altro(c, "impostazioni/dirlav", "c:\\dati\\lavori"); OstileAvvio(c); },
        {"\\impostazioni\\lavoro errato o mancante"}},
   };
