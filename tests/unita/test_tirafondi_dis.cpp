@@ -4,38 +4,22 @@
 
 #include <cmath>
 
-#include "core/aritmetica.h"
-#include "corredo/nodo_disegno.h"
-#include "corredo/registratore.h"
-#include "drawing/edizione.h"
-#include "drawing/esecutivo.h"
+#include "corredo/foglio_prova.h"
 #include "engine/Saldature.h"
-#include "model/suite.h"
 
 namespace {
 
-class Pezzi : public ::testing::Test {
+class Pezzi : public FoglioDisegno {
  protected:
   void SetUp() override {
-    MontaRegistratore();
-    AzzeraFault();
-    NodoDiProva();
-    OpzioniDiProva();
-    edizione = EdizioneDis();
+    FoglioDisegno::SetUp();
     Vuota();
   }
-  void TearDown() override { AzzeraFault(); }
   void Vuota() {
     AzzeraDisegno();
     AzzeraEstensioni();
     disegno.DestDis = GENDIS;
     disegno.ColCorr = 4;
-  }
-  void Linea(double x1, double y1, double x2, double y2, int colore, int tipo = 0) {
-    const int i = TrovaLinea(x1, y1, x2, y2);
-    ASSERT_GE(i, 0) << x1 << ' ' << y1 << " - " << x2 << ' ' << y2;
-    EXPECT_EQ(disegno.LinCol[i], colore) << x1 << ' ' << y1;
-    EXPECT_EQ(disegno.LinTipo[i], tipo);
   }
   void Arco(double x, double y, double r, double gradi1, double gradi2, int colore) {
     for (int i = TrovaArco(x, y, r); i >= 0; i = TrovaArco(x, y, r, 0, 0, i)) {
