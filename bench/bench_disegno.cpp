@@ -15,6 +15,7 @@
 #include "drawing/formats/formati.h"
 #include "drawing/formats/grb_stili.h"
 #include "drawing/formats/scrittori.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

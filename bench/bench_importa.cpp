@@ -13,6 +13,7 @@
 #include "core/piattaforma.h"
 #include "link/importa_soll.h"
 #include "link/struttura.h"
+#include "model/stato.h"
 
 namespace {
 

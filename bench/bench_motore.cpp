@@ -9,6 +9,7 @@
 #include "core/piattaforma.h"
 #include "engine/Calcoli.h"
 #include "engine/PresInfl.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -9,9 +9,10 @@
 #include "core/aritmetica.h"
 #include "core/piattaforma.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "reports/Relazioni.h"
-#include "reports/nomi_file.h"
+#include "core/nomi_file.h"
 
 namespace {
 

@@ -6,6 +6,7 @@
 #include "core/file.h"
 #include "core/piattaforma.h"
 #include "core/testo.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -11,6 +11,7 @@
 #include "core/piattaforma.h"
 #include "core/testo.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {
@@ -54,9 +55,9 @@ bool DecifraRiga(std::string_view riga, int i) {
 }
 
 // Area at d on the line in d^2 through rows i and i + 1.
-double AreaFra(int i, double d) {
-  const double D0 = suite.DiamVal[i], D1 = suite.DiamVal[i + 1];
-  const double A0 = suite.DiamArea[i], A1 = suite.DiamArea[i + 1];
+double AreaFra(const Suite& tavola, int i, double d) {
+  const double D0 = tavola.DiamVal[i], D1 = tavola.DiamVal[i + 1];
+  const double A0 = tavola.DiamArea[i], A1 = tavola.DiamArea[i + 1];
   const double passo = D1 * D1 - D0 * D0;
   if (passo == 0) {
     SegnalaFault();
@@ -92,18 +93,23 @@ void LeggiDiametri() {
   suite.NumDiam = static_cast<std::int16_t>(contatore - 1);
 }
 
-double AreaResistente(double d) {
-  const int n = std::min<int>(suite.NumDiam, MaxDiam + 1);
+double AreaResistente(const Suite& tavola, double d, OrigineArea& origine) {
+  const int n = std::min<int>(tavola.NumDiam, MaxDiam + 1);
   if (n < 1) return 0;
-  const bool sotto = d < suite.DiamVal[0], sopra = d > suite.DiamVal[n - 1];
+  const bool sotto = d < tavola.DiamVal[0], sopra = d > tavola.DiamVal[n - 1];
   if (sotto || sopra) {
-    ris.FlagDiamEstrapolato = true;
-    return n < 2 ? 0 : AreaFra(sotto ? 0 : n - 2, d);
+    origine.estrapolata = true;
+    return n < 2 ? 0 : AreaFra(tavola, sotto ? 0 : n - 2, d);
   }
   for (int i = 1; i < n; ++i) {
-    if (!(suite.DiamVal[i - 1] <= d && d <= suite.DiamVal[i])) continue;
-    if (d != suite.DiamVal[i - 1] && d != suite.DiamVal[i]) ris.FlagDiamInterpolato = true;
-    return AreaFra(i - 1, d);
+    if (!(tavola.DiamVal[i - 1] <= d && d <= tavola.DiamVal[i])) continue;
+    if (d != tavola.DiamVal[i - 1] && d != tavola.DiamVal[i]) origine.interpolata = true;
+    return AreaFra(tavola, i - 1, d);
   }
   return 0;
+}
+
+double AreaResistente(const Suite& tavola, double d) {
+  OrigineArea origine;
+  return AreaResistente(tavola, d, origine);
 }

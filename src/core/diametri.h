@@ -8,7 +8,12 @@
 // A shorter file leaves built-in rows behind the count.
 void LeggiDiametri();
 
+// How an area was found: both stay as they were where a row of the table fits.
+struct OrigineArea { bool estrapolata = false, interpolata = false; };
+
 // Resistant area (mm2) of a bar of diameter d (mm): linear in d^2 between two rows, and beyond the first and the last row.
-// Sets ris.FlagDiamEstrapolato outside the table and ris.FlagDiamInterpolato between two rows; clears neither.
+// Raises estrapolata outside the table and interpolata between two rows; clears neither.
 // 0: no row fits, or an empty table. Two neighbouring rows of one diameter are a division by zero: fault raised, 0 returned.
-double AreaResistente(double d);
+struct Suite;
+double AreaResistente(const Suite& tavola, double d, OrigineArea& origine);
+double AreaResistente(const Suite& tavola, double d);

@@ -7,6 +7,7 @@
 #include "core/aritmetica.h"
 #include "core/numeri.h"
 #include "core/testo.h"
+#include "model/stato.h"
 
 static bool Vale(const RigaNodo& r) {
   switch (r.quando) {

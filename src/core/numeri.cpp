@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "core/aritmetica.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

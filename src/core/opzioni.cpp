@@ -5,6 +5,7 @@
 
 #include "core/file.h"
 #include "core/numeri.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -3,10 +3,11 @@
 #pragma once
 #include <string>
 
+#include "model/icona.h"
+
 struct Pannello;
 struct Controllo;
 
-enum class Icona { Nessuna, Informazione, Esclamazione, Critica };
 enum class Temporizzatore { Stato, Selezione };      // Timer1 of the main panel, TimerSel of the selection panel
 
 struct RichiestaFile {

@@ -7,6 +7,7 @@
 #include "core/file.h"
 #include "core/numeri.h"
 #include "core/testo.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -9,6 +9,7 @@
 #include "core/testo.h"
 #include "drawing/disegno.h"
 #include "drawing/edizione.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 std::string NumeroDis(double v) {

@@ -3,10 +3,12 @@
 
 #include "drawing/Quote.h"
 #include "drawing/disegno.h"
+#include "model/schemi.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
-bool TerzoTirafondoZ() { return nodo.OptionNTir == 1 || nodo.OptionNTir == 3; }
-bool TerzoTirafondoY() { return nodo.OptionNTir == 1 || nodo.OptionNTir == 2; }
+bool TerzoTirafondoZ() { return SCHEMI[SchemaTir(nodo)].lato[SUPERIORE] != 0; }
+bool TerzoTirafondoY() { return SCHEMI[SchemaTir(nodo)].lato[SINISTRO] != 0; }
 
 struct Valori {
   double a[16] = {};               // 1..n

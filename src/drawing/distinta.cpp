@@ -9,6 +9,8 @@
 #include "drawing/disegno.h"
 #include "drawing/edizione.h"
 #include "drawing/esecutivo.h"
+#include "model/regole_nodo.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 constexpr int MaxColonneDistinta = 5;
@@ -50,17 +52,13 @@ static void Tabella(double y0, const std::vector<RigaDistinta>& righe, int prima
   }
 }
 
-static double LunghezzaTirafondo() {
-  const double diritto = nodo.TfLFt + nodo.TfL;
-  return Arrotonda1(nodo.TipoTirafondo == 1 ? diritto - nodo.TfR + PI_PROG * nodo.TfR + nodo.TfL1 : diritto);
-}
-
 static std::vector<RigaDistinta> RigheSaldature() {
   std::vector<RigaDistinta> righe = {{"Sald.", "lungh", "lato"}};
-  for (int w = 1; w <= nodo.NumSaldature; ++w) {
+  for (int w = 1; w <= lavoroDisegno->NumSaldature; ++w) {
     // The inner welds don't exist on the sheet; the rows that follow close up.
     if (nodo.TipoNodo == 2 && nodo.SaldInt != 1 && (w == 9 || w == 19)) continue;
-    righe.push_back({ris.Saldature[w].Nome, NumeroDis(ris.Saldature[w].Lung), NumeroDis(nodo.Gola)});
+    const Saldatura& d = lavoroDisegno->ris.Saldature[w];
+    righe.push_back({d.Nome, NumeroDis(d.Lung), NumeroDis(nodo.Gola)});
   }
   return righe;
 }
@@ -74,6 +72,6 @@ void Distinta() {
   Tabella(0, {{"Prof.", "h", "b", "a", "e"}, {SenzaSpaziDoppi(s.Nome), N(s.H), N(s.B), N(s.A), N(s.E)}}, 0);
   Tabella(-3 * h, {{"N. piastre", "lz", "ly", "s"}, {"1", N(nodo.LatoZ), N(nodo.LatoY), N(nodo.SpessPiastra)}}, LARG_PIASTRA);
   if (nervature) Tabella(-6 * h, {{"Nome", "l", "h", "s"}, {"Y", N(nodo.LatoY), HN, SP}, {"Z", N(nodo.LatoZ), HN, SP}}, LARG_NERVATURE);
-  Tabella(nervature ? -10 * h : -6 * h, {{"N. t.fondi", "]", "L tot"}, {std::to_string(nodo.NTir), N(nodo.TfFi), N(LunghezzaTirafondo())}}, 0);
-  if (nodo.NumSaldature > 0) Tabella(nervature ? -13 * h : -9 * h, RigheSaldature(), 0);
+  Tabella(nervature ? -10 * h : -6 * h, {{"N. t.fondi", "]", "L tot"}, {std::to_string(nodo.NTir), N(nodo.TfFi), N(LunghezzaTirafondo(nodo))}}, 0);
+  if (lavoroDisegno->NumSaldature > 0) Tabella(nervature ? -13 * h : -9 * h, RigheSaldature(), 0);
 }

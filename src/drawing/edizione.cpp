@@ -3,6 +3,7 @@
 
 #include "drawing/Quote.h"
 #include "drawing/disegno.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 constexpr std::int16_t SOLO_TESTO = -1;         // line colour of a dimension without line

@@ -9,8 +9,9 @@
 #include "drawing/edizione.h"
 #include "drawing/pianta.h"
 #include "engine/Saldature.h"
+#include "model/stato.h"
 #include "model/suite.h"
-#include "reports/nomi_file.h"
+#include "core/nomi_file.h"
 
 void Rettangolo(double lx, double ly) {
   DisLinea(nullptr, -lx / 2, -ly / 2, -lx / 2, ly / 2);
@@ -51,9 +52,9 @@ static void Origine(double x, double y) {
 void DisegnoEsecutivo() {
   Esecutivo& e = esecutivo;
   const double P7 = suite.ParNodo[7], P9 = edizione.AltTesti, P10 = edizione.LargTesti;
-  nodo.NumSaldature = 0;
+  lavoroDisegno->NumSaldature = 0;
   quote.EtichetteSald = false;
-  CostruisciSaldature();
+  CostruisciSaldature(*lavoroDisegno);
   CalcolaSmussi();
   e.HColDis = std::max(nodo.LatoZ, 1.5 * nodo.HNerv);
 

@@ -5,6 +5,7 @@
 // State     esecutivo: of the sheet being drawn. The weld table is built anew.
 // Failure   none of its own; see InterrompiDisegno.
 #pragma once
+#include "engine/lavoro.h"
 
 constexpr double Sporgenza = 1.1;  // how far axes overshoot what they cross
 constexpr int MaxForiVista = 3;
@@ -21,6 +22,9 @@ struct Esecutivo {
   double YTitoloC = 0;             // height of the plan's title on the sheet
 };
 inline Esecutivo esecutivo;
+
+// Whose table of welds the sheet builds anew and shows; set by the panels at the start of the program.
+inline Lavoro* lavoroDisegno = nullptr;
 
 void DisegnoEsecutivo();
 

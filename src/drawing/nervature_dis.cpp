@@ -8,6 +8,7 @@
 #include "drawing/disegno.h"
 #include "drawing/esecutivo.h"
 #include "drawing/saldature_dis.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 static void CambiaColore(int opzione) { disegno.ColCorr = ColoreOpz(opzione); }

@@ -6,17 +6,18 @@
 #include "drawing/disegno.h"
 #include "drawing/saldature_dis.h"
 #include "model/saldature_colonna.h"
+#include "model/regole_nodo.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 constexpr std::int32_t ROSSO = 255;          // 0xBBGGRR
 constexpr int PAR_NODO = 0;                  // drawing option: colour of steel parts
 
-static double TerzoInDecine(double lungo) { return 10 * std::floor(std::floor(lungo / 3) / 10 + 0.5); }
-
 void CalcolaSmussi() {
-  nodo.NervTaglio = TerzoInDecine(nodo.HNerv);
-  nodo.NervZ = TerzoInDecine((nodo.LatoZ - nodo.Sezione.B - 2 * nodo.SpNerv) / 2);
-  nodo.NervY = TerzoInDecine((nodo.LatoY - nodo.Sezione.H) / 2);
+  const Smussi s = SmussiNervature(nodo);
+  nodo.NervTaglio = s.Taglio;
+  nodo.NervZ = s.Z;
+  nodo.NervY = s.Y;
 }
 
 static void SegniSaldature(const Sezione& s, double x0, double y0) {

@@ -10,6 +10,7 @@
 #include "core/piattaforma.h"
 #include "core/testo.h"
 #include "drawing/font.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 constexpr double ESTENSIONE_NULLA = 1e10;       // beyond every sheet

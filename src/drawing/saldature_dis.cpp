@@ -6,7 +6,9 @@
 #include "core/numeri.h"
 #include "drawing/Quote.h"
 #include "drawing/edizione.h"
+#include "drawing/esecutivo.h"
 #include "engine/Saldature.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 void DisSaldatura(Tela* tela, double x1, double y1, double x2, double y2, int lato, int tipo, int indice) {
@@ -30,7 +32,7 @@ void DisSaldatura(Tela* tela, double x1, double y1, double x2, double y2, int la
   DisLinea(tela, x1 + vx, y1 + vy, x2 + vx, y2 + vy, colore);
   if (!quote.EtichetteSald || indice < 1 || indice > MaxSald) return;
   const bool sinistra = teta > PI_PROG / 2 || teta <= -PI_PROG / 2;
-  edizione.nomeSald(ris.Saldature[indice].Nome, x1 + vx, x2 + vx, y1 + vy, y2 + vy, vx, vy, sinistra != (lato == 1));
+  edizione.nomeSald(lavoroDisegno->ris.Saldature[indice].Nome, x1 + vx, x2 + vx, y1 + vy, y2 + vy, vx, vy, sinistra != (lato == 1));
 }
 
 void DisLineaSald(double x1, double y1, double x2, double y2, int lato, int tipo, int indice) {

@@ -7,6 +7,7 @@
 #include "core/numeri.h"
 #include "drawing/disegno.h"
 #include "drawing/pianta.h"
+#include "model/stato.h"
 
 constexpr double MARGINE = 0.6;              // half of 1.2 times the governing size
 

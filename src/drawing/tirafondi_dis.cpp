@@ -6,6 +6,7 @@
 #include "drawing/disegno.h"
 #include "drawing/edizione.h"
 #include "drawing/esecutivo.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 static void Linea(double x1, double y1, double x2, double y2) { DisLinea(nullptr, x1, y1, x2, y2); }

@@ -10,6 +10,7 @@
 #include "drawing/esecutivo.h"
 #include "drawing/pianta.h"
 #include "drawing/saldature_dis.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 constexpr std::int16_t CONTINUA = 0, NASCOSTA = 1, ASSE = 3;   // disegno.TipoLinCorr

@@ -1,8 +1,9 @@
-// engine/Calcoli.h - the verification: strengths that do not depend on the load, then every sextet, then the report.
-// State     verifica (engine/verifica.h). The tables are in ris, good for one report.
-// Failure   a solver that fails or an arithmetic fault ends the run: its box is shown, earlier rows stay, no report.
+// engine/Calcoli.h - one verification: strengths that do not depend on the load, every sextet, then the checks.
+// Given     l.nodo, l.suite, l.TipoVer.
+// Failure   false: a solver that fails or an arithmetic fault ends the run; earlier rows stay, the reason is the last diagnosis.
 #pragma once
-// Everything but the messages on the diameter and the report. False: stopped, the boxes already shown.
-bool CalcolaTabelle();
-// The whole verification. False: stopped by a failure, its boxes already shown.
-bool EseguiVerifica();
+#include "engine/lavoro.h"
+
+bool CalcolaTabelle(Lavoro& l);    // everything but the message on the diameter and the checks
+// The whole verification: tables, message on the diameter, ratios, limits, rows, verdicts. The flags of arithmetic are cleared first.
+bool EseguiVerifica(Lavoro& l);

@@ -1,59 +1,75 @@
-// engine/Controlli.cpp - the checks as one table: when each fails, and what it says.
+// engine/Controlli.cpp - the checks as one table: what each compares, and what it says.
 #include "engine/Controlli.h"
 
 #include <algorithm>
+#include <cstddef>
 
+#include "core/fault.h"
 #include "core/numeri.h"
-#include "core/piattaforma.h"
-#include "engine/Tirafondi.h"
-#include "model/node_model.h"
+#include "model/schemi.h"
 
-constexpr const char* TITOLO = "ATTENZIONE!";
-
-static bool ColonnaFuoriPiastra() { return nodo.Sezione.B > nodo.LatoZ || nodo.Sezione.H > nodo.LatoY; }
-
-static bool PiastraNulla() { return !(nodo.SpessPiastra > 0 && nodo.LatoZ > 0 && nodo.LatoY > 0); }
-
-static bool TirafondoNullo() {
-  return !(nodo.TfL > 0 && nodo.TfLFt > 0 && nodo.TfL1 >= 0 && nodo.TfR >= 0 && nodo.TfHMalta >= 0 && nodo.TfFi > 0 &&
-           nodo.TfDForo > 0 && nodo.TfLF >= 0);
-}
-
-// Neighbouring anchors whose holes may overlap, by OptionNTir; the holes of a pair are compared along one axis only.
-struct Coppia { int opzione; char asse; int a, b; };
-constexpr Coppia COPPIE_FORI[] = {
-  { 0, 'Z', 1, 2 }, { 0, 'Y', 1, 3 },
-  { 1, 'Z', 1, 8 }, { 1, 'Z', 8, 2 }, { 1, 'Y', 1, 5 }, { 1, 'Y', 5, 3 },
-  { 2, 'Z', 1, 2 }, { 2, 'Y', 1, 5 }, { 2, 'Y', 5, 3 },
-  { 3, 'Z', 1, 6 }, { 3, 'Z', 6, 2 }, { 3, 'Y', 1, 3 },
+// The comparisons of one check: the one with the least margin stays, a failed one before all that hold.
+struct Confronti {
+  bool passa = true, uno = false;
+  double domanda = 0, limite = 0, margine = 0;
 };
 
-static bool ForiSovrapposti() {
-  if (nodo.TfLF <= 0) return false;          // no holes in the footing
-  const double D = nodo.TfDForo;
-  return std::ranges::any_of(COPPIE_FORI, [&](const Coppia& c) {
-    const double* pos = c.asse == 'Z' ? nodo.TfZ : nodo.TfY;
-    return c.opzione == SchemaTir() && !(pos[c.b] - D / 2 >= pos[c.a] + D / 2);
-  });
+static void Aggiungi(Confronti& c, bool regge, double domanda, double limite, double margine) {
+  const bool prende = !c.uno || (c.passa && !regge) || (c.passa == regge && margine < c.margine);
+  if (prende) c.domanda = domanda, c.limite = limite, c.margine = margine;
+  c.uno = true;
+  c.passa = c.passa && regge;
 }
 
-static bool FuoriTerraCorto() { return nodo.TfHMalta + nodo.SpessPiastra + 2 * nodo.TfFi > nodo.TfLFt; }
-static bool FilettaturaCorta() { return nodo.TfHMalta - nodo.TfFi < nodo.TfLFt - nodo.TfDForo; }   // deliberate
-static bool ForoStretto() { return nodo.TfDForo <= nodo.TfFi; }
-static bool MaltaBassa() { return nodo.TfHMalta <= nodo.TfFi; }
+// Halves: the margin of two large numbers of unlike sign does not overflow.
+static void NonOltre(Confronti& c, double a, double b) { Aggiungi(c, !(a > b), a, b, b / 2 - a / 2); }
+static void NonSotto(Confronti& c, double a, double b) { Aggiungi(c, a >= b, a, b, a / 2 - b / 2); }
+static void Oltre(Confronti& c, double a, double b) { Aggiungi(c, a > b, a, b, a / 2 - b / 2); }
+
+static void Colonna(Confronti& c, const Nodo& n, int) {
+  NonOltre(c, n.Sezione.B, n.LatoZ);
+  NonOltre(c, n.Sezione.H, n.LatoY);
+}
+
+static void Piastra(Confronti& c, const Nodo& n, int) {
+  for (const double v : { n.SpessPiastra, n.LatoZ, n.LatoY }) Oltre(c, v, 0);
+}
+
+static void Tirafondo(Confronti& c, const Nodo& n, int) {
+  for (const double v : { n.TfL, n.TfLFt }) Oltre(c, v, 0);
+  for (const double v : { n.TfL1, n.TfR, n.TfHMalta }) NonSotto(c, v, 0);
+  for (const double v : { n.TfFi, n.TfDForo }) Oltre(c, v, 0);
+  NonSotto(c, n.TfLF, 0);
+}
+
+static void Fori(Confronti& c, const Nodo& n, int) {
+  if (n.TfLF <= 0) return;                   // no holes in the footing
+  const double D = n.TfDForo;
+  for (const CoppiaFori& k : SCHEMI[SchemaTir(n)].fori) {
+    if (k.a == 0) break;
+    const double* pos = k.asse == 'Z' ? n.TfZ : n.TfY;
+    NonSotto(c, pos[k.b] - D / 2, pos[k.a] + D / 2);
+  }
+}
+
+static void FuoriTerra(Confronti& c, const Nodo& n, int) { NonOltre(c, n.TfHMalta + n.SpessPiastra + 2 * n.TfFi, n.TfLFt); }
+// The hole's diameter stands where a length of thread would: the wider the hole, the easier the check passes (unsafe).
+static void Filettatura(Confronti& c, const Nodo& n, int) { NonSotto(c, n.TfHMalta - n.TfFi, n.TfLFt - n.TfDForo); }
+static void Foro(Confronti& c, const Nodo& n, int) { Oltre(c, n.TfDForo, n.TfFi); }
+static void Malta(Confronti& c, const Nodo& n, int) { Oltre(c, n.TfHMalta, n.TfFi); }
 
 // D[1..4]: distance of the anchors from the plate's four edges, each by one anchor (the extra ones lie on the same lines);
 // F[1..4]: from the column's or the ribs' face to the anchor.
 struct Distanze { double D[4 + 1], F[4 + 1]; };
 
-static Distanze DistanzeTirafondi() {
+static Distanze DistanzeTirafondi(const Nodo& n) {
   Distanze d = {};
-  const double nerv = nodo.TipoNodo == 1 ? 0 : nodo.SpNerv;
-  const double z = (nodo.LatoZ - nodo.Sezione.B) / 2, y = (nodo.LatoY - nodo.Sezione.H) / 2;
-  d.D[1] = nodo.TfZ[1];
-  d.D[2] = nodo.LatoZ - nodo.TfZ[2];
-  d.D[3] = nodo.TfY[1];
-  d.D[4] = nodo.LatoY - nodo.TfY[4];
+  const double nerv = n.TipoNodo == 1 ? 0 : n.SpNerv;
+  const double z = (n.LatoZ - n.Sezione.B) / 2, y = (n.LatoY - n.Sezione.H) / 2;
+  d.D[1] = n.TfZ[1];
+  d.D[2] = n.LatoZ - n.TfZ[2];
+  d.D[3] = n.TfY[1];
+  d.D[4] = n.LatoY - n.TfY[4];
   d.F[1] = z - d.D[1] - nerv;
   d.F[2] = z - d.D[2] - nerv;
   d.F[3] = y - d.D[3];
@@ -61,64 +77,79 @@ static Distanze DistanzeTirafondi() {
   return d;
 }
 
-static bool FuoriPiastra() {
-  const Distanze d = DistanzeTirafondi();
-  return std::any_of(d.D + 1, d.D + 5, [](double D) { return D < 0; }) || d.D[1] > nodo.LatoZ || d.D[2] > nodo.LatoZ ||
-         d.D[3] > nodo.LatoY || d.D[4] > nodo.LatoY;
-}
-
-static bool ZoneAngolo() {
-  const Distanze d = DistanzeTirafondi();
-  return std::any_of(d.F + 1, d.F + 5, [](double F) { return nodo.TfFi / 2 > F; });
-}
-
-struct Prova { bool (*difetto)(); const char* testo; };
-
-constexpr Prova DOMANDE[] = {
-  { ColonnaFuoriPiastra, "Incompatibilità geometrica fra piastra e colonna" },
-  { PiastraNulla,        "Dimensioni della piastra negative o nulle" },
-  { TirafondoNullo,      "Dimensioni del tirafondo negative o nulle" },
-  { ForiSovrapposti,     "Sovrapposizione fori nel plinto" },
-  { FuoriTerraCorto,     "Lunghezza fuori terra del tirafondo insufficiente" },
-  { FilettaturaCorta,    "Lunghezza di filettatura del tirafondo insufficiente" },
-  { ForoStretto,         "Diametro fori insufficiente" },
-  { MaltaBassa,          "Altezza di malta sotto la piastra insufficiente" },
-};
-
-constexpr Prova AVVISI[] = {
-  { FuoriPiastra, "Tirafondi fuori dalla piastra" },
-  { ZoneAngolo,   "Tirafondi previsti nelle zone d'angolo della piastra" },
-};
-
-bool ControlliGeometrici() {
-  bool esito = true;
-  for (const Prova& p : DOMANDE)
-    if (esito && p.difetto()) esito = piattaforma.domanda(p.testo, TITOLO, Icona::Esclamazione);
-  for (const Prova& p : AVVISI) {
-    if (!p.difetto()) continue;
-    Messaggio(p.testo, TITOLO, Icona::Esclamazione);
-    esito = false;
+static void FuoriPiastra(Confronti& c, const Nodo& n, int) {
+  const Distanze d = DistanzeTirafondi(n);
+  for (int k = 1; k <= 4; ++k) {
+    NonSotto(c, d.D[k], 0);
+    NonOltre(c, d.D[k], k <= 2 ? n.LatoZ : n.LatoY);
   }
-  return esito;
 }
 
-static bool ControlloBordo(double Dmin, double Dmax, const char* testo) {
-  const Distanze d = DistanzeTirafondi();
-  if (std::all_of(d.D + 1, d.D + 5, [&](double D) { return Dmin <= D && D <= Dmax; })) return true;
-  Messaggio(testo, TITOLO, Icona::Esclamazione);
-  return false;
+static void ZoneAngolo(Confronti& c, const Nodo& n, int) {
+  const Distanze d = DistanzeTirafondi(n);
+  for (int k = 1; k <= 4; ++k) NonOltre(c, n.TfFi / 2, d.F[k]);
 }
 
-bool ControlloBordoCNR() {
-  return ControlloBordo(2 * nodo.TfFi, 6 * nodo.SpessPiastra,
-                        "La distanza dei tirafondi dal bordo della piastra risulta difforme dalle prescrizioni della CNR-UNI 10011/88");
+static double BordoMassimoNTC(const Nodo& n) {
+  const double t = n.SpessPiastra;
+  if (n.Esposizione == 0) return 4 * t + 40;   // exposed
+  if (n.Esposizione == 1) return 1e20;         // not exposed: no upper bound
+  return MaxDi(8 * t, 125);                    // resistant to corrosion, or no choice
 }
 
-bool ControlloBordoNTC() {
-  const double t = nodo.SpessPiastra;
-  double Dmax = MaxDi(8 * t, 125);                  // resistant to corrosion, or no choice
-  if (nodo.Esposizione == 0) Dmax = 4 * t + 40;     // exposed
-  if (nodo.Esposizione == 1) Dmax = 1e20;           // not exposed: no upper bound
-  return ControlloBordo(1.2 * nodo.TfFi, Dmax,
-                        "La distanza dei tirafondi dal bordo della piastra risulta difforme dalle prescrizioni (NTC 2008)");
+static void Bordo(Confronti& c, const Nodo& n, int metodo) {
+  const Distanze d = DistanzeTirafondi(n);
+  const double Dmin = (metodo == 0 ? 2 : 1.2) * n.TfFi, Dmax = metodo == 0 ? 6 * n.SpessPiastra : BordoMassimoNTC(n);
+  for (int k = 1; k <= 4; ++k) {
+    NonSotto(c, d.D[k], Dmin);
+    NonOltre(c, d.D[k], Dmax);
+  }
+}
+
+struct Prova {
+  const char* id;
+  void (*confronta)(Confronti&, const Nodo&, int metodo);
+  GenereGeometria genere;
+  const char* testo[2];                      // by method
+};
+
+#define STESSO(t) { t, t }
+static constexpr Prova PROVE[NumGeometria] = {
+  { "geo.colonna",       Colonna,      GenereGeometria::Domanda, STESSO("Incompatibilità geometrica fra piastra e colonna") },
+  { "geo.piastra",       Piastra,      GenereGeometria::Domanda, STESSO("Dimensioni della piastra negative o nulle") },
+  { "geo.tirafondo",     Tirafondo,    GenereGeometria::Domanda, STESSO("Dimensioni del tirafondo negative o nulle") },
+  { "geo.fori",          Fori,         GenereGeometria::Domanda, STESSO("Sovrapposizione fori nel plinto") },
+  { "geo.fuori_terra",   FuoriTerra,   GenereGeometria::Domanda, STESSO("Lunghezza fuori terra del tirafondo insufficiente") },
+  { "geo.filettatura",   Filettatura,  GenereGeometria::Domanda, STESSO("Lunghezza di filettatura del tirafondo insufficiente") },
+  { "geo.foro",          Foro,         GenereGeometria::Domanda, STESSO("Diametro fori insufficiente") },
+  { "geo.malta",         Malta,        GenereGeometria::Domanda, STESSO("Altezza di malta sotto la piastra insufficiente") },
+  { "geo.fuori_piastra", FuoriPiastra, GenereGeometria::Rifiuto, STESSO("Tirafondi fuori dalla piastra") },
+  { "geo.angolo",        ZoneAngolo,   GenereGeometria::Rifiuto, STESSO("Tirafondi previsti nelle zone d'angolo della piastra") },
+  { "geo.bordo",         Bordo,        GenereGeometria::Bordo,
+    { "La distanza dei tirafondi dal bordo della piastra risulta difforme dalle prescrizioni della CNR-UNI 10011/88",
+      "La distanza dei tirafondi dal bordo della piastra risulta difforme dalle prescrizioni (NTC 2008)" } },
+};
+#undef STESSO
+
+static RigaGeometria Esegui(const Prova& p, const Nodo& nodo, int metodo) {
+  AzzeraFault();
+  Confronti c;
+  p.confronta(c, nodo, metodo);
+  RigaGeometria r;
+  r.id = p.id;
+  r.testo = p.testo[metodo == 0 ? 0 : 1];
+  r.genere = p.genere;
+  r.passa = c.passa;
+  r.confronta = c.uno;
+  r.domanda = c.domanda;
+  r.limite = c.limite;
+  r.fault = FaultAritmetico();
+  return r;
+}
+
+RigheGeometria ControlliGeometria(const Nodo& nodo, int metodo) {
+  const RiparoFault riparo;
+  RigheGeometria righe;
+  for (std::size_t k = 0; k < righe.size(); ++k) righe[k] = Esegui(PROVE[k], nodo, metodo);
+  return righe;
 }

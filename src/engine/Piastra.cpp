@@ -5,13 +5,14 @@
 #include <cmath>
 
 #include "core/numeri.h"
-#include "engine/Tirafondi.h"
-#include "engine/verifica.h"
+#include "model/schemi.h"
 
 constexpr double QUOTA_H = 0.95, QUOTA_B = 0.8;     // of the column's sides from where the plate cantilevers; every section
 
-void PiastraSenzaNervature(int s) {
-  const double H = nodo.Sezione.H, B = nodo.Sezione.B, t = nodo.SpessPiastra, A = verifica.AreaTf;
+void PiastraSenzaNervature(Lavoro& l, int s) {
+  const Nodo& nodo = *l.nodo;
+  Risultati& ris = l.ris;
+  const double H = nodo.Sezione.H, B = nodo.Sezione.B, t = nodo.SpessPiastra, A = l.verifica.AreaTf;
   const double* S = ris.SigmaTir[s];
   double& SMax = ris.SMaxPiastra[s];
 
@@ -21,19 +22,20 @@ void PiastraSenzaNervature(int s) {
 
   const double y = (nodo.LatoY - H) / 2, z = (nodo.LatoZ - B) / 2;
   const double Wz = t * t * nodo.LatoZ / 6, Wy = t * t * nodo.LatoY / 6;
-  struct Lato { double a; int i1, i2; int extra[4]; double W; };     // extra: anchor added by OptionNTir, 0 none
+  struct Lato { double a; int i1, i2; LatoPiastra lato; double W; };
   const Lato LATI[] = {
-    { y - nodo.TfY[1],                1, 2, { 0, 8, 0, 6 }, Wz },
-    { z - (nodo.LatoZ - nodo.TfZ[2]), 2, 4, { 0, 6, 6, 0 }, Wy },
-    { y - (nodo.LatoY - nodo.TfY[3]), 3, 4, { 0, 7, 0, 5 }, Wz },
-    { z - nodo.TfZ[1],                1, 3, { 0, 5, 5, 0 }, Wy },
+    { y - nodo.TfY[1],                1, 2, SUPERIORE, Wz },
+    { z - (nodo.LatoZ - nodo.TfZ[2]), 2, 4, DESTRO, Wy },
+    { y - (nodo.LatoY - nodo.TfY[3]), 3, 4, INFERIORE, Wz },
+    { z - nodo.TfZ[1],                1, 3, SINISTRO, Wy },
   };
-  const int schema = SchemaTir();
+  const int schema = SchemaTir(nodo);
   for (int j = 0; j < std::min<int>(nodo.NTir, 4); ++j) {
-    const Lato& l = LATI[j];
-    double F = std::fabs((S[l.i1] + S[l.i2]) * A);
-    if (l.extra[schema] > 0) F += std::fabs(S[l.extra[schema]] * A);
-    SMax = MaxDi(SMax, std::fabs(l.a * F) / l.W);
+    const Lato& r = LATI[j];
+    double F = std::fabs((S[r.i1] + S[r.i2]) * A);
+    const int extra = SCHEMI[schema].lato[r.lato];
+    if (extra > 0) F += std::fabs(S[extra] * A);
+    SMax = MaxDi(SMax, std::fabs(r.a * F) / r.W);
   }
 }
 
@@ -45,13 +47,13 @@ struct Strisce {
   double Mz[MaxTir + 1], My[MaxTir + 1];
 };
 
-static void Larghezze(Strisce& c, int i) {
+static void Larghezze(const Nodo& nodo, Strisce& c, int i) {
   const double r = nodo.TfFi / 2;
   c.Bz[i] = MinDi(r + c.Cz[i], c.Cy[i]) + MinDi(r + c.Cz[i], c.Cy2[i]);
   c.By[i] = MinDi(c.Cz[i], r + c.Cy[i]) + MinDi(r + c.Cy[i], c.Cz2[i]);
 }
 
-static void LuciLarghezze(Strisce& c, const double* armZ, const double* armY) {
+static void LuciLarghezze(const Nodo& nodo, Strisce& c, const double* armZ, const double* armY) {
   const double B = nodo.Sezione.B, H = nodo.Sezione.H, SP = nodo.SpNerv;
   const double Zr = B / 2 + SP / 2, Yr = H / 2 - SP / 2;
   const auto formulaZ = [&](int i) {
@@ -65,11 +67,11 @@ static void LuciLarghezze(Strisce& c, const double* armZ, const double* armY) {
   for (int i = 1; i <= 4; ++i) {
     formulaZ(i);
     formulaY(i);
-    Larghezze(c, i);
+    Larghezze(nodo, c, i);
   }
   // Places 5 to 8 by pattern. A span named holds for both spans of its direction, nullptr takes the corners' formula.
   // Neighbours a, b: no anchor stands there, the place lends the mean widths of two corners.
-  const double nulla = 0, intera = H / 2 - SP;           // pattern 1 deducts the whole rib, pattern 2 half of it (deliberate)
+  const double nulla = 0, intera = H / 2 - SP;           // pattern 1 deducts the whole rib, pattern 2 half of it: spans of eight anchors come out shorter
   struct Posto { int opzione, i; const double *luceZ, *luceY; int a, b; };
   const Posto POSTI[] = {
     { 2, 5, nullptr, &Yr,     0, 0 }, { 2, 6, nullptr, &Yr,     0, 0 }, { 2, 7, &Zr,    &nulla,  3, 4 }, { 2, 8, &Zr,    &nulla,  1, 2 },
@@ -84,7 +86,7 @@ static void LuciLarghezze(Strisce& c, const double* armZ, const double* armY) {
     if (r.luceY == nullptr) formulaY(i);
     else c.Cy[i] = c.Cy2[i] = *r.luceY;
     if (r.a == 0) {
-      Larghezze(c, i);
+      Larghezze(nodo, c, i);
     } else {
       c.Bz[i] = (c.Bz[r.a] + c.Bz[r.b]) / 2;
       c.By[i] = (c.By[r.a] + c.By[r.b]) / 2;
@@ -98,7 +100,7 @@ constexpr Angolo ANGOLI[] = {
   { 2, 1, 5, 8, 1, 1, 1, 5 }, { 2, 2, 6, 8, 2, 2, 2, 6 }, { 2, 3, 5, 7, 3, 3, 3, 5 }, { 2, 4, 6, 7, 4, 4, 4, 6 },
   { 3, 1, 7, 6, 1, 6, 1, 1 }, { 3, 2, 8, 6, 2, 6, 2, 2 }, { 3, 3, 7, 5, 3, 5, 3, 3 }, { 3, 4, 8, 5, 4, 5, 4, 4 },
   { 1, 1, 5, 8, 1, 8, 1, 5 }, { 1, 2, 6, 8, 2, 8, 2, 6 }, { 1, 3, 5, 7, 3, 7, 5, 5 }, { 1, 4, 6, 7, 4, 7, 4, 6 },
-};                                                        // pattern 1, anchor 3: width 5 against itself (deliberate)
+};                                                        // pattern 1, anchor 3: width 5 against itself, so its own corner's never governs (unsafe if narrower)
 
 // Mid-side anchors: the strip along the side is a beam fixed at both ends, relieved by the moments of corners a, b.
 struct MezzoLato { int opzione, i; char lato; int a, b; };
@@ -111,9 +113,11 @@ constexpr MezzoLato MEZZI[] = {
 // Share of force T that goes to the strip along Z, by the ratio R of the flexibilities Y over Z. Keeps T's sign.
 static double QuotaZ(double R, double T) { return std::fabs(R / (1 + R)) * T; }
 
-static void TensioniAngolo(int s, Strisce& c, const Angolo& r) {
+static void TensioniAngolo(Lavoro& l, int s, Strisce& c, const Angolo& r) {
+  const Nodo& nodo = *l.nodo;
+  Risultati& ris = l.ris;
   const int i = r.i;
-  const double t = nodo.SpessPiastra, T = verifica.AreaTf * ris.SigmaTir[s][i];
+  const double t = nodo.SpessPiastra, T = l.verifica.AreaTf * ris.SigmaTir[s][i];
   const double R = (Cubo(c.Cy[i]) / c.By[i] + c.Cy[i] * c.Cy[i] * c.Cy[r.u] / c.By[r.u]) /
                    (Cubo(c.Cz[i]) / c.Bz[i] + c.Cz[i] * c.Cz[i] * c.Cz[r.v] / c.Bz[r.v]);
   const double Tz = QuotaZ(R, T), Ty = T - Tz;
@@ -123,9 +127,11 @@ static void TensioniAngolo(int s, Strisce& c, const Angolo& r) {
   ris.SPiastraTir[s][2][i] = 6 * (c.My[i] / MinDi(c.By[r.wy1], c.By[r.wy2])) / (t * t);
 }
 
-static void TensioniMezzo(int s, Strisce& c, const MezzoLato& r) {
+static void TensioniMezzo(Lavoro& l, int s, Strisce& c, const MezzoLato& r) {
+  const Nodo& nodo = *l.nodo;
+  Risultati& ris = l.ris;
   const int i = r.i;
-  const double t = nodo.SpessPiastra, T = verifica.AreaTf * ris.SigmaTir[s][i];
+  const double t = nodo.SpessPiastra, T = l.verifica.AreaTf * ris.SigmaTir[s][i];
   const bool latoZ = r.lato == 'Z';
   const double Lz = c.Cz[i] + c.Cz2[i], Ly = c.Cy[i] + c.Cy2[i];
   const double R = latoZ ? (Cubo(Ly) / (48 * c.By[i])) / (Cubo(c.Cz[i]) / (3 * c.Bz[i]))
@@ -139,11 +145,12 @@ static void TensioniMezzo(int s, Strisce& c, const MezzoLato& r) {
   ris.SPiastraTir[s][2][i] = 6 * (c.My[i] / Wy) / (t * t);
 }
 
-void PiastraConNervature(int s, const double (&armZ)[MaxTir + 1], const double (&armY)[MaxTir + 1]) {
+void PiastraConNervature(Lavoro& l, int s, const double (&armZ)[MaxTir + 1], const double (&armY)[MaxTir + 1]) {
+  const Nodo& nodo = *l.nodo;
   Strisce c = {};
-  LuciLarghezze(c, armZ, armY);
+  LuciLarghezze(nodo, c, armZ, armY);
   for (const Angolo& r : ANGOLI)
-    if (r.opzione == nodo.OptionNTir) TensioniAngolo(s, c, r);
+    if (r.opzione == nodo.OptionNTir) TensioniAngolo(l, s, c, r);
   for (const MezzoLato& r : MEZZI)
-    if (r.opzione == nodo.OptionNTir) TensioniMezzo(s, c, r);
+    if (r.opzione == nodo.OptionNTir) TensioniMezzo(l, s, c, r);
 }

@@ -3,10 +3,8 @@
 
 #include <cmath>
 
-#include "core/aritmetica.h"
-#include "core/diametri.h"
-#include "core/piattaforma.h"
-#include "core/unita.h"
+#include "core/fault.h"
+#include "engine/Tirafondi.h"
 
 constexpr double TOLL_EQUILIBRIO = 0.01;   // per cent of the load, each component
 constexpr int ITER_MAX = 100, ITER_MIN = 3;
@@ -53,7 +51,7 @@ static Simmetrica IntegraliPoligono(const StatoPresInfl& p) {
 
 static double ValorePiano(const double (&P)[4], double x, double y) { return P[1] * y + P[2] * x + P[3]; }
 
-// Plain elimination in a fixed order without pivoting: a zero pivot is the run's arithmetic fault (deliberate).
+// Plain elimination in a fixed order without pivoting: a zero pivot is the run's arithmetic fault, and no verdict is given.
 static void RisolviSistema(const Simmetrica& k, const double (&b)[4], double (&P)[4]) {
   const double a11 = k.k11, a12 = k.k12, a13 = k.k13;
   const double f31 = -k.k13 / a11;
@@ -109,9 +107,9 @@ static void PoligonoIniziale(StatoPresInfl& p) {
   p.NumPoli = n;
 }
 
-// An odd number of rising edges met by a ray from the point towards smaller x. Falling edges are not looked at (deliberate):
-// an anchor beyond the plate's right edge counts as inside.
-static bool DentroRegione(const StatoPresInfl& p, double x, double y) {
+// An odd number of rising edges met by a ray from the point towards smaller x. Falling edges are not looked at: an anchor beyond
+// the plate's right edge counts as inside, so that concrete which is not there is taken out (a little less stiff there: safe).
+bool DentroRegione(const StatoPresInfl& p, double x, double y) {
   int incroci = 0;
   for (int j = 1; j <= p.NumVertici; ++j) {
     const double y1 = p.VertY[j], y2 = p.VertY[j + 1];
@@ -168,8 +166,9 @@ static bool Itera(StatoPresInfl& p, Simmetrica& k) {
   return false;
 }
 
-void DatiSezione(int s) {
-  StatoPresInfl& p = presInfl;
+void DatiSezione(Lavoro& l, int s) {
+  const Nodo& nodo = *l.nodo;
+  StatoPresInfl& p = l.presInfl;
   const double z = nodo.LatoZ / 2, y = nodo.LatoY / 2;
   p.NumVertici = 4;
   p.VertX[1] = -z; p.VertY[1] = -y;
@@ -181,21 +180,36 @@ void DatiSezione(int s) {
     p.BarraX[i] = -z + nodo.TfZ[i];
     p.BarraY[i] = y - nodo.TfY[i];
   }
-  p.BarraA = AreaResistente(nodo.TfFi);
-  const double fl = FattLunghezza("mm");
-  p.ERif = nodo.EcCls / (fl * fl);
+  p.BarraA = AreaTirafondo(l);
+  p.ERif = nodo.EcCls / MM2_SU_CM2;
   p.Carichi[1] = nodo.SollMz[s];
   p.Carichi[2] = -nodo.SollMy[s];
   p.Carichi[3] = nodo.SollN[s];
 }
 
-void PresInfl([[maybe_unused]] int sezione, double& pressione, double (*tabellaSigma)[MaxTir + 1], int riga, bool& esito) {
-  StatoPresInfl& p = presInfl;
-  esito = true;
-  if (p.NumVertici < 1) {
-    esito = false;
-    return;
+static void Annota(Lavoro& l, const char* testo) { l.diagnosi.push_back({testo, TITOLO, Icona::Nessuna}); }
+
+// K, pressure and anchor stresses from the last plane. False: nothing is left that could carry the load.
+static bool CalcolaRisultati(Lavoro& l, int s) {
+  const StatoPresInfl& p = l.presInfl;
+  double& pressione = l.ris.SMaxCls[s];
+  pressione = 0;
+  if (std::fabs(p.K[3][3]) < K33_MINIMA) {
+    Annota(l, "Risultati non presenti.");
+    return false;
   }
+  for (int j = 1; j <= p.NumPoli; ++j) {
+    const double v = ValorePiano(p.PianoDef, p.PoliX[j], p.PoliY[j]) * p.ERif;
+    if (v < pressione) pressione = v;
+  }
+  for (int i = 1; i <= p.NumBarre; ++i)
+    l.ris.SigmaTir[s][i] = ValorePiano(p.PianoDef, p.BarraX[i], p.BarraY[i]) * E_BARRA;
+  return true;
+}
+
+bool PresInfl(Lavoro& l, int s) {
+  StatoPresInfl& p = l.presInfl;
+  if (p.NumVertici < 1) return false;
   PoligonoIniziale(p);
   for (int i = 1; i <= p.NumBarre; ++i) p.DentroBarra[i] = DentroRegione(p, p.BarraX[i], p.BarraY[i]);
 
@@ -204,24 +218,9 @@ void PresInfl([[maybe_unused]] int sezione, double& pressione, double (*tabellaS
   const double K[3][3] = { { k.k11, k.k12, k.k13 }, { k.k12, k.k22, k.k23 }, { k.k13, k.k23, k.k33 } };
   for (int r = 1; r <= 3; ++r)
     for (int c = 1; c <= 3; ++c) p.K[r][c] = K[r - 1][c - 1];
-  if (FaultAritmetico()) {         // the run's box, not the solver's
-    esito = false;
-    return;
-  }
-  if (!convergenza) {
-    Messaggio("Convergenza non raggiunta !", TITOLO, Icona::Nessuna);
-    esito = false;
-  }
-  pressione = 0;
-  if (std::fabs(p.K[3][3]) < K33_MINIMA) {
-    Messaggio("Risultati non presenti.", TITOLO, Icona::Nessuna);
-    esito = false;
-    return;
-  }
-  for (int j = 1; j <= p.NumPoli; ++j) {
-    const double v = ValorePiano(p.PianoDef, p.PoliX[j], p.PoliY[j]) * p.ERif;
-    if (v < pressione) pressione = v;
-  }
-  for (int i = 1; i <= p.NumBarre; ++i)
-    tabellaSigma[riga][i] = ValorePiano(p.PianoDef, p.BarraX[i], p.BarraY[i]) * E_BARRA;
+  if (FaultAritmetico()) return false;       // the run's box, not the solver's
+  if (!convergenza) Annota(l, "Convergenza non raggiunta !");
+  const bool presenti = CalcolaRisultati(l, s);
+  l.piani[s] = { { 0, p.PianoDef[1], p.PianoDef[2], p.PianoDef[3] }, p.IterPres };
+  return convergenza && presenti;
 }

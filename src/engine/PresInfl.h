@@ -1,38 +1,17 @@
 // engine/PresInfl.h - strain plane of the base section under N, My, Mz.
 // Section   plate rectangle on concrete, compression only; anchors as elastic points, the concrete taken out where one is compressed.
-// Axes      origin at the plate's centre, x along Z, y along Y; TfY runs against y (deliberate).
+// Axes      origin at the plate's centre, x along Z, y along Y; TfY is measured downward, so it runs against y.
 // Units     mm, daN, daN mm, daN/mm2.
 // Signs     value(x, y) = P[1] y + P[2] x + P[3], negative in compression; N and anchor stress + in tension.
-// State     presInfl, refilled per sextet; PianoDef is read by the plate, the ribs and the welds until the next call.
-// Failure   esito = false and a box; a zero pivot is an arithmetic fault of the run (the caller cleared the flags and tests them).
+// State     l.presInfl, refilled per sextet; PianoDef is read by the plate, the ribs and the welds until the next call.
+// Failure   false and a diagnosis; a zero pivot is an arithmetic fault of the run (the caller cleared the flags and tests them).
 #pragma once
-#include "model/node_model.h"
+#include "engine/lavoro.h"
 
 constexpr double E_BARRA = 20000;  // anchors' modulus, daN/mm2
-constexpr int MaxPoli = 6;         // vertices of a rectangle cut by a line, signs spoiled by rounding included
 
-// Matrices and vectors: index 1 goes with y, 2 with x, 3 with the constant term.
-struct StatoPresInfl {
-  // Source data of the sextet, by DatiSezione.
-  int    NumVertici = 0;                             // of the plate, 4
-  double VertX[4 + 2] = {}, VertY[4 + 2] = {};       // mm, clockwise from the lower left; PresInfl repeats the first at the end
-  int    NumBarre = 0;                               // anchors in use, 1..NumBarre
-  double BarraX[MaxTir + 1] = {}, BarraY[MaxTir + 1] = {};   // mm
-  double BarraA = 0;                                 // mm2, resistant area of each
-  double ERif = 0;                                   // concrete's modulus, the reference, daN/mm2
-  double Carichi[4] = {};                            // [1] Mz, [2] -My: daN cm, daN mm from the first iteration on; [3] N: daN
-  // Worked out by PresInfl.
-  bool   DentroBarra[MaxTir + 1] = {};               // the anchor stands in the concrete's region
-  int    NumPoli = 0;                                // vertices of the compressed polygon; 0 all in tension
-  double PoliX[MaxPoli + 2] = {}, PoliY[MaxPoli + 2] = {};
-  double K[4][4] = {};                               // section matrix of the last iteration, divided by ERif
-  double ForzeInt[4] = {};                           // as Carichi
-  double Residuo[4] = {};                            // as Carichi; NOT cleared between sextets (deliberate, the third iteration is the first tested)
-  double PianoDef[4] = {};                           // strain plane P above
-  int    IterPres = 0;                               // iteration that met the test; 101 none
-};
-inline StatoPresInfl presInfl;
-
-void DatiSezione(int s);                             // section and load of sextet s, 1-based; before PresInfl
-// sezione is 1. pressione: peak pressure on concrete, 0 or negative, daN/mm2. tabellaSigma[riga][i]: stress of anchor i, daN/mm2.
-void PresInfl(int sezione, double& pressione, double (*tabellaSigma)[MaxTir + 1], int riga, bool& esito);
+void DatiSezione(Lavoro& l, int s);                  // section and load of sextet s, 1-based; before PresInfl
+// Peak pressure on concrete, 0 or negative, to ris.SMaxCls[s]; stress of anchor i to ris.SigmaTir[s][i]; the plane to piani[s].
+bool PresInfl(Lavoro& l, int s);
+// The anchor stands in the concrete's region, by the rising edges only: beyond the plate's right edge it counts as inside.
+bool DentroRegione(const StatoPresInfl& p, double x, double y);

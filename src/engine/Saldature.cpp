@@ -6,9 +6,7 @@
 #include <string>
 
 #include "core/numeri.h"
-#include "core/unita.h"
 #include "engine/Nervature.h"
-#include "engine/verifica.h"
 #include "model/saldature_colonna.h"
 
 // Shear carried by weld w = 1..28: z Tz, y Ty, i Ty only if SaldInt = 1. Index 0 free.
@@ -21,9 +19,10 @@ double Direzione(double x1, double y1, double x2, double y2) {
   return std::atan((y2 - y1) / std::fabs(x2 - x1)) + (y2 > y1 ? 1 : -1) * PI_PROG / 2;
 }
 
-void AggiungiSaldatura(double zf, double yf, double zi, double yi, int lato, int indice) {
+void AggiungiSaldatura(Lavoro& l, double zf, double yf, double zi, double yi, int lato, int indice) {
+  const Nodo& nodo = *l.nodo;
   if (nodo.Gola == 0) return;
-  Saldatura& d = ris.Saldature[indice];
+  Saldatura& d = l.ris.Saldature[indice];
   const double G = nodo.GolaCalc;
   const double L = std::sqrt((zf - zi) * (zf - zi) + (yf - yi) * (yf - yi));
   d.Lung = Arrotonda1(L);
@@ -44,17 +43,18 @@ void AggiungiSaldatura(double zf, double yf, double zi, double yi, int lato, int
   d.Ip = d.Iz + d.Iy;
 }
 
-static void SaldatureColonna() {
+static void SaldatureColonna(Lavoro& l) {
   int w = 0;
-  for (const Estremi& t : TrattiColonna(nodo.Sezione).tratti) AggiungiSaldatura(t.zf, t.yf, t.zi, t.yi, +1, ++w);
+  for (const Estremi& t : TrattiColonna(l.nodo->Sezione).tratti) AggiungiSaldatura(l, t.zf, t.yf, t.zi, t.yi, +1, ++w);
 }
 
 // One call of a pass: weld n + m o, o the pass's offset. lato: 'c' against the pass's side, '=' as the call before, '-' always -1.
 struct Chiamata { int n, m; char lato; bool soloInterne; double zi, yi, zf, yf; };
 
 // Ribs of one side c, -1 or +1. lato enters as the last call left it and leaves so: the first call of the second pass thus
-// depends on the inner welds of the first (deliberate).
-static void SaldatureNervature(int c, int& lato) {
+// depends on the inner welds of the first, and weld 23 lies half a throat off its side without them (no side: a throat's width).
+static void SaldatureNervature(Lavoro& l, int c, int& lato) {
+  const Nodo& nodo = *l.nodo;
   const double H = nodo.Sezione.H / 2, B = nodo.Sezione.B / 2, e = nodo.Sezione.E, SP = nodo.SpNerv, HN = nodo.HNerv;
   const double Z = c * (nodo.LatoZ / 2), Y = nodo.LatoY / 2, z = c * B, zs = c * (B + SP), zh = c * (H - SP);
   const Chiamata CHIAMATE[] = {
@@ -82,28 +82,30 @@ static void SaldatureNervature(int c, int& lato) {
     if (r.soloInterne && nodo.SaldInt != 1) continue;
     if (r.lato == 'c') lato = -c;
     if (r.lato == '-') lato = -1;
-    AggiungiSaldatura(r.zf, r.yf, r.zi, r.yi, lato, r.n + (c > 0 ? r.m : 0));
+    AggiungiSaldatura(l, r.zf, r.yf, r.zi, r.yi, lato, r.n + (c > 0 ? r.m : 0));
   }
 }
 
-void CostruisciSaldature() {
-  SaldatureColonna();
-  nodo.NumSaldature = SALD_COLONNA;
+void CostruisciSaldature(Lavoro& l) {
+  const Nodo& nodo = *l.nodo;
+  SaldatureColonna(l);
+  l.NumSaldature = SALD_COLONNA;
   if (nodo.TipoNodo != 2) return;
   int lato = +1;
-  for (const int c : { -1, +1 }) SaldatureNervature(c, lato);
+  for (const int c : { -1, +1 }) SaldatureNervature(l, c, lato);
   const double z34 = nodo.Sezione.H / 2, z37 = -(nodo.Sezione.B / 2 + nodo.SpNerv);
-  AggiungiSaldatura(z34, nodo.HNerv, z34, 0, lato, 34);
-  AggiungiSaldatura(z37, nodo.HNerv, z37, 0, lato, 37);
-  nodo.NumSaldature = nodo.SaldInt != 0 ? 44 : 40;
+  AggiungiSaldatura(l, z34, nodo.HNerv, z34, 0, lato, 34);
+  AggiungiSaldatura(l, z37, nodo.HNerv, z37, 0, lato, 37);
+  l.NumSaldature = nodo.SaldInt != 0 ? 44 : 40;
 }
 
-static int UltimaSuPiastra() { return nodo.TipoNodo == 2 ? SALD_PIASTRA : SALD_COLONNA; }
+static int UltimaSuPiastra(const Lavoro& l) { return l.nodo->TipoNodo == 2 ? SALD_PIASTRA : SALD_COLONNA; }
 
-void InerziaSaldature(double& iz, double& iy, double& ip, double& lungTz, double& lungTy) {
+void InerziaSaldature(const Lavoro& l, double& iz, double& iy, double& ip, double& lungTz, double& lungTy) {
+  const Nodo& nodo = *l.nodo;
   iz = iy = ip = lungTz = lungTy = 0;
-  for (int w = 1; w <= UltimaSuPiastra(); ++w) {
-    const Saldatura& d = ris.Saldature[w];
+  for (int w = 1; w <= UltimaSuPiastra(l); ++w) {
+    const Saldatura& d = l.ris.Saldature[w];
     (TAGLIO[w] == 'z' ? lungTz : lungTy) += d.Lung;      // inner welds count even when they are not built: their length is 0, or stale
     if (TAGLIO[w] == 'i' && nodo.SaldInt != 1) continue;
     const double Aw = nodo.GolaCalc * d.Lung, y2 = d.PY[2] * d.PY[2], z2 = d.PZ[2] * d.PZ[2];
@@ -114,21 +116,22 @@ void InerziaSaldature(double& iz, double& iy, double& ip, double& lungTz, double
 }
 
 // Uniform share of the shear; without ribs the two web welds carry Ty by their own length.
-static double QuotaTaglio(int w) {
-  const StatoVerifica& v = verifica;
+static double QuotaTaglio(const Lavoro& l, int w) {
+  const Nodo& nodo = *l.nodo;
+  const StatoVerifica& v = l.verifica;
   const double G = nodo.GolaCalc;
   if (TAGLIO[w] == 'z') return v.Tz / v.LungTz / G;
-  if (nodo.TipoNodo == 1) return v.Ty / 2 / G / ris.Saldature[w].Lung;
+  if (nodo.TipoNodo == 1) return v.Ty / 2 / G / l.ris.Saldature[w].Lung;
   if (TAGLIO[w] == 'i' && nodo.SaldInt != 1) return 0;
   return v.Ty / v.LungTy / G;
 }
 
-void TensioniSaldaturePiastra(int s) {
-  const StatoVerifica& v = verifica;
-  const double G = nodo.GolaCalc;
-  for (int w = 1; w <= UltimaSuPiastra(); ++w) {
-    Saldatura& d = ris.Saldature[w];
-    const double taglio = QuotaTaglio(w);
+void TensioniSaldaturePiastra(Lavoro& l, int s) {
+  const StatoVerifica& v = l.verifica;
+  const double G = l.nodo->GolaCalc;
+  for (int w = 1; w <= UltimaSuPiastra(l); ++w) {
+    Saldatura& d = l.ris.Saldature[w];
+    const double taglio = QuotaTaglio(l, w);
     for (int k = 1; k <= 3; ++k) {
       d.SPrp[s][k] = v.Mz / v.IzSald * d.PY[k] + v.My / v.IySald * d.PZ[k] + v.N / (v.LungTz + v.LungTy) / G;
       const double ro = std::sqrt(d.PZ[k] * d.PZ[k] + d.PY[k] * d.PY[k]) * v.Mt / v.IpSald;
@@ -146,13 +149,14 @@ constexpr SaldCorrente SALD_NERV[] = {
   { 41, +1, +1, true },  { 42, +1, -1, true },  { 43, -1, +1, true },  { 44, -1, -1, true },
 };
 
-void TensioniSaldatureColonna(int s) {
-  const StatoVerifica& v = verifica;
+void TensioniSaldatureColonna(Lavoro& l, int s) {
+  const Nodo& nodo = *l.nodo;
+  const StatoVerifica& v = l.verifica;
   const double H = nodo.Sezione.H, B = nodo.Sezione.B, G = nodo.GolaCalc, HN = nodo.HNerv;
-  const AzioniPiastra c = AzioniSuPiastra(-B / 2, B / 2, -H / 2, H / 2);
+  const AzioniPiastra c = AzioniSuPiastra(l, -B / 2, B / 2, -H / 2, H / 2);
   const double Mq = v.Mz - c.MomentoQ, Mp = v.My - c.MomentoP, Nr = v.N - c.V;
   const bool interne = nodo.SaldInt != 0;
-  const double zc = H / 2 + G / std::numbers::sqrt2, yc = B / 2 - G / std::numbers::sqrt2;      // plus and minus (deliberate)
+  const double zc = H / 2 + G / std::numbers::sqrt2, yc = B / 2 - G / std::numbers::sqrt2;      // plus and minus: each to the axis on which the throats lie
   const double zci = zc - nodo.Sezione.E, A4 = 4 * G * HN;
   const double I1 = interne ? (zci * zci + zc * zc) * A4 : zc * zc * A4;
   const double I2 = interne ? 2 * (yc * yc) * A4 : yc * yc * A4;
@@ -160,39 +164,56 @@ void TensioniSaldatureColonna(int s) {
   for (const SaldCorrente& r : SALD_NERV) {
     if (r.interna && !interne) continue;
     const double Z = r.segnoZ * (r.interna ? zci : zc), Y = r.segnoY * yc;
-    for (int k = 1; k <= 3; ++k) ris.Saldature[r.w].TauPa[s][k] = media + Mq / I1 * Z + Mp / I2 * Y;
+    for (int k = 1; k <= 3; ++k) l.ris.Saldature[r.w].TauPa[s][k] = media + Mq / I1 * Z + Mp / I2 * Y;
   }
 }
 
-void TensioniEquivalentiSaldature(int s) {
-  const auto eq1 = [](const Saldatura& d, int s, int k) {
-    return std::sqrt(d.SPrp[s][k] * d.SPrp[s][k] + d.TauPa[s][k] * d.TauPa[s][k] + d.TauPe[s][k] * d.TauPe[s][k]);
-  };
-  const auto eq2 = [](const Saldatura& d, int s, int k) { return std::fabs(d.SPrp[s][k]) + std::fabs(d.TauPe[s][k]); };
-  for (int w = 1; w <= nodo.NumSaldature; ++w) {
-    Saldatura& d = ris.Saldature[w];
-    d.SEq1[s] = MaxDi(eq1(d, s, 1), eq1(d, s, 3));
-    d.SEq2[s] = MaxDi(eq2(d, s, 1), eq2(d, s, 3));
+void TensioniEquivalentiSaldature(Lavoro& l, int s) {
+  constexpr double f = MM2_SU_CM2;
+  for (int w = 1; w <= l.NumSaldature; ++w) {
+    Saldatura& d = l.ris.Saldature[w];
+    double eq1[4], eq2[4];
+    for (const int k : { 1, 3 }) {
+      const double S = d.SPrp[s][k] * f, Pa = d.TauPa[s][k] * f, Pe = d.TauPe[s][k] * f;
+      eq1[k] = std::sqrt(S * S + Pa * Pa + Pe * Pe);
+      eq2[k] = std::fabs(S) + std::fabs(Pe);
+    }
+    d.SEq1[s] = MaxDi(eq1[1], eq1[3]);
+    d.SEq2[s] = MaxDi(eq2[1], eq2[3]);
   }
 }
 
-void MaxTensioniSaldatura(double& sp, double& tpa, double& tpe, int w, int s) {
-  const auto massimo = [&](const double (&v)[MaxSoll + 1][4]) { return MaxDi(std::fabs(v[s][1]), std::fabs(v[s][3])); };
-  const Saldatura& d = ris.Saldature[w];
+void MaxTensioniSaldatura(const Lavoro& l, double& sp, double& tpa, double& tpe, int w, int s) {
+  const auto massimo = [&](const double (&v)[MaxSoll + 1][4]) { return MaxDi(std::fabs(v[s][1]), std::fabs(v[s][3])) * MM2_SU_CM2; };
+  const Saldatura& d = l.ris.Saldature[w];
   sp = massimo(d.SPrp);
   tpa = massimo(d.TauPa);
   tpe = massimo(d.TauPe);
 }
 
-void ScalaTensioniSaldature() {
-  const double fl = FattLunghezza("mm"), f = fl * fl;
-  for (int w = 1; w <= nodo.NumSaldature; ++w) {
-    Saldatura& d = ris.Saldature[w];
-    for (int s = 1; s <= nodo.NumSoll; ++s)
-      for (int k = 1; k <= 3; ++k) {
-        d.SPrp[s][k] *= f;
-        d.TauPa[s][k] *= f;
-        d.TauPe[s][k] *= f;
-      }
+// Stress over limit at one point, by which of its three stresses are not zero. In the sums the transverse stress stays in daN/mm2: it
+// weighs a hundredth of what it is (unsafe), but the first of the two terms holds it whole.
+static double RapportoPunto(double S, double Pa, double Pe, const CoeffSaldatura& c, double Sadm) {
+  constexpr double f = MM2_SU_CM2;
+  const double k1 = c.k1, k2 = c.k2;
+  const auto somma = [&] { return (f * std::fabs(S) + std::fabs(Pe)) / k2 / Sadm; };
+  if (S != 0 && Pa != 0 && Pe != 0) return MaxDi(f * std::sqrt(S * S + Pa * Pa + Pe * Pe) / k1 / Sadm, somma());
+  if (S != 0 && Pe != 0) return MaxDi(MaxDi(somma(), f * std::fabs(Pe) / k1 / Sadm), f * std::fabs(S) / k1 / Sadm);
+  if (Pa != 0 && Pe != 0) return f * std::sqrt(Pa * Pa + Pe * Pe) / k1 / Sadm;
+  if (S != 0 && Pa != 0) return f * std::sqrt(S * S + Pa * Pa) / k1 / Sadm;
+  if (S != 0) return f * std::fabs(S) / k1 / Sadm;
+  if (Pa != 0) return f * std::fabs(Pa) / k1 / Sadm;
+  if (Pe != 0) return f * std::fabs(Pe) / k1 / Sadm;
+  return 0;
+}
+
+void RapportiSaldatureTA(Lavoro& l, int s, double Sadm) {
+  const CoeffSaldatura coeff = CoefficientiDi(l.nodo->MatAcc);
+  for (int w = 1; w <= l.NumSaldature; ++w) {
+    Saldatura& d = l.ris.Saldature[w];
+    double R[4];
+    for (int k = 1; k <= 3; ++k) R[k] = RapportoPunto(d.SPrp[s][k], d.TauPa[s][k], d.TauPe[s][k], coeff, Sadm);
+    d.Estremo[s] = R[3] > R[1] ? 3 : 1;
+    d.Rapporto[s] = R[d.Estremo[s]];
   }
 }

@@ -3,11 +3,10 @@
 
 #include <cmath>
 
+#include "core/diametri.h"
 #include "core/numeri.h"
-#include "core/unita.h"
-#include "engine/verifica.h"
 
-void InerziaTirafondi(double& somma, double (&armZ)[MaxTir + 1], double (&armY)[MaxTir + 1]) {
+void InerziaTirafondi(const Nodo& nodo, double& somma, double (&armZ)[MaxTir + 1], double (&armY)[MaxTir + 1]) {
   somma = 0;
   for (int i = 1; i <= nodo.NTir; ++i) {
     armZ[i] = nodo.TfZ[i] - nodo.LatoZ / 2;
@@ -16,20 +15,31 @@ void InerziaTirafondi(double& somma, double (&armZ)[MaxTir + 1], double (&armY)[
   }
 }
 
-double TaglioTirafondo(int i) {
-  const StatoVerifica& v = verifica;
+double AreaTirafondo(Lavoro& l) {
+  OrigineArea origine;
+  const double area = AreaResistente(*l.suite, l.nodo->TfFi, origine);
+  if (origine.estrapolata) l.ris.FlagDiamEstrapolato = true;
+  if (origine.interpolata) l.ris.FlagDiamInterpolato = true;
+  return area;
+}
+
+double TaglioTirafondo(const Lavoro& l, int i) {
+  const Nodo& nodo = *l.nodo;
+  const StatoVerifica& v = l.verifica;
   const double Fz = v.Tz / nodo.NTir - v.ArmY[i] * v.Mt / v.SommaR2;
   const double Fy = v.Ty / nodo.NTir - v.ArmZ[i] * v.Mt / v.SommaR2;
   return std::sqrt(Fz * Fz + Fy * Fy);
 }
 
-void TaglioTirafondi(int s) {
+void TaglioTirafondi(Lavoro& l, int s) {
+  const Nodo& nodo = *l.nodo;
+  Risultati& ris = l.ris;
   for (int i = 1; i <= nodo.NTir; ++i) {
-    const double F = TaglioTirafondo(i);
-    if (nodo.TipoVer == 0) {
+    const double F = TaglioTirafondo(l, i);
+    if (l.TipoVer == MetodoTA) {
       ris.SRfTir[s][i] = F / nodo.SpessPiastra / nodo.TfFi;
-      ris.TauTir[s][i] = F / verifica.AreaTf;
-      ris.TiroTir[s][i] = verifica.AreaTf * ris.SigmaTir[s][i];
+      ris.TauTir[s][i] = F / l.verifica.AreaTf;
+      ris.TiroTir[s][i] = l.verifica.AreaTf * ris.SigmaTir[s][i];
     } else {
       ris.FvEd[s][i] = F;
     }
@@ -37,29 +47,31 @@ void TaglioTirafondi(int s) {
 }
 
 // Bond of a millimetre of rod, reduced near the footing's edge.
-static double AderenzaUnitaria() {
+static double AderenzaUnitaria(const Lavoro& l) {
+  const Nodo& nodo = *l.nodo;
   const double r = 1 + nodo.TfFi / nodo.TfDistBordo;
-  return nodo.MatCls.TauCls / (r * r) * PI_PROG * nodo.TfFi;
+  return l.TauCls / (r * r) * PI_PROG * nodo.TfFi;
 }
 
-double TiroUncino() {
-  return AderenzaUnitaria() * (nodo.TfL + nodo.TfR + 6.4 * nodo.TfR + 3.5 * nodo.TfL1);
+double TiroUncino(const Lavoro& l) {
+  const Nodo& nodo = *l.nodo;
+  return AderenzaUnitaria(l) * (nodo.TfL + nodo.TfR + 6.4 * nodo.TfR + 3.5 * nodo.TfL1);
 }
 
-double TiroFusto() { return AderenzaUnitaria() * (nodo.TfL1 - nodo.TfLF); }
+double TiroFusto(const Lavoro& l) { return AderenzaUnitaria(l) * (l.nodo->TfL1 - l.nodo->TfLF); }
 
-double PerditaPiastrina() {
+double PerditaPiastrina(const Nodo& nodo) {
   const double c = nodo.TfDistBordo;
   return nodo.TfL1 <= c ? (nodo.TfR / 2) / nodo.TfL1 : (nodo.TfR / 2) / c;
 }
 
-void ResistenzeTA() {
-  MatCls& cls = nodo.MatCls;
-  const double Rck = cls.Rck / 10, r = nodo.TfR / 2;
-  cls.SAmm = (Rck - 15) / 4 + 6;
-  cls.TauCls = Arrotonda1(((Rck - 15) / 75 + 0.4) * 0.15);
-  // The hooked rod is divided by 100, not by the factor of the newton (deliberate). Other forms keep what the run had.
-  if (nodo.TipoTirafondo == 1) ris.TadRd = TiroUncino() / 100;
+void ResistenzeTA(Lavoro& l) {
+  const Nodo& nodo = *l.nodo;
+  const double Rck = nodo.MatCls.Rck / 10, r = nodo.TfR / 2;
+  l.SAmmCls = (Rck - 15) / 4 + 6;
+  l.TauCls = Arrotonda1(((Rck - 15) / 75 + 0.4) * 0.15);
+  // The hooked rod is divided by 100, not by the newtons in a decanewton: a tenth of its bond (safe). Other forms keep what the run had.
+  if (nodo.TipoTirafondo == 1) l.ris.TadRd = TiroUncino(l) / 100;
   if (nodo.TipoTirafondo == 0)
-    ris.TadRd = (TiroFusto() + (1 - PerditaPiastrina()) * PI_TA * (r * r) * cls.SAmm) / FattForza("N");
+    l.ris.TadRd = (TiroFusto(l) + (1 - PerditaPiastrina(nodo)) * PI_TA * (r * r) * l.SAmmCls) / N_SU_DAN;
 }

@@ -4,6 +4,7 @@
 #include "core/file.h"
 #include "core/piattaforma.h"
 #include "link/collegamento.h"
+#include "model/stato.h"
 
 namespace {
 

@@ -8,6 +8,7 @@
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "core/zone.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -12,6 +12,7 @@
 #include "core/numeri.h"
 #include "core/piattaforma.h"
 #include "link/collegamento.h"
+#include "model/stato.h"
 
 namespace {
 

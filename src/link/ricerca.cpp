@@ -9,6 +9,7 @@
 #include "core/piattaforma.h"
 #include "core/testo.h"
 #include "link/struttura.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -3,6 +3,7 @@
 #pragma once
 #include <cstdint>
 #include <string>
+#include "model/stato.h"
 
 constexpr int ELEMENTO_NODO = 1;             // kind of element that the search tool is asked for
 

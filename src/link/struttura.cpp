@@ -8,6 +8,7 @@
 #include "core/numeri.h"
 #include "core/piattaforma.h"
 #include "core/testo.h"
+#include "model/stato.h"
 
 namespace {
 

@@ -10,6 +10,7 @@
 #include "core/piattaforma.h"
 #include "core/testo.h"
 #include "model/materiali.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

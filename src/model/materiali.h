@@ -25,4 +25,3 @@ struct Materiali {
   // Grades remembered across a change of method: column TA, column SLU, anchors TA, anchors SLU.
   MatAcciaio MemoriaMateriali[4];
 };
-inline Materiali materiali;

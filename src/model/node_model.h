@@ -1,9 +1,7 @@
-// model/node_model.h - the joint as entered, and the tables that a verification fills.
+// model/node_model.h - the joint as entered.
 // Axes      the plate lies in Z-Y: Z along the column's width b, Y along its height h; anchors are measured from a plate corner.
-// Units     mm; loads daN and daN cm; strengths daN/cm2. Result stresses daN/mm2 until a report scales them by 100.
-// Signs     N and anchor stress + in tension.
-// State     nodo: one joint, written by the panel's fields the moment they change; ris: until the next verification.
-//           Values that no step clears stay (stale rows of an earlier verification count where the rules say so).
+// Units     mm; loads daN and daN cm; strengths daN/cm2.
+// Signs     N + in tension.
 // Indices   1-based, index 0 free: sextets 1..200, anchors 1..8, welds 1..50, weld points 1..3, structure nodes 1..2000.
 #pragma once
 #include <cstdint>
@@ -75,7 +73,6 @@ struct Nodo {
   double NervZ = 0, NervY = 0, NervTaglio = 0;          // mm; chamfers that the drawing derives
   double Gola = 0;                                      // mm, the weld's side as typed
   double GolaCalc = 0;                                  // mm, throat = Gola / sqrt 2
-  std::int16_t NumSaldature = 0;
 
   std::int16_t NTir = 0;
   double TfZ[MaxTir + 1] = {}, TfY[MaxTir + 1] = {};    // mm from the plate's corner
@@ -103,37 +100,3 @@ struct Nodo {
   int OptionNTir = 0;              // 0 four, 1 eight, 2 six "Vert.", 3 six "Orizz."
   int Esposizione = -1;            // position in ComboEsposizione
 };
-inline Nodo nodo;
-
-struct Saldatura {
-  std::string Nome;                                     // "S" + index; empty until built
-  double Lung = 0;                                      // mm, to one decimal
-  double TauPa[MaxSoll + 1][4] = {};                    // shear along the weld, [s][k]
-  double TauPe[MaxSoll + 1][4] = {};                    // shear across the weld
-  double SPrp[MaxSoll + 1][4] = {};                     // normal stress
-  double SEq1[MaxSoll + 1] = {}, SEq2[MaxSoll + 1] = {};
-  double PZ[4] = {}, PY[4] = {};                        // mm, on the throat's mid-line: 1 first end, 2 middle, 3 other end
-  double Ip = 0, Iz = 0, Iy = 0;                        // mm4, own inertias
-  double Ang[4] = {};                                   // rad: ends seen from the origin [1], [3]; axis [2]
-};
-
-struct Risultati {
-  double SigmaTir[MaxSoll + 1][MaxTir + 1] = {};        // normal stress in the anchor, tension +
-  double TauTir[MaxSoll + 1][MaxTir + 1] = {};          // allowable stresses: shear stress
-  double SRfTir[MaxSoll + 1][MaxTir + 1] = {};          // allowable stresses: bearing stress on the plate
-  double TiroTir[MaxSoll + 1][MaxTir + 1] = {};         // allowable stresses: anchor force, daN
-  double FvEd[MaxSoll + 1][MaxTir + 1] = {};            // limit states: shear force, daN
-  double FtEd[MaxSoll + 1][MaxTir + 1] = {};            // limit states: anchor force, daN, tension +
-  double Co1[MaxSoll + 1][MaxTir + 1] = {}, Co2[MaxSoll + 1][MaxTir + 1] = {}, Co3[MaxSoll + 1][MaxTir + 1] = {};
-  double SMaxCls[MaxSoll + 1] = {};                     // highest pressure under the plate, absolute
-  double SMaxPiastra[MaxSoll + 1] = {};                 // highest bending stress in the plate
-  double SPiastraTir[MaxSoll + 1][3][MaxTir + 1] = {};  // [s][d][i], d = 1 strip along Z, 2 along Y
-  double SNerv[MaxSoll + 1][MaxNerv + 1] = {};          // equivalent stress at rib positions 1..8
-  Saldatura Saldature[MaxSald + 1];
-
-  double FvRd = 0, FtRd = 0, BpRd = 0;                  // daN, limit states
-  double FbRd[MaxTir + 1] = {};                         // daN, limit states, one an anchor
-  double TadRd = 0;                                     // daN, bond; allowable stresses: a running minimum over the sextets
-  bool FlagDiamEstrapolato = false, FlagDiamInterpolato = false;
-};
-inline Risultati ris;

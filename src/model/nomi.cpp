@@ -4,13 +4,11 @@
 #include <algorithm>
 #include <charconv>
 
-#include "model/materiali.h"
-#include "model/node_model.h"
-#include "model/suite.h"
+#include "model/stato.h"
 
 // offsetof is told for these layouts.
 static_assert(std::is_standard_layout_v<Sezione> && std::is_standard_layout_v<MatAcciaio> && std::is_standard_layout_v<MatCls> &&
-              std::is_standard_layout_v<MatViti> && std::is_standard_layout_v<MatCA> && std::is_standard_layout_v<Saldatura>);
+              std::is_standard_layout_v<MatViti> && std::is_standard_layout_v<MatCA>);
 
 static std::string TestoReale(double v) {            // %.15g, whatever the locale
   char a[40];
@@ -116,17 +114,11 @@ static constexpr RigaNome CAMPI_VITI[] = {
   CAMPO(MatViti, NonUsato), CAMPO(MatViti, GammaM2),
 };
 static constexpr RigaNome CAMPI_CA[] = {CAMPO(MatCA, Nome), CAMPO(MatCA, V)};
-static constexpr RigaNome CAMPI_SALDATURA[] = {
-  CAMPO(Saldatura, Nome), CAMPO(Saldatura, Lung), CAMPO(Saldatura, TauPa, DA_0), CAMPO(Saldatura, TauPe, DA_0),
-  CAMPO(Saldatura, SPrp, DA_0), CAMPO(Saldatura, SEq1, DA_0), CAMPO(Saldatura, SEq2, DA_0), CAMPO(Saldatura, PZ),
-  CAMPO(Saldatura, PY), CAMPO(Saldatura, Ip), CAMPO(Saldatura, Iz), CAMPO(Saldatura, Iy), CAMPO(Saldatura, Ang),
-};
-
 static constexpr RigaNome NOMI[] = {
   // Joint
   VOCE(nodo, NomeNodo), VOCE(nodo, Sezione, DA_1, CAMPI_SEZIONE), VOCE(nodo, LatoZ), VOCE(nodo, LatoY), VOCE(nodo, SpessPiastra),
   VOCE(nodo, TipoNodo), VOCE(nodo, HNerv), VOCE(nodo, SpNerv), VOCE(nodo, SaldInt), VOCE(nodo, NervZ), VOCE(nodo, NervY),
-  VOCE(nodo, NervTaglio), VOCE(nodo, Gola), VOCE(nodo, GolaCalc), VOCE(nodo, NumSaldature),
+  VOCE(nodo, NervTaglio), VOCE(nodo, Gola), VOCE(nodo, GolaCalc),
   VOCE(nodo, NTir), VOCE(nodo, TfZ, DA_0), VOCE(nodo, TfY, DA_0), VOCE(nodo, TipoTirafondo), VOCE(nodo, TfDiamIdx),
   VOCE(nodo, TfFi), VOCE(nodo, TfLFt), VOCE(nodo, TfL), VOCE(nodo, TfR), VOCE(nodo, TfL1), VOCE(nodo, TfLF), VOCE(nodo, TfDForo),
   VOCE(nodo, TfHMalta), VOCE(nodo, TfLFil), VOCE(nodo, TfDistBordo),
@@ -135,12 +127,6 @@ static constexpr RigaNome NOMI[] = {
   VOCE(nodo, NumSoll), VOCE(nodo, SollN, DA_0), VOCE(nodo, SollTy, DA_0), VOCE(nodo, SollTz, DA_0), VOCE(nodo, SollMt, DA_0),
   VOCE(nodo, SollMy, DA_0), VOCE(nodo, SollMz, DA_0), VOCE(nodo, SollCC, DA_0), VOCE(nodo, SollNome, DA_0),
   VOCE(nodo, NumNodiStr), VOCE(nodo, NodiStr), VOCE(nodo, TipoVer), VOCE(nodo, OptionNTir), VOCE(nodo, Esposizione),
-  // Results
-  VOCE(ris, SigmaTir, DA_0), VOCE(ris, TauTir, DA_0), VOCE(ris, SRfTir, DA_0), VOCE(ris, TiroTir, DA_0), VOCE(ris, FvEd, DA_0),
-  VOCE(ris, FtEd, DA_0), VOCE(ris, Co1, DA_0), VOCE(ris, Co2, DA_0), VOCE(ris, Co3, DA_0), VOCE(ris, SMaxCls, DA_0),
-  VOCE(ris, SMaxPiastra, DA_0), VOCE(ris, SPiastraTir, DA_0), VOCE(ris, SNerv, DA_0), VOCE(ris, Saldature, DA_1, CAMPI_SALDATURA),
-  VOCE(ris, FvRd), VOCE(ris, FtRd), VOCE(ris, BpRd), VOCE(ris, FbRd), VOCE(ris, TadRd), VOCE(ris, FlagDiamEstrapolato),
-  VOCE(ris, FlagDiamInterpolato),
   // Suite
   Voce("TitoloProg", TitoloProg), VOCE(suite, DirRoot), VOCE(suite, DirLavoro), VOCE(suite, DirProgra), VOCE(suite, DirDriver),
   VOCE(suite, DirCustom), VOCE(suite, Lavoro), VOCE(suite, StrTmp), VOCE(suite, AccelG), VOCE(suite, NordGeo), VOCE(suite, UnitaLung),

@@ -97,6 +97,6 @@ constexpr RigaNome CampoNome(const char* nome, std::size_t scarto, IndiciNome pr
 
 using TabelleNomi = std::span<const std::span<const RigaNome>>;
 
-std::span<const RigaNome> NomiModello();     // node, results, suite and materials
+std::span<const RigaNome> NomiModello();     // joint, suite and materials
 std::span<const RigaNome> CampiSezione();    // fields of a Sezione, for records of other rooms
 bool ValoreModello(std::string_view nome, std::string& valore, TabelleNomi altri = {});

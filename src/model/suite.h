@@ -29,4 +29,3 @@ struct Suite {
   std::int16_t NumProfili = 0;
   Sezione ProfiliLib[MaxProfili + 1];
 };
-inline Suite suite;

@@ -4,6 +4,7 @@
 #include "core/aritmetica.h"
 #include "core/numeri.h"
 #include "core/piattaforma.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 #include "panels/righe.h"

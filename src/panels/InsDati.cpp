@@ -10,6 +10,8 @@
 #include "core/piattaforma.h"
 #include "drawing/schizzo.h"
 #include "model/node_model.h"
+#include "model/regole_nodo.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati_eventi.h"
 
@@ -77,8 +79,8 @@ void InsDati_LatoTxt(int i) {
     switch (i) {
       case 0: nodo.LatoZ = v; break;
       case 1: nodo.LatoY = v; break;
-      case 2: AssegnaFinito(nodo.LatoZ, 2 * v + nodo.Sezione.B); break;   // 2 and 3 are the margins
-      case 3: AssegnaFinito(nodo.LatoY, 2 * v + nodo.Sezione.H); break;
+      case 2: AssegnaFinito(nodo.LatoZ, LatoDaMargine(v, nodo.Sezione.B)); break;   // 2 and 3 are the margins
+      case 3: AssegnaFinito(nodo.LatoY, LatoDaMargine(v, nodo.Sezione.H)); break;
       case 4: nodo.SpessPiastra = v; break;
     }
   }
@@ -87,17 +89,17 @@ void InsDati_LatoTxt(int i) {
 
 static void LatiDaMargini() {
   double mz = 0, my = 0;
-  if (LeggiCampo(insDati.LatoTxt[2], mz)) AssegnaFinito(nodo.LatoZ, 2 * mz + nodo.Sezione.B);
-  if (LeggiCampo(insDati.LatoTxt[3], my)) AssegnaFinito(nodo.LatoY, 2 * my + nodo.Sezione.H);
+  if (LeggiCampo(insDati.LatoTxt[2], mz)) AssegnaFinito(nodo.LatoZ, LatoDaMargine(mz, nodo.Sezione.B));
+  if (LeggiCampo(insDati.LatoTxt[3], my)) AssegnaFinito(nodo.LatoY, LatoDaMargine(my, nodo.Sezione.H));
   ImpostaTesto(insDati.LatoTxt[0], NumeroPiano(nodo.LatoZ));
   ImpostaTesto(insDati.LatoTxt[1], NumeroPiano(nodo.LatoY));
 }
 
-// The change of a margin stores the side again, so the side ends as twice the shown margin and the section; deliberate.
+// The change of a margin stores the side again, so the side ends as twice the shown margin and the section: equal up to 15 digits.
 static void MarginiDaLati() {
   double mz = 0, my = 0;
-  if (AssegnaFinito(mz, (nodo.LatoZ - nodo.Sezione.B) / 2)) ImpostaTesto(insDati.LatoTxt[2], NumeroPiano(mz));
-  if (AssegnaFinito(my, (nodo.LatoY - nodo.Sezione.H) / 2)) ImpostaTesto(insDati.LatoTxt[3], NumeroPiano(my));
+  if (AssegnaFinito(mz, MargineDaLato(nodo.LatoZ, nodo.Sezione.B))) ImpostaTesto(insDati.LatoTxt[2], NumeroPiano(mz));
+  if (AssegnaFinito(my, MargineDaLato(nodo.LatoY, nodo.Sezione.H))) ImpostaTesto(insDati.LatoTxt[3], NumeroPiano(my));
 }
 
 void InsDati_LatoTxt_Invio(int) {
@@ -125,39 +127,12 @@ void InsDati_HFazzTxt(int i) { LeggiCampo(insDati.HFazzTxt[i], i == 0 ? nodo.HNe
 void InsDati_ChSI(int) { nodo.SaldInt = insDati.ChSI.scelta == 1 ? 1 : 0; }
 
 void InsDati_GolaTxt(int) {
-  if (LeggiCampo(insDati.GolaTxt, nodo.Gola)) nodo.GolaCalc = nodo.Gola / std::sqrt(2.0);
+  if (LeggiCampo(insDati.GolaTxt, nodo.Gola)) nodo.GolaCalc = GolaDaLato(nodo.Gola);
 }
 
 // ---- anchors ----
 
-// Anchors 5 to 8 of the patterns, on the lines of the first four or at mid-side.
-static void OttoTirafondi() {
-  double *const Z = nodo.TfZ, *const Y = nodo.TfY;
-  nodo.NTir = 8;
-  Z[5] = Z[1];
-  Z[6] = Z[2];
-  Y[5] = Y[6] = nodo.LatoY / 2;
-  Z[7] = Z[8] = nodo.LatoZ / 2;
-  Y[7] = Y[3];
-  Y[8] = Y[1];
-}
-
-static void SeiOrizzontali() {
-  double *const Z = nodo.TfZ, *const Y = nodo.TfY;
-  nodo.NTir = 6;
-  Z[5] = Z[6] = nodo.LatoZ / 2;
-  Y[5] = Y[3];
-  Y[6] = Y[1];
-}
-
-static void SeiVerticali() {
-  double *const Z = nodo.TfZ, *const Y = nodo.TfY;
-  nodo.NTir = 6;
-  Z[5] = Z[1];
-  Z[6] = Z[2];
-  Y[5] = Y[6] = nodo.LatoY / 2;
-}
-
+// A distance that is no number leaves its anchors where they stand.
 void PosizioniTirafondi() {
   double *const Z = nodo.TfZ, *const Y = nodo.TfY;
   double dz1 = 0, dz2 = 0, dy1 = 0, dy2 = 0;            // mm, from the plate's edges
@@ -165,12 +140,7 @@ void PosizioniTirafondi() {
   if (LeggiCampo(insDati.DTf[2], dz2) && AssegnaFinito(Z[2], nodo.LatoZ - dz2)) Z[4] = Z[2];
   if (LeggiCampo(insDati.DTf[3], dy1)) Y[1] = Y[2] = dy1;
   if (LeggiCampo(insDati.DTf[4], dy2) && AssegnaFinito(Y[3], nodo.LatoY - dy2)) Y[4] = Y[3];
-  switch (nodo.OptionNTir) {
-    case 1: OttoTirafondi(); break;
-    case 2: SeiVerticali(); break;
-    case 3: SeiOrizzontali(); break;
-    default: nodo.NTir = 4; break;
-  }
+  PosizioniExtra(nodo);
 }
 
 void InsDati_DTf(int) { PosizioniTirafondi(); }

@@ -32,7 +32,7 @@ struct StatoInsDati {
 inline StatoInsDati insDati;
 extern const Pannello InsDati;
 
-// How the last press of Verifica ended. The verdict of the sextets is the report's (esitoRelazione).
+// How the last press of Verifica ended.
 enum class EsitoVerifica {
   NonEseguita,      // Verifica was not pressed yet
   Rifiutata,        // the input checks refused the joint
@@ -40,7 +40,10 @@ enum class EsitoVerifica {
   Interrotta,       // the solver failed on a sextet, an arithmetic fault, a report that could not be written
   Eseguita          // every sextet was computed and the report shown
 };
-struct StatoVerificaPannello { EsitoVerifica esito = EsitoVerifica::NonEseguita; };
+struct StatoVerificaPannello {
+  EsitoVerifica esito = EsitoVerifica::NonEseguita;
+  bool verificato = false;         // of one that was carried out: every sextet passes
+};
 inline StatoVerificaPannello verificaPannello;
 
 void PreparaInsDati();                                // the panel as created: rows, captions, pictures, first choices

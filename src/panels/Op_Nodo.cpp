@@ -6,6 +6,7 @@
 #include "core/opzioni.h"
 #include "core/piattaforma.h"
 #include "drawing/formats/formati.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati_eventi.h"
 #include "panels/righe.h"

@@ -8,6 +8,7 @@
 #include "core/piattaforma.h"
 #include "materials/regole_materiali.h"
 #include "model/materiali.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/righe.h"
 

@@ -8,6 +8,7 @@
 #include "drawing/schizzo.h"
 #include "link/ricerca.h"
 #include "link/struttura.h"
+#include "model/stato.h"
 #include "panels/InsDati.h"
 #include "panels/righe.h"
 

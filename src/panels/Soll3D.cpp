@@ -7,6 +7,7 @@
 #include "link/liste.h"
 #include "link/ricerca.h"
 #include "link/struttura.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 #include "panels/righe.h"

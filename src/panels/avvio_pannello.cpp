@@ -17,10 +17,12 @@
 #include "materials/file_materiali.h"
 #include "model/materiali.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"
 #include "panels/Op_Nodo.h"
+#include "panels/lavoro_finestre.h"
 #include "panels/programma.h"
 
 constexpr int DiametroPredefinito = 7;     // row of the diameter table, from 1: M20
@@ -119,7 +121,7 @@ void AzzeraNodo() {
   AggiornaTitoloSoll();
   disegno.DestDis = {};
   nodo.NTir = 4;
-  nodo.NumSaldature = 0;
+  lavoro.NumSaldature = 0;
 }
 
 // ---- start ----

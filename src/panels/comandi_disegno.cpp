@@ -4,9 +4,10 @@
 #include "core/piattaforma.h"
 #include "drawing/disegno.h"
 #include "drawing/formats/formati.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
-#include "reports/nomi_file.h"
+#include "core/nomi_file.h"
 
 static std::string FiltriDisegno() {
   std::string filtri;

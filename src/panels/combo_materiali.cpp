@@ -2,7 +2,6 @@
 // check of the names that a node file brings.
 // Rule      a selection takes the table entry of its position + 1, also where the filter has dropped entries before it; deliberate.
 #include <algorithm>
-#include <cmath>
 #include <string>
 #include <vector>
 
@@ -12,6 +11,8 @@
 #include "materials/regole_materiali.h"
 #include "model/materiali.h"
 #include "model/node_model.h"
+#include "model/regole_nodo.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"
@@ -103,7 +104,7 @@ void InsDati_ComboCalcestruzzo(int) {
   const int n = VoceDiTabella(insDati.ComboCalcestruzzo, materiali.NumCls);
   if (n == 0) return;
   nodo.MatCls = materiali.ClsBase[n];
-  AssegnaFinito(nodo.EcCls, 5700 * std::sqrt(nodo.MatCls.Rck / 10) * 10);
+  AssegnaFinito(nodo.EcCls, ModuloCls(nodo.MatCls.Rck));
 }
 
 // ---- the job's materials ----

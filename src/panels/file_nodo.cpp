@@ -11,10 +11,12 @@
 #include "core/layout_nodo.h"
 #include "core/piattaforma.h"
 #include "core/testo.h"
-#include "model/materiali.h"
+#include "model/regole_nodo.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/FormTF.h"
 #include "panels/InsDati.h"
+#include "panels/lavoro_finestre.h"
 
 // The name and the caption change before anything is read or written, also when that fails then.
 static bool ScegliFileNodo(bool salva, std::string& percorso) {
@@ -100,8 +102,8 @@ static void EseguiPasso(PassoNodo passo) {
 static void MostraPiastra() {                        // sides first, margins behind them: each change stores its value
   ImpostaNumero(insDati.LatoTxt[0], nodo.LatoZ);
   ImpostaNumero(insDati.LatoTxt[1], nodo.LatoY);
-  ImpostaNumero(insDati.LatoTxt[2], (nodo.LatoZ - nodo.Sezione.B) / 2);
-  ImpostaNumero(insDati.LatoTxt[3], (nodo.LatoY - nodo.Sezione.H) / 2);
+  ImpostaNumero(insDati.LatoTxt[2], MargineDaLato(nodo.LatoZ, nodo.Sezione.B));
+  ImpostaNumero(insDati.LatoTxt[3], MargineDaLato(nodo.LatoY, nodo.Sezione.H));
   ImpostaNumero(insDati.LatoTxt[4], nodo.SpessPiastra);
 }
 
@@ -152,10 +154,11 @@ static void Svuota(Tabella&... t) {
 // The tables of the verification belong to the former node. What a verification does not rebuild by itself, and finds as an
 // earlier one left it, stays: plate stresses beside the anchors, geometry of the welds, the running bond limit.
 static void AzzeraRisultati() {
+  Risultati& ris = lavoro.ris;
   Svuota(ris.SigmaTir, ris.TauTir, ris.SRfTir, ris.TiroTir, ris.FvEd, ris.FtEd, ris.Co1, ris.Co2, ris.Co3);
   Svuota(ris.SMaxCls, ris.SMaxPiastra, ris.SNerv);
   for (Saldatura& w : ris.Saldature) Svuota(w.TauPa, w.TauPe, w.SPrp, w.SEq1, w.SEq2);
-  nodo.NumSaldature = 0;
+  lavoro.NumSaldature = 0;
 }
 
 // A fault in a handler is one failed step more; nothing that it left is painted.
@@ -171,6 +174,7 @@ void CaricaNodo() {
   FileLettura f;
   if (!ApriLettura(f, percorso)) passi.fallito = true;
   LeggiNodo(f, EseguiPasso);
+  gradiLetti = {nodo.MatAcc.Nome, nodo.MatTir.Nome, nodo.MatCls.Nome};
   ControllaMateriali();
   MostraPiastra();
   MostraTipologia();

@@ -9,10 +9,11 @@
 #include "core/numeri.h"
 #include "core/piattaforma.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"
-#include "reports/nomi_file.h"
+#include "core/nomi_file.h"
 
 constexpr int NumRighe = 5;
 constexpr int ScrollMin = 3;               // value of the bar at which the rows show groups 1 to 5

@@ -8,6 +8,7 @@
 #include "link/liste.h"
 #include "link/ricerca.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "panels/Soll3D.h"
 #include "panels/righe.h"
 

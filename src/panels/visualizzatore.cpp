@@ -5,6 +5,7 @@
 #include "core/numeri.h"
 #include "core/piattaforma.h"
 #include "drawing/formats/formati.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 constexpr int SILENZIO_RIUSCITA = 1;         // no box of success; a failed write is told

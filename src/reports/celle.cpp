@@ -8,6 +8,7 @@
 #include "core/aritmetica.h"
 #include "core/numeri.h"
 #include "core/testo.h"
+#include "model/stato.h"
 
 namespace {
 

@@ -7,6 +7,7 @@
 #pragma once
 #include <string>
 #include <string_view>
+#include "model/stato.h"
 #include "model/suite.h"
 
 // A value to be rounded, ties to even, before it is written.

@@ -1,5 +1,5 @@
-// reports/foglio.h - the report in writing: its text, the verdicts, and what both methods share: lines, opening, the title
-// and the verdict of a sextet, the closing.
+// reports/foglio.h - the report in writing: its text, and what both methods share: lines, opening, the title and the verdict of a
+// sextet, the closing.
 // State     a Foglio lives in the routine that writes the report.
 // Failure   a line counts only if no arithmetic fault was raised until it is whole; otherwise it is taken back, false comes
 //           back and the report ends there, closed with the lines so far.
@@ -9,27 +9,19 @@
 #include <string>
 #include "core/aritmetica.h"
 #include "core/file.h"
+#include "engine/lavoro.h"
 #include "reports/celle.h"
 
 struct Foglio {
+  const Lavoro& l;
   FileScrittura file;
   std::string percorso;            // suite path of the report
-  double c = 0;                    // from the tables' daN/mm2 to daN/cm2: the square of the factor of "mm"
-  bool Verificato = true;          // the sextet in hand passes so far
-  bool Fallito = false;            // some sextet has failed
 };
 
 bool ApriFoglio(Foglio& f, const char* metodo);        // false: the file cannot be opened, a fault is raised
 bool ConcludiFoglio(Foglio& f, bool intero);           // box, close, show; what RelazioneTA and RelazioneSLU return
 bool TitoloCombinazione(Foglio& f, int s);             // empty line, name, seventy dashes
-bool EsitoCombinazione(Foglio& f, int s);              // empty line and verdict; a failed sextet lowers Fallito
-
-// The weld at a rib's inner edge (one on each side of the column), made only with nodo.SaldInt = 1.
-inline bool SaldaturaInterna(int w) { return w == 9 || w == 19; }
-
-// Rib positions of the results under each label of both reports, and the largest stress at them, daN/mm2.
-constexpr int POSIZIONI_Z[] = {3, 4, 7, 8}, POSIZIONI_Y[] = {1, 2, 5, 6};
-double SMaxNervatura(int s, const int (&posizioni)[4]);
+bool EsitoCombinazione(Foglio& f, int s);              // empty line and verdict
 
 [[nodiscard]] inline bool FineRiga(Foglio& f, std::size_t inizio) {   // inizio: where the line begins in the text
   f.file.testo.append("\r\n");

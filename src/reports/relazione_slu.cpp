@@ -1,16 +1,15 @@
-// reports/relazione_slu.cpp - report and verdicts by limit states (NTC 2008). Cells of fixed width with bars; the order of the
-// lines is the order of the checks. Each check is strict: a value on its limit passes. A narrow cell never cuts its text, and
-// the blanks behind a left-aligned one stay.
+// reports/relazione_slu.cpp - report by limit states (NTC 2008). Cells of fixed width with bars. A narrow cell never cuts its text,
+// and the blanks behind a left-aligned one stay.
 #include <cmath>
 
 #include "core/diametri.h"
 #include "core/numeri.h"
 #include "engine/Saldature.h"
-#include "model/node_model.h"
+#include "engine/righe.h"
+#include "model/stato.h"
 #include "reports/Relazioni.h"
 #include "reports/foglio.h"
-#include "reports/limiti_slu.h"
-#include "reports/nomi_file.h"
+#include "core/nomi_file.h"
 
 namespace {
 
@@ -26,7 +25,7 @@ constexpr Colonna COL_TIRAFONDI[] = {
   {"Num", LB(7)}, {"X", RB(3)}, {"Y", RB(5)}, {"Fi", RB(4)}, {"Area", RB(7)},
 };
 constexpr Colonna COL_DIMENSIONI[] = {{"l", RB(5)}, {"lft", RB(5)}, {"l1", RB(5)}, {"r", RB(5)}};
-constexpr Colonna COL_SALDATURE[] = {      // the second "Nome" is 4 wide over cells of 5; deliberate
+constexpr Colonna COL_SALDATURE[] = {      // the second "Nome" is 4 wide over cells of 5: its column stands one to the left
   {"Nome", LB(5)}, {"Lung", RB(7)}, {"Lato", RB(4)}, {" ", VUOTO}, {"Nome", LB(4)}, {"Lung", RB(7)}, {"Lato", RB(4)},
 };
 constexpr Colonna COL_MATERIALI[] = {{"fd s<40mm", LB(20)}, {"fd 40mm<s<80mm", LB(20)}, {"fcd", L(40)}};
@@ -69,7 +68,6 @@ void Celle(std::string& t, Cella c, const Valore&... v) { (AggiungiCella(t, v, c
 
 // The verdict's cell, which ends the line.
 bool RigaVerdetto(Foglio& f, std::size_t inizio, bool passa) {
-  if (!passa) f.Verificato = false;
   AggiungiCella(f.file.testo, passa ? "SI'" : "NO", RB(3));
   return FineRiga(f, inizio);
 }
@@ -77,6 +75,7 @@ bool RigaVerdetto(Foglio& f, std::size_t inizio, bool passa) {
 // ---- head
 
 bool ScriviProfili(Foglio& f) {
+  const Nodo& nodo = *f.l.nodo;
   if (!Riga(f, TitoloNodi(), TITOLO_METODO) || !Riga(f) ||
       !Riga(f, "UNITA' DI MISURA: [", suite.UnitaForze, "] ; [", suite.UnitaMomenti, "] ; [", suite.UnitaTensioni, "] ; [mm]") ||
       !Righe(f, RIGHE_GEOMETRIA) || !RigaTitoli(f, COL_PROFILI))
@@ -90,39 +89,41 @@ bool ScriviProfili(Foglio& f) {
   return FineRiga(f, inizio);
 }
 
-bool RigaPiastra(Foglio& f, const char* nome, double l, double h, double s) {
+bool RigaPiastra(Foglio& f, const char* nome, double lungo, double h, double s) {
   const std::size_t inizio = f.file.testo.size();
   AggiungiCella(f.file.testo, nome, LB(5));
-  Celle(f.file.testo, RB(5), R1(l), R1(h), R1(s));
+  Celle(f.file.testo, RB(5), R1(lungo), R1(h), R1(s));
   return FineRiga(f, inizio);
 }
 
-// The ribs' rows are written whatever TipoNodo; deliberate.
+// The ribs' rows are written whatever TipoNodo, also for a joint without ribs.
 bool ScriviPiastre(Foglio& f) {
+  const Nodo& nodo = *f.l.nodo;
   return Righe(f, RIGHE_PIASTRE) && RigaTitoli(f, COL_PIASTRE) &&
          RigaPiastra(f, "1", nodo.LatoZ, nodo.LatoY, nodo.SpessPiastra) &&
          RigaPiastra(f, "2(Y)", nodo.LatoY, nodo.HNerv, nodo.SpNerv) &&
          RigaPiastra(f, "3(Z)", (nodo.LatoZ - nodo.Sezione.B) / 2 - nodo.SpNerv, nodo.HNerv, nodo.SpNerv);
 }
 
-void CelleTirafondo(std::string& t, int i, Cella numero) {
+void CelleTirafondo(std::string& t, const Nodo& nodo, int i, Cella numero) {
   AggiungiCella(t, i, numero);
   AggiungiCella(t, R1(nodo.LatoZ - nodo.TfZ[i]), RB(3));
   AggiungiCella(t, R1(nodo.TfY[i]), RB(5));
   AggiungiCella(t, R1(nodo.TfFi), RB(4));
-  AggiungiCella(t, R2(AreaResistente(nodo.TfFi)), RB(7));
+  AggiungiCella(t, R2(AreaResistente(suite, nodo.TfFi)), RB(7));
 }
 
 bool ScriviTirafondi(Foglio& f) {
+  const Nodo& nodo = *f.l.nodo;
   if (!Righe(f, RIGHE_TIRAFONDI) || !Riga(f, "Tirafondi (n° ", nodo.NTir, ")") || !RigaTitoli(f, COL_TIRAFONDI)) return false;
   std::string& t = f.file.testo;
   const int meta = nodo.NTir / 2 + nodo.NTir % 2;
   for (int i = 1, j = 1 + meta; i <= meta; ++i, ++j) {
     const std::size_t inizio = t.size();
-    CelleTirafondo(t, i, LB(3));
+    CelleTirafondo(t, nodo, i, LB(3));
     if (j <= nodo.NTir) {
       t += ' ';
-      CelleTirafondo(t, j, LB(7));
+      CelleTirafondo(t, nodo, j, LB(7));
     }
     if (!FineRiga(f, inizio)) return false;
   }
@@ -132,15 +133,15 @@ bool ScriviTirafondi(Foglio& f) {
   return FineRiga(f, inizio);
 }
 
-void CelleSaldatura(std::string& t, int w) {
-  AggiungiCella(t, ris.Saldature[w].Nome, LB(5));
-  AggiungiCella(t, R1(ris.Saldature[w].Lung), RB(7));
-  AggiungiCella(t, R1(nodo.Gola), RB(4));
+void CelleSaldatura(std::string& t, const Lavoro& l, int w) {
+  AggiungiCella(t, l.ris.Saldature[w].Nome, LB(5));
+  AggiungiCella(t, R1(l.ris.Saldature[w].Lung), RB(7));
+  AggiungiCella(t, R1(l.nodo->Gola), RB(4));
 }
 
 // One of a pair: a weld that is not made shows its name and dashes.
-void CelleSaldaturaInCoppia(std::string& t, int w) {
-  if (!SaldaturaInterna(w) || nodo.SaldInt != 0) return CelleSaldatura(t, w);
+void CelleSaldaturaInCoppia(std::string& t, const Lavoro& l, int w) {
+  if (!SaldaturaInterna(w) || l.nodo->SaldInt != 0) return CelleSaldatura(t, l, w);
   AggiungiCella(t, w == 9 ? "S9" : "S19", LB(5));
   AggiungiCella(t, "-", RB(7));
   AggiungiCella(t, "-", RB(4));
@@ -148,17 +149,17 @@ void CelleSaldaturaInCoppia(std::string& t, int w) {
 
 // An odd count leaves the last weld alone, with its own values in any case.
 bool ScriviSaldature(Foglio& f) {
-  if (!Riga(f) || !Riga(f) || !Riga(f, "SALDATURE (n° ", nodo.NumSaldature, ")") || !RigaTitoli(f, COL_SALDATURE)) return false;
+  if (!Riga(f) || !Riga(f) || !Riga(f, "SALDATURE (n° ", f.l.NumSaldature, ")") || !RigaTitoli(f, COL_SALDATURE)) return false;
   std::string& t = f.file.testo;
-  const int meta = nodo.NumSaldature / 2 + nodo.NumSaldature % 2;
+  const int meta = f.l.NumSaldature / 2 + f.l.NumSaldature % 2;
   for (int i = 1, j = 1 + meta; i <= meta; ++i, ++j) {
     const std::size_t inizio = t.size();
-    if (j <= nodo.NumSaldature) {
-      CelleSaldaturaInCoppia(t, i);
+    if (j <= f.l.NumSaldature) {
+      CelleSaldaturaInCoppia(t, f.l, i);
       t += ' ';
-      CelleSaldaturaInCoppia(t, j);
+      CelleSaldaturaInCoppia(t, f.l, j);
     } else {
-      CelleSaldatura(t, i);
+      CelleSaldatura(t, f.l, i);
     }
     if (!FineRiga(f, inizio)) return false;
   }
@@ -166,6 +167,7 @@ bool ScriviSaldature(Foglio& f) {
 }
 
 bool ScriviMateriali(Foglio& f) {
+  const Nodo& nodo = *f.l.nodo;
   const MatAcciaio& acc = nodo.MatAcc;
   const MatCls& cls = nodo.MatCls;
   std::string& t = f.file.testo;
@@ -206,103 +208,95 @@ bool RigaSollecitazioni(Foglio& f, const char* const (&nomi)[3], const double (&
 }
 
 bool ScriviSestetto(Foglio& f, int s) {
+  const Nodo& nodo = *f.l.nodo;
   const double F = suite.FattForze, M = suite.FattMomenti;
   return TitoloCombinazione(f, s) &&
          RigaSollecitazioni(f, {"N: ", "Ty: ", "Tz: "}, {F * nodo.SollN[s], F * nodo.SollTy[s], F * nodo.SollTz[s]}) &&
          RigaSollecitazioni(f, {"Mt: ", "My: ", "Mz: "}, {M * nodo.SollMt[s], M * nodo.SollMy[s], M * nodo.SollMz[s]});
 }
 
-// The ratios are rounded in place, ties to even, and judged as rounded: 1.004 passes.
-bool VerificaTirafondo(Foglio& f, int s, int i) {
-  double &Co1 = ris.Co1[s][i], &Co2 = ris.Co2[s][i], &Co3 = ris.Co3[s][i];
-  for (double* Co : {&Co1, &Co2, &Co3}) *Co = ArrotondaPari(*Co, 2);
+bool RigaTirafondo(Foglio& f, int s, int i) {
+  const Risultati& ris = f.l.ris;
+  const std::size_t k = static_cast<std::size_t>(i - 1);
+  const RigaControllo &co1 = RigheCriterio(f.l, s, SLU_TIR_CO1)[k], &co2 = RigheCriterio(f.l, s, SLU_TIR_CO2)[k],
+                      &co3 = RigheCriterio(f.l, s, SLU_TIR_CO3)[k];
   std::string& t = f.file.testo;
   const std::size_t inizio = t.size();
   AggiungiCella(t, i, LB(3));
   Celle(t, RB(7), RF(ris.FvEd[s][i]), RF(ris.FvRd), RF(ris.FbRd[i]), RF(ris.FtEd[s][i]), RF(ris.FtRd), RF(ris.BpRd), RF(ris.TadRd));
-  Celle(t, RB(4), R2(Co1), R2(Co2), R2(Co3));
-  return RigaVerdetto(f, inizio, Co1 <= 1 && Co2 <= 1 && Co3 <= 1);
+  Celle(t, RB(4), R2(co1.domanda), R2(co2.domanda), R2(co3.domanda));
+  return RigaVerdetto(f, inizio, co1.passa && co2.passa && co3.passa);
 }
 
 bool BloccoTirafondi(Foglio& f, int s) {
   if (!Righe(f, RIGHE_VER_TIRAFONDI) || !RigaTitoli(f, COL_VER_TIRAFONDI)) return false;
-  for (int i = 1; i <= nodo.NTir; ++i)
-    if (!VerificaTirafondo(f, s, i)) return false;
+  for (int i = 1; i <= f.l.nodo->NTir; ++i)
+    if (!RigaTirafondo(f, s, i)) return false;
   return true;
 }
 
-bool VerificaSaldatura(Foglio& f, int s, int w, double SLim1, double SLim2) {
-  const Saldatura& sald = ris.Saldature[w];
-  const double SEq1 = sald.SEq1[s], SEq2 = sald.SEq2[s];
+bool RigaSaldatura(Foglio& f, int s, const RigaControllo& eq1, const RigaControllo& eq2) {
   double a = 0, b = 0, d = 0;
-  MaxTensioniSaldatura(a, b, d, w, s);
+  MaxTensioniSaldatura(f.l, a, b, d, eq1.elemento, s);
   std::string& t = f.file.testo;
   const std::size_t inizio = t.size();
-  AggiungiCella(t, sald.Nome, RB(5));
+  AggiungiCella(t, f.l.ris.Saldature[eq1.elemento].Nome, RB(5));
   AggiungiCella(t, RD(a), RB(5));
-  Celle(t, RB(8), RD(b), RD(d), RD(SEq1), RD(SEq2), RD(SLim1), RD(SLim2));
-  return RigaVerdetto(f, inizio, !(SLim1 < SEq1 || SLim2 < SEq2));
+  Celle(t, RB(8), RD(b), RD(d), RD(eq1.domanda), RD(eq2.domanda), RD(eq1.limite), RD(eq2.limite));
+  return RigaVerdetto(f, inizio, eq1.passa && eq2.passa);
 }
 
 // A weld without length was never made and has no row.
 bool BloccoSaldature(Foglio& f, int s) {
-  TensioniEquivalentiSaldature(s);
   if (!Righe(f, RIGHE_VER_SALDATURE) || !RigaTitoli(f, COL_VER_SALDATURE)) return false;
-  TensioniEquivalentiSaldature(s);         // a second time, as before the first line; nothing changes, deliberate
-  const BetaSaldature beta = CalcolaBeta();
-  const double SLim1 = beta.Beta1 * nodo.MatAcc.Fyk, SLim2 = beta.Beta2 * nodo.MatAcc.Fyk;
-  for (int w = 1; w <= nodo.NumSaldature; ++w)
-    if (ris.Saldature[w].Lung > TOLL_GEO && !VerificaSaldatura(f, s, w, SLim1, SLim2)) return false;
+  const std::span<const RigaControllo> eq1 = RigheCriterio(f.l, s, SLU_SALD_1), eq2 = RigheCriterio(f.l, s, SLU_SALD_2);
+  for (std::size_t k = 0; k < eq1.size(); ++k)
+    if (!RigaSaldatura(f, s, eq1[k], eq2[k])) return false;
   return true;
 }
 
-bool RigaValoreLimite(Foglio& f, std::size_t inizio, double valore, double limite) {
-  Celle(f.file.testo, RB(7), RD(valore), RD(limite));
-  return RigaVerdetto(f, inizio, !(std::fabs(valore) > limite));
+bool RigaValoreLimite(Foglio& f, std::size_t inizio, double valore, const RigaControllo& r) {
+  Celle(f.file.testo, RB(7), RD(valore), RD(r.limite));
+  return RigaVerdetto(f, inizio, r.passa);
 }
 
-bool BloccoPiastra(Foglio& f, int s, double FdPiastra) {
+bool BloccoPiastra(Foglio& f, int s) {
   if (!Righe(f, RIGHE_VER_PIASTRA) || !RigaTitoli(f, COL_VER_PIASTRA)) return false;
-  ris.SMaxPiastra[s] *= f.c;
-  return RigaValoreLimite(f, f.file.testo.size(), ris.SMaxPiastra[s], FdPiastra);
+  return RigaValoreLimite(f, f.file.testo.size(), f.l.ris.SMaxPiastra[s] * MM2_SU_CM2, RigheCriterio(f.l, s, SLU_PIASTRA)[0]);
 }
 
-bool RigaNervatura(Foglio& f, int s, const char* nome, const int (&posizioni)[4], double FdNerv) {
+bool RigaNervatura(Foglio& f, int s, const char* nome, const int (&posizioni)[4], int criterio) {
   const std::size_t inizio = f.file.testo.size();
   AggiungiCella(f.file.testo, nome, LB(9));
-  return RigaValoreLimite(f, inizio, SMaxNervatura(s, posizioni) * f.c, FdNerv);
+  return RigaValoreLimite(f, inizio, SMaxNervatura(f.l.ris, s, posizioni) * MM2_SU_CM2, RigheCriterio(f.l, s, criterio)[0]);
 }
 
-bool BloccoNervature(Foglio& f, int s, double FdNerv) {
-  if (nodo.TipoNodo != 2) return true;
-  return Righe(f, RIGHE_VER_NERVATURE) && RigaTitoli(f, COL_VER_NERVATURE) && RigaNervatura(f, s, "Z", POSIZIONI_Z, FdNerv) &&
-         RigaNervatura(f, s, "Y", POSIZIONI_Y, FdNerv);
+bool BloccoNervature(Foglio& f, int s) {
+  if (f.l.nodo->TipoNodo != 2) return true;
+  return Righe(f, RIGHE_VER_NERVATURE) && RigaTitoli(f, COL_VER_NERVATURE) && RigaNervatura(f, s, "Z", POSIZIONI_Z, SLU_NERV_Z) &&
+         RigaNervatura(f, s, "Y", POSIZIONI_Y, SLU_NERV_Y);
 }
 
 bool BloccoCls(Foglio& f, int s) {
   if (!Righe(f, RIGHE_VER_CLS) || !RigaTitoli(f, COL_VER_CLS)) return false;
-  ris.SMaxCls[s] *= f.c;
-  return RigaValoreLimite(f, f.file.testo.size(), ris.SMaxCls[s], CalcolaFcd());
+  return RigaValoreLimite(f, f.file.testo.size(), f.l.ris.SMaxCls[s] * MM2_SU_CM2, RigheCriterio(f.l, s, SLU_CLS)[0]);
 }
 
 bool ScriviBlocco(Foglio& f, int s) {
-  f.Verificato = true;
-  if (!ScriviSestetto(f, s)) return false;
-  const double FdPiastra = CalcolaFd(nodo.SpessPiastra), FdNerv = CalcolaFd(nodo.SpNerv);
-  return BloccoTirafondi(f, s) && BloccoSaldature(f, s) && BloccoPiastra(f, s, FdPiastra) && BloccoNervature(f, s, FdNerv) &&
+  return ScriviSestetto(f, s) && BloccoTirafondi(f, s) && BloccoSaldature(f, s) && BloccoPiastra(f, s) && BloccoNervature(f, s) &&
          BloccoCls(f, s) && EsitoCombinazione(f, s);
 }
 
 bool ScriviTutto(Foglio& f) {
   if (!ScriviTestata(f)) return false;
-  for (int s = 1; s <= nodo.NumSoll; ++s)
+  for (int s = 1; s <= f.l.nodo->NumSoll; ++s)
     if (!ScriviBlocco(f, s)) return false;
   return true;
 }
 
 }  // namespace
 
-bool RelazioneSLU() {
-  Foglio f;
+bool RelazioneSLU(const Lavoro& l) {
+  Foglio f{l, {}, {}};
   return ApriFoglio(f, "SLU") && ConcludiFoglio(f, ScriviTutto(f));
 }

@@ -6,6 +6,7 @@
 #include "corredo/modello_minimo.h"
 #include "corredo/registratore.h"
 #include "corredo/suite_prova.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 

@@ -5,8 +5,10 @@
 #include <vector>
 
 #include "core/diametri.h"
+#include "corredo/lavoro_prova.h"
 #include "engine/PresInfl.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 
 namespace {
 
@@ -48,7 +50,7 @@ void SommaTriangolo(Reazioni& r, const Piano& piano, double modulo, Punto a, Pun
 
 Reazioni ReazioniPiano(double piano_y, double piano_x, double piano_1) {
   const Piano piano = { piano_y, piano_x, piano_1 };
-  const double Ecls = nodo.EcCls / 100, Es = 20000, A = AreaResistente(nodo.TfFi);
+  const double Ecls = nodo.EcCls / 100, Es = 20000, A = AreaResistente(suite, nodo.TfFi);
   const double a = nodo.LatoZ / 2, b = nodo.LatoY / 2;
   Reazioni r;
   const Punto v1 = { -a, -b }, v2 = { a, -b }, v3 = { a, b }, v4 = { -a, b };
@@ -65,11 +67,10 @@ Reazioni ReazioniPiano(double piano_y, double piano_x, double piano_1) {
 }
 
 bool EquilibrioSestetto(int s, double scarto[3]) {
-  static double sigma[MaxSoll + 1][MaxTir + 1];
-  double pressione = 0;
-  bool esito = false;
-  DatiSezione(s);
-  PresInfl(1, pressione, sigma, s, esito);
+  lavoro.diagnosi.clear();
+  DatiSezione(lavoro, s);
+  const bool esito = PresInfl(lavoro, s);
+  MostraDiagnosi(lavoro);
   const Reazioni r = ReazioniPiano(presInfl.PianoDef[1], presInfl.PianoDef[2], presInfl.PianoDef[3]);
   const double carico[3] = { nodo.SollN[s], 10 * nodo.SollMy[s], 10 * nodo.SollMz[s] };
   const double reso[3] = { r.N, r.My, r.Mz };

@@ -1,5 +1,6 @@
 // tests/corredo/nodo_disegno.cpp - the joint of the drawing tests.
 #include "corredo/nodo_disegno.h"
+#include "model/stato.h"
 
 #include <cmath>
 

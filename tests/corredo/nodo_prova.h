@@ -5,6 +5,7 @@
 #include "corredo/registratore.h"
 #include "engine/Calcoli.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 // The anchors of a pattern (0 four, 1 eight, 2 six "Vert.", 3 six "Orizz."), z and y from the plate's edges.

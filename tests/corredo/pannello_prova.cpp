@@ -7,6 +7,7 @@
 #include "corredo/registratore.h"
 #include "model/materiali.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 #include "panels/programma.h"

@@ -3,12 +3,17 @@
 #pragma once
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
 #include "core/aritmetica.h"
+#include "core/diametri.h"
+#include "corredo/lavoro_prova.h"
 #include "corredo/registratore.h"
+#include "engine/righe.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "reports/Relazioni.h"
 
@@ -56,11 +61,33 @@ class ProvaRelazione : public ::testing::Test {
   void SetUp() override {
     MontaRegistratore();
     AzzeraFault();
-    esitoRelazione = {};
     suite.DirLavoro = CartellaProva("relazioni");
     Campione();
   }
   void TearDown() override { AzzeraFault(); }
+
+  // The checks on the tables as they stand, then the report. A fault of the checks ends it before a report.
+  static bool GiudicaEScrivi(int metodo) {
+    AzzeraFault();
+    lavoro.TipoVer = metodo;
+    lavoro.SAmmCls = nodo.MatCls.SAmm;
+    verifica.AreaTf = AreaResistente(suite, nodo.TfFi);
+    Giudica(lavoro);
+    if (FaultAritmetico()) return false;
+    return metodo == MetodoTA ? RelazioneTA(lavoro) : RelazioneSLU(lavoro);
+  }
+  static bool Scritta() {
+    return std::any_of(registratore.eventi.begin(), registratore.eventi.end(), [](const std::string& e) { return e.starts_with("[testo] "); });
+  }
+  // Where the checks stopped.
+  static void Fermo(int sestetto, int criterio, int elemento) {
+    EXPECT_TRUE(FaultAritmetico());
+    EXPECT_TRUE(lavoro.fermo.c_e);
+    EXPECT_EQ(lavoro.fermo.sestetto, sestetto);
+    EXPECT_EQ(lavoro.fermo.criterio, criterio);
+    EXPECT_EQ(lavoro.fermo.elemento, elemento);
+    EXPECT_TRUE(registratore.eventi.empty());
+  }
 
   std::string FileTA() const { return suite.DirLavoro + "/RelTA_QB07_Prova.txt"; }
   std::string FileSLU() const { return suite.DirLavoro + "/RelSLU_QB07_Prova.txt"; }
@@ -103,7 +130,7 @@ class ProvaRelazione : public ::testing::Test {
 
   // n welds of 100, 101.5, 103, ... mm.
   static void Saldature(int n) {
-    nodo.NumSaldature = static_cast<std::int16_t>(n);
+    lavoro.NumSaldature = static_cast<std::int16_t>(n);
     for (int w = 1; w <= n; ++w) {
       ris.Saldature[w].Nome = std::string("S").append(std::to_string(w));
       ris.Saldature[w].Lung = 98.5 + 1.5 * w;

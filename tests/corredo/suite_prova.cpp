@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "corredo/registratore.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 #include "panels/programma.h"

@@ -1,5 +1,5 @@
-// tests/unita/test_ammissibilita.cpp - admissibility checks and edge distances. Base joint: column 200 x 190, plate 400 x 500 x 20,
-// M20 at 50 mm from each edge, holes of 100 mm, grout 50 mm, 120 mm out of the footing.
+// tests/unita/test_ammissibilita.cpp - admissibility checks and edge distances: the rows, and the boxes of the command Verifica.
+// Base joint: column 200 x 190, plate 400 x 500 x 20, M20 at 50 mm from each edge, holes of 100 mm, grout 50 mm, 120 mm out of the footing.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -7,6 +7,9 @@
 
 #include "corredo/nodo_prova.h"
 #include "engine/Controlli.h"
+#include "model/stato.h"
+#include "panels/InsDati.h"
+#include "panels/InsDati_eventi.h"
 
 namespace {
 
@@ -28,15 +31,48 @@ std::string Avviso(const std::string& t) { return "[messaggio] esclamazione | AT
 
 using Eventi = std::vector<std::string>;
 
-struct ControlliTest : testing::Test {
-  void SetUp() override { NodoProva(); }
+constexpr std::size_t BORDO = NumGeometria - 1;
 
-  // The boxes after `modifica` of the base joint; every question answered with OK.
-  Eventi Dopo(const std::function<void()>& modifica) {
+// Of the boxes, those of the checks but the edge's.
+bool DeiControlli(const std::string& evento) {
+  return evento.find(" | ATTENZIONE! | ") != std::string::npos && evento.find("La distanza dei tirafondi") == std::string::npos;
+}
+
+struct ControlliTest : testing::Test {
+  void SetUp() override {
     NodoProva();
+    suite.DirLavoro = "manca";                         // whatever passes the checks ends at the report
+  }
+
+  // The boxes of the checks, in the command Verifica after `modifica` of the base joint; every question answered with OK. Each box is of
+  // a row that fails, and as long as no question was refused each failing row has its box.
+  Eventi Dopo(const std::function<void()>& modifica) {
+    SetUp();
     modifica();
-    esito = ControlliGeometrici();
-    return registratore.eventi;
+    const RigheGeometria righe = ControlliGeometria(nodo, nodo.TipoVer);
+    InsDati_Verifica(0);
+    esito = verificaPannello.esito != EsitoVerifica::Rifiutata;
+    Eventi box;
+    std::copy_if(registratore.eventi.begin(), registratore.eventi.end(), std::back_inserter(box), DeiControlli);
+    Eventi fallite;
+    bool rifiutata = false;
+    for (const RigaGeometria& r : righe) {
+      if (r.passa || r.genere == GenereGeometria::Bordo) continue;
+      const bool domanda = r.genere == GenereGeometria::Domanda;
+      if (domanda && rifiutata) continue;
+      rifiutata = domanda && std::count(box.begin(), box.end(), Domanda(r.testo, "Annulla")) > 0;
+      fallite.push_back(!domanda ? Avviso(r.testo) : Domanda(r.testo, rifiutata ? "Annulla" : "OK"));
+    }
+    EXPECT_EQ(box, fallite);
+    return box;
+  }
+  // Whether the edge's row passes; it never tells another text than the method's.
+  static bool Bordo(int metodo, const std::string& testo) {
+    const RigaGeometria r = ControlliGeometria(nodo, metodo)[BORDO];
+    EXPECT_STREQ(r.id, "geo.bordo");
+    EXPECT_EQ(r.testo, testo);
+    EXPECT_EQ(r.genere, GenereGeometria::Bordo);
+    return r.passa;
   }
   bool esito = false;
 };
@@ -226,24 +262,25 @@ TEST_F(ControlliTest, ZoneDAngolo) {
 TEST_F(ControlliTest, BordoCNR) {                     // 2 x 20 = 40 <= D <= 6 x 20 = 120
   const std::string testo =
       "La distanza dei tirafondi dal bordo della piastra risulta difforme dalle prescrizioni della CNR-UNI 10011/88";
-  EXPECT_TRUE(ControlloBordoCNR());
+  EXPECT_TRUE(Bordo(0, testo));
   for (const double d : { 40.0, 120.0 }) {
     SchemaProva(0, d, d);
-    EXPECT_TRUE(ControlloBordoCNR()) << d;
+    EXPECT_TRUE(Bordo(0, testo)) << d;
   }
-  EXPECT_TRUE(registratore.eventi.empty());
   for (const double d : { 39.9, 120.1 })
     for (int lato = 0; lato < 4; ++lato) {
       NodoProva();
       const double p[] = { d, 400 - d, d, 500 - d };
       (lato < 2 ? nodo.TfZ : nodo.TfY)[lato == 0 || lato == 2 ? 1 : lato == 1 ? 2 : 4] = p[lato];
-      EXPECT_FALSE(ControlloBordoCNR()) << d << ' ' << lato;
-      EXPECT_EQ(registratore.eventi, Eventi{ Avviso(testo) });
+      EXPECT_FALSE(Bordo(0, testo)) << d << ' ' << lato;
     }
   NodoProva();
   SchemaProva(0, 10, 10);                              // four sides at fault, one box
-  EXPECT_FALSE(ControlloBordoCNR());
-  EXPECT_EQ(registratore.eventi.size(), 1u);
+  EXPECT_FALSE(Bordo(0, testo));
+  suite.DirLavoro = "manca";
+  registratore.risposte = { false };
+  InsDati_Verifica(0);
+  EXPECT_EQ(registratore.eventi, (Eventi{ Avviso(testo), "[domanda] informazione | NODO COLONNA - PLINTO | Continuare la verifica? -> Annulla" }));
 }
 
 TEST_F(ControlliTest, BordoNTC) {
@@ -262,7 +299,84 @@ TEST_F(ControlliTest, BordoNTC) {
     nodo.SpessPiastra = r.t;
     SchemaProva(0, 100, 100);
     nodo.TfZ[1] = r.D;
-    EXPECT_EQ(ControlloBordoNTC(), r.passa) << r.esposizione << ' ' << r.t << ' ' << r.D;
-    EXPECT_EQ(registratore.eventi, r.passa ? Eventi{} : Eventi{ Avviso(testo) });
+    EXPECT_EQ(Bordo(1, testo), r.passa) << r.esposizione << ' ' << r.t << ' ' << r.D;
   }
+  NodoProva();
+  nodo.TipoVer = 1;
+  nodo.TfZ[1] = 23.9;
+  registratore.risposte = { false };
+  InsDati_Verifica(0);
+  EXPECT_EQ(registratore.eventi, (Eventi{ Avviso(testo), "[domanda] informazione | NODO COLONNA - PLINTO | Continuare la verifica? -> Annulla" }));
+}
+
+// ---- the two sides of each comparison, of the one with the least margin
+
+TEST_F(ControlliTest, DomandaELimite) {
+  const auto riga = [](const char* id, int metodo = 0) {
+    for (const RigaGeometria& r : ControlliGeometria(nodo, metodo))
+      if (std::string(r.id) == id) return r;
+    ADD_FAILURE() << id;
+    return RigaGeometria{};
+  };
+  const auto due = [](const RigaGeometria& r) { return std::pair{ r.domanda, r.limite }; };
+  using P = std::pair<double, double>;
+  EXPECT_EQ(due(riga("geo.colonna")), P(200, 400));              // 200 to spare; along Y 310
+  nodo.Sezione.H = 450;
+  EXPECT_EQ(due(riga("geo.colonna")), P(450, 500));              // 50
+  nodo.Sezione.B = 401;
+  EXPECT_EQ(due(riga("geo.colonna")), P(401, 400));
+  SetUp();
+  EXPECT_EQ(due(riga("geo.piastra")), P(20, 0));
+  nodo.LatoZ = 7;
+  EXPECT_EQ(due(riga("geo.piastra")), P(7, 0));
+  SetUp();
+  EXPECT_EQ(due(riga("geo.tirafondo")), P(10, 0));               // of 500, 120, 450, 70, 50, 20, 100 and LF 10
+  nodo.TfR = -3;
+  EXPECT_EQ(due(riga("geo.tirafondo")), P(-3, 0));
+  nodo.TfL1 = 0;                                                 // holds, with less margin than LF: the failed one stays
+  EXPECT_EQ(due(riga("geo.tirafondo")), P(-3, 0));
+  nodo.TfL = 0;                                                  // fails as well, at its bound: -3 misses by more
+  EXPECT_EQ(due(riga("geo.tirafondo")), P(-3, 0));
+  SetUp();
+  EXPECT_EQ(due(riga("geo.fori")), P(300, 100));                 // 350 - 50 against 50 + 50; along Y 400 against 100
+  SchemaProva(1);
+  EXPECT_EQ(due(riga("geo.fori")), P(150, 100));                 // 1-8: 200 - 50 against 100; 8-2 the same margin, later
+  nodo.TfZ[8] = 240;
+  EXPECT_EQ(due(riga("geo.fori")), P(300, 290));                 // 8-2: 350 - 50 against 240 + 50
+  EXPECT_TRUE(riga("geo.fori").confronta);
+  nodo.TfLF = 0;
+  EXPECT_FALSE(riga("geo.fori").confronta);
+  EXPECT_TRUE(riga("geo.fori").passa);
+  SetUp();
+  EXPECT_EQ(due(riga("geo.fuori_terra")), P(110, 120));          // 50 + 20 + 40
+  EXPECT_EQ(due(riga("geo.filettatura")), P(30, 20));            // 50 - 20, 120 - 100
+  EXPECT_EQ(due(riga("geo.foro")), P(100, 20));
+  EXPECT_EQ(due(riga("geo.malta")), P(50, 20));
+  nodo.TfY[4] = 490;
+  EXPECT_EQ(due(riga("geo.fuori_piastra")), P(10, 0));           // 500 - 490
+  nodo.TfZ[2] = -5;
+  EXPECT_EQ(due(riga("geo.fuori_piastra")), P(405, 400));
+  SetUp();
+  EXPECT_EQ(due(riga("geo.angolo")), P(10, 50));                 // (400 - 200) / 2 - 50; along Y 155 - 50
+  nodo.TipoNodo = 2;
+  EXPECT_EQ(due(riga("geo.angolo")), P(10, 40));
+  SetUp();
+  EXPECT_EQ(due(riga("geo.bordo", 0)), P(50, 40));               // 2 x 20 against 6 x 20
+  EXPECT_EQ(due(riga("geo.bordo", 1)), P(50, 24));               // 1.2 x 20 against 160
+  nodo.TfZ[1] = 118;
+  EXPECT_EQ(due(riga("geo.bordo", 0)), P(118, 120));
+  EXPECT_FALSE(FaultAritmetico());
+}
+
+TEST_F(ControlliTest, FaultDellaRiga) {                // its own row alone, and nothing of it stays raised
+  nodo.SpessPiastra = 1e308;                           // 6 t overflows; 4 t + 40 too, 8 t as well
+  for (const int metodo : { 0, 1 }) {
+    const RigheGeometria righe = ControlliGeometria(nodo, metodo);
+    for (std::size_t k = 0; k < righe.size(); ++k) EXPECT_EQ(righe[k].fault, k == BORDO) << righe[k].id;
+  }
+  EXPECT_FALSE(FaultAritmetico());
+  SegnalaFault();                                      // what was raised before stays raised
+  EXPECT_FALSE(ControlliGeometria(nodo, 0)[0].fault);
+  EXPECT_TRUE(FaultAritmetico());
+  AzzeraFault();
 }

@@ -6,6 +6,7 @@
 #include "core/aritmetica.h"
 #include "corredo/registratore.h"
 #include "drawing/disegno.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

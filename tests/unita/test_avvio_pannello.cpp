@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "core/aritmetica.h"
+#include "corredo/lavoro_prova.h"
 #include "corredo/pannello_prova.h"
 #include "corredo/registratore.h"
 #include "corredo/suite_prova.h"
@@ -13,6 +14,7 @@
 #include "drawing/formats/grb_stili.h"
 #include "model/materiali.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 #include "panels/programma.h"
@@ -290,7 +292,7 @@ TEST(Azzeramento, DefaultsOfANewJoint) {
   EXPECT_EQ(nodo.Gola, 7);
   EXPECT_DOUBLE_EQ(nodo.GolaCalc, 7 / std::sqrt(2.0));
   EXPECT_EQ(nodo.NTir, 4);
-  EXPECT_EQ(nodo.NumSaldature, 0);
+  EXPECT_EQ(lavoro.NumSaldature, 0);
   EXPECT_EQ(nodo.TipoTirafondo, 0);
   EXPECT_EQ(nodo.TfDiamIdx, 7);
   EXPECT_EQ(nodo.TfFi, 20);
@@ -372,7 +374,7 @@ TEST_F(AzzeramentoInMemoria, ResetBringsBackWhatWasChangedButNotTheMethod) {
   UtenteSceglie(InsDati, insDati.SSTab, 4);
   UtenteSceglie(InsDati, insDati.GeoP[0], 1);
   nodo.TfLFil = 33;
-  nodo.NumSaldature = 8;
+  lavoro.NumSaldature = 8;
   disegno.DestDis = GENDIS;
   AzzeraNodo();
   EXPECT_EQ(nodo.TipoVer, 1);                        // not part of the reset
@@ -384,7 +386,7 @@ TEST_F(AzzeramentoInMemoria, ResetBringsBackWhatWasChangedButNotTheMethod) {
   EXPECT_EQ(VoceScelta(insDati.GeoP[0]), 1);
   EXPECT_EQ(insDati.SSTab.scelta, 0);
   EXPECT_EQ(nodo.NTir, 4);
-  EXPECT_EQ(nodo.NumSaldature, 0);
+  EXPECT_EQ(lavoro.NumSaldature, 0);
   EXPECT_TRUE(disegno.DestDis.empty());
 }
 

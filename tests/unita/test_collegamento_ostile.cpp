@@ -10,6 +10,7 @@
 #include "link/liste.h"
 #include "link/ricerca.h"
 #include "link/struttura.h"
+#include "model/stato.h"
 #include "panels/InsDati.h"
 
 namespace {

@@ -8,6 +8,7 @@
 #include "corredo/registratore.h"
 #include "model/materiali.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "panels/InsDati.h"
 #include "panels/PropMateriali.h"
 

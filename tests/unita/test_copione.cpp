@@ -7,6 +7,7 @@
 #include "corredo/registratore.h"
 #include "corredo/suite_prova.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "panels/FormTF.h"
 #include "panels/InsDati.h"
 #include "panels/pannelli.h"

@@ -4,12 +4,15 @@
 #include "core/aritmetica.h"
 #include "core/diametri.h"
 #include "corredo/registratore.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {
 
 struct Diametri : testing::Test {
   std::string cartella;
+  OrigineArea origine;
+  double AreaResistente(double d) { return ::AreaResistente(suite, d, origine); }
   void SetUp() override {
     MontaRegistratore();
     AzzeraFault();
@@ -128,51 +131,51 @@ TEST_F(Diametri, FileVuotoTabellaVuota) {
   Leggi("");
   EXPECT_EQ(suite.NumDiam, 0);
   EXPECT_EQ(AreaResistente(20), 0);
-  EXPECT_FALSE(ris.FlagDiamEstrapolato);
-  EXPECT_FALSE(ris.FlagDiamInterpolato);
+  EXPECT_FALSE(origine.estrapolata);
+  EXPECT_FALSE(origine.interpolata);
 }
 
 TEST_F(Diametri, AreaDelleRigheSenzaSegnali) {
   LeggiDiametri();
   for (int i = 0; i < 22; ++i) EXPECT_DOUBLE_EQ(AreaResistente(suite.DiamVal[i]), suite.DiamArea[i]) << i;   // ends included
-  EXPECT_FALSE(ris.FlagDiamEstrapolato);
-  EXPECT_FALSE(ris.FlagDiamInterpolato);
+  EXPECT_FALSE(origine.estrapolata);
+  EXPECT_FALSE(origine.interpolata);
 }
 
 TEST_F(Diametri, AreaFraDueRighe) {
   LeggiDiametri();
   // (21^2 - 20^2) (303 - 245) / (22^2 - 20^2) + 245 = 41 58 / 84 + 245
   EXPECT_NEAR(AreaResistente(21), 273.3095238095238, 1e-10);
-  EXPECT_TRUE(ris.FlagDiamInterpolato);
-  EXPECT_FALSE(ris.FlagDiamEstrapolato);
+  EXPECT_TRUE(origine.interpolata);
+  EXPECT_FALSE(origine.estrapolata);
 }
 
 TEST_F(Diametri, AreaFuoriTabella) {
   LeggiDiametri();
   // (36 - 64) (58 - 38.6) / (100 - 64) + 38.6
   EXPECT_NEAR(AreaResistente(6), 23.5111111111111, 1e-10);
-  EXPECT_TRUE(ris.FlagDiamEstrapolato);
-  EXPECT_FALSE(ris.FlagDiamInterpolato);
-  ris.FlagDiamEstrapolato = false;
+  EXPECT_TRUE(origine.estrapolata);
+  EXPECT_FALSE(origine.interpolata);
+  origine.estrapolata = false;
   // (72^2 - 64^2) (3060 - 2680) / (68^2 - 64^2) + 2680 = 1088 380 / 528 + 2680
   EXPECT_NEAR(AreaResistente(72), 3463.0303030303, 1e-9);
-  EXPECT_TRUE(ris.FlagDiamEstrapolato);
-  EXPECT_FALSE(ris.FlagDiamInterpolato);
+  EXPECT_TRUE(origine.estrapolata);
+  EXPECT_FALSE(origine.interpolata);
 }
 
 TEST_F(Diametri, UnaRigaSola) {
   Leggi("T|20|245|\r\n");
   EXPECT_EQ(AreaResistente(20), 0);          // no pair of rows
-  EXPECT_FALSE(ris.FlagDiamEstrapolato);
+  EXPECT_FALSE(origine.estrapolata);
   EXPECT_EQ(AreaResistente(21), 0);
-  EXPECT_TRUE(ris.FlagDiamEstrapolato);
+  EXPECT_TRUE(origine.estrapolata);
 }
 
 TEST_F(Diametri, DueRigheBastanoFuoriTabella) {
   Leggi("A|10|100|\r\nB|20|400|\r\n");                // 1 mm2 for each mm2 of d^2
   EXPECT_NEAR(AreaResistente(8), 64, 1e-12);
   EXPECT_NEAR(AreaResistente(25), 625, 1e-12);
-  EXPECT_TRUE(ris.FlagDiamEstrapolato);
+  EXPECT_TRUE(origine.estrapolata);
 }
 
 TEST_F(Diametri, DiametriFuoriOrdineIlPrimoIntervallo) {

@@ -7,6 +7,7 @@
 #include "drawing/font.h"
 #include "drawing/formats/scrittori.h"
 #include "drawing/formats/tipi_linea.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

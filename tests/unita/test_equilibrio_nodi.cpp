@@ -8,6 +8,7 @@
 #include "corredo/equilibrio.h"
 #include "core/aritmetica.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 
 TEST(EquilibrioNodi, OgniSestetto) {
   const std::string radice = PreparaSuite("equilibrio"), lavoro = CartellaLavoro(radice);

@@ -2,8 +2,10 @@
 #include <memory>
 
 #include "corredo/foglio_prova.h"
+#include "corredo/lavoro_prova.h"
 #include "drawing/Quote.h"
 #include "engine/Saldature.h"
+#include "model/stato.h"
 
 namespace {
 
@@ -152,13 +154,13 @@ TEST_F(FoglioDisegno, FaultDaGolaMinuscola) {
 // What an earlier sheet or panel left behind counts for nothing.
 TEST_F(FoglioDisegno, PartePulito) {
   nodo.NervTaglio = nodo.NervZ = nodo.NervY = 1;
-  nodo.NumSaldature = 3;
+  lavoro.NumSaldature = 3;
   quote.EtichetteSald = true;
   Disegna();
   EXPECT_EQ(nodo.NervTaglio, 50);
   EXPECT_EQ(nodo.NervZ, 30);
   EXPECT_EQ(nodo.NervY, 50);
-  EXPECT_EQ(nodo.NumSaldature, 40);
+  EXPECT_EQ(lavoro.NumSaldature, 40);
   EXPECT_EQ(ContaTesti("S21"), 1);             // in the schedule; the ribs of the plan carry no names
 }
 
@@ -181,7 +183,7 @@ TEST_F(FoglioDisegno, SaldaturaInternaSoloUno) {
   ris.Saldature[19].Nome = "S19";
   nodo.SaldInt = 2;
   Disegna();
-  EXPECT_EQ(nodo.NumSaldature, 44);
+  EXPECT_EQ(lavoro.NumSaldature, 44);
   EXPECT_EQ(ContaTesti("S9"), 0);
   EXPECT_EQ(ContaTesti("S19"), 0);
   EXPECT_EQ(ContaTesti("S20"), 1);
@@ -217,7 +219,7 @@ TEST_F(FoglioDisegno, OgniElementoContato) {
     EXPECT_EQ(disegno.NumArchi - a, archi);
     EXPECT_EQ(disegno.NumTesti - t, testi);
   };
-  CostruisciSaldature();
+  CostruisciSaldature(lavoro);
   Prepara();
   // rod: 2 through the plate, 2 sides and cap, 3 nuts of 5, 4 sides, 4 of the anchor plate, 2 of its welds = 30 and 4 arcs
   // ribs a side: 4 edges, faces of 150 (20 + 2 + 1 + 1 and 20 + 1 + 1), foot 40 (6) and 22 (3) = 59; plate 12, column 2 + 26 + 2 + 1,

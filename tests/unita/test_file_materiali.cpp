@@ -6,6 +6,7 @@
 #include "corredo/registratore.h"
 #include "materials/file_materiali.h"
 #include "model/materiali.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -2,12 +2,14 @@
 // Library: HEA200 190 x 200 x 6.5 x 10, r 18 and entry 32 HEA360 350 x 300 x 10 x 17.5, r 27 (EN 10365). Diameters: row 7 M20, 9 M24.
 // The job's materials are S 275 (FE 430) and C25/30; the first steel of the catalogue is S 235 (FE 360).
 #include "corredo/banco_nodo.h"
+#include "corredo/lavoro_prova.h"
 
 #include <cmath>
 #include <filesystem>
 
 #include "core/layout_nodo.h"
 #include "model/materiali.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/FormTF.h"
 #include "panels/file_nodo.h"
@@ -177,14 +179,14 @@ TEST_F(FileNodo, LoSchizzoEDelNodoCaricato) {
 TEST_F(FileNodo, RisultatiDelNodoDiPrima) {
   ris.SigmaTir[1][1] = ris.SMaxCls[1] = ris.SNerv[200][8] = ris.FvEd[1][1] = ris.Saldature[3].SEq1[1] = 9;
   ris.SPiastraTir[1][1][5] = ris.Saldature[9].Lung = 7;
-  nodo.NumSaldature = 44;
+  ::lavoro.NumSaldature = 44;
   Carica(lavoro + "pilastro_A1.qb7");
   EXPECT_EQ(ris.SigmaTir[1][1], 0);
   EXPECT_EQ(ris.SMaxCls[1], 0);
   EXPECT_EQ(ris.SNerv[200][8], 0);
   EXPECT_EQ(ris.FvEd[1][1], 0);
   EXPECT_EQ(ris.Saldature[3].SEq1[1], 0);
-  EXPECT_EQ(nodo.NumSaldature, 0);
+  EXPECT_EQ(::lavoro.NumSaldature, 0);
   // What the next verification finds as it was left: it rebuilds neither by itself.
   EXPECT_EQ(ris.SPiastraTir[1][1][5], 7);
   EXPECT_EQ(ris.Saldature[9].Lung, 7);

@@ -10,6 +10,7 @@
 
 #include "core/layout_nodo.h"
 #include "model/materiali.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/file_nodo.h"
 

@@ -9,6 +9,7 @@
 #include "link/profili.h"
 #include "materials/file_materiali.h"
 #include "model/materiali.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {
@@ -26,7 +27,7 @@ void OstileDiametri(const std::string& cartella) {
   ASSERT_LE(suite.NumDiam, MaxDiam);
   for (int i = 0; i <= MaxDiam; ++i) Finiti({suite.DiamVal[i], suite.DiamArea[i]});
   SenzaFault();
-  for (const double d : {-1., 0., 8., 9., 20., 1000.}) (void)AreaResistente(d);
+  for (const double d : {-1., 0., 8., 9., 20., 1000.}) (void)AreaResistente(suite, d);
   AzzeraFault();                   // hostile rows may overflow there: a fault of the verification
 }
 

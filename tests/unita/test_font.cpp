@@ -8,6 +8,7 @@
 #include "drawing/disegno.h"
 #include "drawing/font.h"
 #include "drawing/formats/grb_stili.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "core/aritmetica.h"
+#include "corredo/lavoro_prova.h"
 #include "corredo/nodo_disegno.h"
 #include "corredo/registratore.h"
 #include "drawing/Quote.h"
@@ -14,6 +15,7 @@
 #include "drawing/formats/grb_stili.h"
 #include "drawing/formats/scrittori.h"
 #include "drawing/saldature_dis.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 #include "panels/comandi_disegno.h"

@@ -13,6 +13,7 @@
 #include "link/importa_soll.h"
 #include "link/liste.h"
 #include "link/collegamento.h"
+#include "model/stato.h"
 
 namespace {
 

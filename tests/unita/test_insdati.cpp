@@ -5,6 +5,7 @@
 #include "corredo/banco_insdati.h"
 #include "model/materiali.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -3,6 +3,7 @@
 #include "corredo/banco_insdati.h"
 #include "drawing/tela.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/pannelli.h"
 

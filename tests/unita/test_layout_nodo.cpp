@@ -9,6 +9,7 @@
 
 #include "core/aritmetica.h"
 #include "core/layout_nodo.h"
+#include "model/stato.h"
 
 static const Nodo NODO_VUOTO;
 static std::vector<PassoNodo> passiVisti;

@@ -1,6 +1,7 @@
 // The five rows of the load list one by one: what each field writes and shows, what a row without a group keeps; the texts.
 #include "corredo/banco_insdati.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -5,6 +5,7 @@
 #include "corredo/pannello_prova.h"
 #include "corredo/registratore.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 

@@ -5,10 +5,11 @@
 
 #include <cmath>
 
+#include "corredo/lavoro_prova.h"
 #include "corredo/nodo_prova.h"
 #include "engine/Nervature.h"
 #include "engine/PresInfl.h"
-#include "engine/verifica.h"
+#include "model/stato.h"
 
 namespace {
 
@@ -65,62 +66,62 @@ void ConfrontaTaglio(const Attesa& z, int p1, int p2) {
 
 TEST_F(NervatureTest, PressioneCostante) {             // P = -1e-4 x 3000 = -0.3: resultant P x area, no moments
   Piano(0, 0, -1e-4);
-  Confronta(AzioniSuPiastra(110, 200, -250, 250), -0.3 * 90 * 500, 0, 0);
+  Confronta(AzioniSuPiastra(lavoro, 110, 200, -250, 250), -0.3 * 90 * 500, 0, 0);
   Piano(0, 0, 1e-4);
-  Confronta(AzioniSuPiastra(110, 200, -250, 250), 0, 0, 0);
+  Confronta(AzioniSuPiastra(lavoro, 110, 200, -250, 250), 0, 0, 0);
   Piano(0, 0, 0);
-  Confronta(AzioniSuPiastra(110, 200, -250, 250), 0, 0, 0);
+  Confronta(AzioniSuPiastra(lavoro, 110, 200, -250, 250), 0, 0, 0);
   Piano(1e-12, -1e-12, -1e-4);                         // coefficients up to 1e-12 count as zero
-  Confronta(AzioniSuPiastra(110, 200, -250, 250), -13500, 0, 0);
+  Confronta(AzioniSuPiastra(lavoro, 110, 200, -250, 250), -13500, 0, 0);
 }
 
 TEST_F(NervatureTest, TuttaCompressa) {
   // P = 3000 (1e-7 q - 2e-7 p - 1e-4) on p 100..200, q -50..150: middle (150, 50): -0.3 + 0.015 - 0.09 = -0.375;
   // V = -0.375 x 100 x 200; Mq = 3e-4 x 200^3 / 12 x 100; Mp = -6e-4 x 100^3 / 12 x 200, less 1e-4 of it: the strips' middles.
   Piano(1e-7, -2e-7, -1e-4);
-  const AzioniPiastra z = AzioniSuPiastra(100, 200, -50, 150);
+  const AzioniPiastra z = AzioniSuPiastra(lavoro, 100, 200, -50, 150);
   EXPECT_NEAR(z.V, -7500, 1e-9);
   EXPECT_NEAR(z.MomentoQ, 20000, 1e-8);
   EXPECT_NEAR(z.MomentoP, -10000 * (1 - 1e-4), 1e-8);
-  EXPECT_NEAR(RisultanteSuPiastra(100, 200, 150, -50), -7500, 1e-9);       // the length along q counts by its absolute value
-  EXPECT_NEAR(RisultanteSuPiastra(200, 100, -50, 150), 7500, 1e-9);        // the strips' width by its sign
-  EXPECT_EQ(RisultanteSuPiastra(100, 200, -50, 150), z.V);
-  EXPECT_EQ(MomentoQSuPiastra(100, 200, -50, 150), z.MomentoQ);
-  EXPECT_EQ(MomentoPSuPiastra(100, 200, -50, 150), z.MomentoP);
+  EXPECT_NEAR(RisultanteSuPiastra(lavoro, 100, 200, 150, -50), -7500, 1e-9);       // the length along q counts by its absolute value
+  EXPECT_NEAR(RisultanteSuPiastra(lavoro, 200, 100, -50, 150), 7500, 1e-9);        // the strips' width by its sign
+  EXPECT_EQ(RisultanteSuPiastra(lavoro, 100, 200, -50, 150), z.V);
+  EXPECT_EQ(MomentoQSuPiastra(lavoro, 100, 200, -50, 150), z.MomentoQ);
+  EXPECT_EQ(MomentoPSuPiastra(lavoro, 100, 200, -50, 150), z.MomentoP);
 }
 
 TEST_F(NervatureTest, ZeroDentroLungoQ) {
   // P = 3e-4 (q - 20) on q -100..100: compressed below 20: -3e-4 x 120^2 / 2 = -2.16 a mm; centroid at 20 - 80 = -60: Mq = 129.6 a mm.
   Piano(1e-7, 0, -2e-6);
-  Confronta(AzioniSuPiastra(-30, 70, -100, 100), -216, 12960, 0);
+  Confronta(AzioniSuPiastra(lavoro, -30, 70, -100, 100), -216, 12960, 0);
   // The reverse slope: compressed above 20: -3e-4 x 80^2 / 2 = -0.96, centroid 20 + 160/3.
   Piano(-1e-7, 0, 2e-6);
-  Confronta(AzioniSuPiastra(-30, 70, -100, 100), -96, -96 * (20 + 160.0 / 3), 0);
+  Confronta(AzioniSuPiastra(lavoro, -30, 70, -100, 100), -96, -96 * (20 + 160.0 / 3), 0);
   // Off the middle line: q 0..100, qm = 50, compressed 0..20: -0.06, centroid 20/3 - 50.
   Piano(1e-7, 0, -2e-6);
-  Confronta(AzioniSuPiastra(-30, 70, 0, 100), -6, -6 * (20.0 / 3 - 50), 0);
+  Confronta(AzioniSuPiastra(lavoro, -30, 70, 0, 100), -6, -6 * (20.0 / 3 - 50), 0);
   Piano(1e-7, 0, 2e-5);                                // zero at -200: tension everywhere
-  Confronta(AzioniSuPiastra(-30, 70, -100, 100), 0, 0, 0);
+  Confronta(AzioniSuPiastra(lavoro, -30, 70, -100, 100), 0, 0, 0);
   Piano(1e-7, 0, -1e-5);                               // zero exactly at the end 100: a trapezium
-  Confronta(AzioniSuPiastra(-30, 70, -100, 100), -3e-4 * 200 * 200 / 2 * 100, 3e-4 * 200 * 200 * 200 / 12 * 100, 0);
+  Confronta(AzioniSuPiastra(lavoro, -30, 70, -100, 100), -3e-4 * 200 * 200 / 2 * 100, 3e-4 * 200 * 200 * 200 / 12 * 100, 0);
   // Zero exactly at the first end, -64, in numbers without rounding: a = -2^-24, length 128.
   const double a = -0x1p-24;
   Piano(a, 0, 64 * a);
-  Confronta(AzioniSuPiastra(-30, 70, -64, 64), 3000 * a * 128 * 128 / 2 * 100, 3000 * a * 128 * 128 * 128 / 12 * 100, 0);
+  Confronta(AzioniSuPiastra(lavoro, -30, 70, -64, 64), 3000 * a * 128 * 128 / 2 * 100, 3000 * a * 128 * 128 * 128 / 12 * 100, 0);
 }
 
 TEST_F(NervatureTest, ZeroDentroLungoP) {              // no change along q: closed along p, times |qb - qa|
   Piano(0, 1e-7, -2e-6);
-  Confronta(AzioniSuPiastra(-100, 100, -30, 70), -216, 0, 12960);
-  Confronta(AzioniSuPiastra(-100, 100, 70, -30), -216, 0, 12960);          // the length along q by its absolute value
+  Confronta(AzioniSuPiastra(lavoro, -100, 100, -30, 70), -216, 0, 12960);
+  Confronta(AzioniSuPiastra(lavoro, -100, 100, 70, -30), -216, 0, 12960);          // the length along q by its absolute value
   Piano(0, -1e-7, 2e-6);
-  Confronta(AzioniSuPiastra(-100, 100, -30, 70), -96, 0, -96 * (20 + 160.0 / 3));
+  Confronta(AzioniSuPiastra(lavoro, -100, 100, -30, 70), -96, 0, -96 * (20 + 160.0 / 3));
   Piano(1e-12, -1e-7, 2e-6);                           // 1e-12 along q still counts as no change
-  EXPECT_EQ(MomentoQSuPiastra(-100, 100, -30, 70), 0);
+  EXPECT_EQ(MomentoQSuPiastra(lavoro, -100, 100, -30, 70), 0);
   Piano(1.1e-12, -1e-7, 2e-6);
-  EXPECT_NE(MomentoQSuPiastra(-100, 100, -30, 70), 0);
+  EXPECT_NE(MomentoQSuPiastra(lavoro, -100, 100, -30, 70), 0);
   Piano(0, 1e-7, -1e-4);                               // all compressed: mean -0.3, Mp = 3e-4 x 200^3 / 12 x 100
-  Confronta(AzioniSuPiastra(-100, 100, -30, 70), -6000, 0, 20000);
+  Confronta(AzioniSuPiastra(lavoro, -100, 100, -30, 70), -6000, 0, 20000);
 }
 
 TEST_F(NervatureTest, TriangoloInAngolo) {             // P = 3e-4 (p + q - 150) on 0..100 squared: only by strips, against a fine sum
@@ -133,7 +134,7 @@ TEST_F(NervatureTest, TriangoloInAngolo) {             // P = 3e-4 (p + q - 150)
       Mq += P * (q - 50);
       Mp += P * (p - 50);
     }
-  const AzioniPiastra z = AzioniSuPiastra(0, 100, 0, 100);
+  const AzioniPiastra z = AzioniSuPiastra(lavoro, 0, 100, 0, 100);
   EXPECT_NEAR(z.V, V, 1e-4 * std::fabs(V));
   EXPECT_NEAR(z.MomentoQ, Mq, 1e-3 * std::fabs(Mq));
   EXPECT_NEAR(z.MomentoP, Mp, 1e-3 * std::fabs(Mp));
@@ -146,7 +147,7 @@ TEST_F(NervatureTest, TagliPressioneCostante) {
   // Cut 3: V = -0.3 x 400 x 155 = -18600, M = 77.5 x 18600 = 1441500; arm |-185 - 95| = 280, the far face: + 280000 - 42000 = 1679500;
   //   V = -19450. Cut 4: arm 90: 1441500 + 90000 - 13500 = 1518000.
   Piano(0, 0, -1e-4);
-  CalcolaNervature(1);
+  CalcolaNervature(lavoro, 1);
   const Attesa t12 = { 641500, 0, -14350, 500, true }, t3 = { 1679500, 0, -19450, 400, false }, t4 = { 1518000, 0, -19450, 400, false };
   ConfrontaTaglio(t12, 1, 2);
   ConfrontaTaglio(t12, 5, 6);
@@ -161,7 +162,7 @@ TEST_F(NervatureTest, TagliPressioneCostante) {
 
 TEST_F(NervatureTest, SaldatureDeiTagli) {
   Piano(0, 0, -1e-4);
-  CalcolaNervature(1);
+  CalcolaNervature(lavoro, 1);
   // Cuts 1, 2: Yg = (100000 + 3000 x 95) / 13000 = 29.61538; I = 333333.33 + 10000 x 19.61538^2 + 2 [150^3 10/12 + 1500 x 65.38462^2];
   //   Yt = 140.38462; TauPa = 14350 / 4 / 150 / 5 = 4.78333; SPrp = 641500 / I |75 (k - 1) - Yt|.
   const double Yg = 385000.0 / 13000, I = 8000 * 500.0 / 12 + 10000 * std::pow(Yg - 10, 2) + 2 * (2812500 + 1500 * std::pow(Yg - 95, 2)), Yt = 170 - Yg;
@@ -194,7 +195,7 @@ TEST_F(NervatureTest, TorsioneTagli12) {
   //   -3e-4 q^2 x 250: 2 x -2566.875 = -5133.75. Cut 1: -281250 - 34225 + 5133.75; cut 2 the same with the other sign.
   // M and V as with the constant pressure: 641500, -14350.
   Piano(1e-7, 0, -1e-4);
-  CalcolaNervature(1);
+  CalcolaNervature(lavoro, 1);
   const Attesa t = { 641500, 310341.25, -14350, 500, true };
   ConfrontaTaglio(t, 1, 2);
   ConfrontaTaglio(t, 5, 6);
@@ -207,7 +208,7 @@ TEST_F(NervatureTest, TorsioneTagli34) {
   // Value 1e-7 p - 1e-4: Mp = 3e-4 x 400^3 / 12 x 155 = 248000; T c: 1e-7 x 150^2 x 5e6 x 2 = 22500; holes: -3e-4 x 150^2 x 250 x 2 = -3375.
   // Cut 3: 248000 - 22500 + 3375 = 228875; cut 4: 248000 + 22500 - 3375 = 267125. The welds take no torsion here.
   Piano(0, 1e-7, -1e-4);
-  CalcolaNervature(1);
+  CalcolaNervature(lavoro, 1);
   ConfrontaTaglio({ 1679500, 228875, -19450, 400, false }, 3, 4);
   ConfrontaTaglio({ 1518000, 267125, -19450, 400, false }, 7, 8);
   EXPECT_NEAR(ris.Saldature[36].TauPa[1][1], 19450.0 / 3000, 1e-9);
@@ -226,7 +227,7 @@ TEST_F(NervatureTest, TorsioneTagli34) {
 
 TEST_F(NervatureTest, SoloTrazione) {                  // no compression: anchors alone. T = 500, no hole.
   Piano(0, 0, 1e-4);
-  CalcolaNervature(1);
+  CalcolaNervature(lavoro, 1);
   ConfrontaTaglio({ -500 * 80, 0, 1000, 500, true }, 1, 2);
   ConfrontaTaglio({ -500 * 560, 0, 1000, 400, false }, 3, 4);
   ConfrontaTaglio({ -500 * 180, 0, 1000, 400, false }, 7, 8);
@@ -240,7 +241,7 @@ TEST_F(NervatureTest, TirafondiAggiunti) {
     SetUp();
     Piano(0, 0, 1e-4);
     SchemaProva(r.schema, 50, 65);
-    CalcolaNervature(1);
+    CalcolaNervature(lavoro, 1);
     const double nz = r.z ? 3 : 2, ny = r.y ? 3 : 2;
     ConfrontaTaglio({ -500 * 40 * nz, 0, 500 * nz, 500, true }, 1, 2);
     ConfrontaTaglio({ -500 * 40 * nz, 0, 500 * nz, 500, true }, 5, 6);
@@ -257,7 +258,7 @@ TEST_F(NervatureTest, QualeTirafondoAggiunto) {        // a sloped plane tells t
   nodo.TfZ[7] = 170;                                   // p = 30
   nodo.TfZ[8] = 240;                                   // p = -40
   Piano(1e-7, 2e-7, 1e-4);
-  CalcolaNervature(1);
+  CalcolaNervature(lavoro, 1);
   const auto T = [](double p, double q) { return (1e-4 + 1e-7 * q + 2e-7 * p) * 5e6; };
   // Cut 1: anchors 1 (150, 185), 3 (150, -185), 5 (150, -10): M = -40 sum T, M2 = -sum T q, V = sum T. Cut 2 with p = -150, 6 at 20.
   const double V1 = T(150, 185) + T(150, -185) + T(150, -10), M21 = -(T(150, 185) * 185 - T(150, -185) * 185 - T(150, -10) * 10);
@@ -276,7 +277,7 @@ TEST_F(NervatureTest, MaiAbbassa) {
   ris.SMaxPiastra[1] = 200;
   ris.Saldature[39].SPrp[1][2] = 300;
   ris.Saldature[36].TauPe[1][2] = 400;
-  CalcolaNervature(1);
+  CalcolaNervature(lavoro, 1);
   EXPECT_EQ(ris.SNerv[1][1], 100);
   EXPECT_NEAR(ris.SNerv[1][2], 4.65577, 1e-5);
   EXPECT_EQ(ris.SMaxPiastra[1], 200);
@@ -290,7 +291,7 @@ TEST_F(NervatureTest, DivisoriNulli) {
     Piano(0, 0, -1e-4);
     AzzeraFault();
     nodo.*campo = 0;
-    CalcolaNervature(1);
+    CalcolaNervature(lavoro, 1);
     EXPECT_TRUE(FaultAritmetico());
   }
 }

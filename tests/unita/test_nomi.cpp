@@ -7,21 +7,22 @@
 #include <string>
 #include <vector>
 
+#include "corredo/lavoro_prova.h"
 #include "drawing/Quote.h"
 #include "drawing/disegno.h"
 #include "drawing/esecutivo.h"
 #include "drawing/formats/grb_stili.h"
 #include "drawing/nomi_disegno.h"
 #include "engine/PresInfl.h"
-#include "engine/nomi_motore.h"
-#include "engine/verifica.h"
 #include "link/collegamento.h"
 #include "link/nomi_collegamento.h"
 #include "model/materiali.h"
 #include "model/node_model.h"
 #include "model/nomi.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
+#include "panels/nomi_lavoro.h"
 #include "panels/pannelli.h"
 
 static const Risultati RIS_VUOTI;
@@ -39,8 +40,9 @@ struct Nomi : testing::Test {
 };
 
 static std::string Valore(std::string_view nome) {
+  const std::span<const RigaNome> altri[] = {NomiLavoro()};
   std::string v = "resta";
-  return ValoreModello(nome, v) ? v : "<" + v + ">";       // a refusal leaves the text alone: "<resta>"
+  return ValoreModello(nome, v, altri) ? v : "<" + v + ">";       // a refusal leaves the text alone: "<resta>"
 }
 static const char* const RIFIUTO = "<resta>";
 
@@ -231,7 +233,7 @@ TEST_F(Nomi, ScalariDellaVerifica) {
   presInfl.DentroBarra[8] = true;
   presInfl.K[2][3] = 5;
   verifica.AreaTf = 245;
-  const std::span<const RigaNome> altri[] = {NomiMotore()};
+  const std::span<const RigaNome> altri[] = {NomiLavoro()};
   const auto valore = [&altri](const char* nome) {
     std::string v;
     return ValoreModello(nome, v, altri) ? v : "rifiuto";
@@ -247,7 +249,7 @@ TEST_F(Nomi, ScalariDellaVerifica) {
 
 // The rooms beside the model: import, drawing store, panels; no name stands twice, or one would hide the other.
 TEST_F(Nomi, AltreStanze) {
-  const std::span<const RigaNome> altri[] = {NomiMotore(), NomiCollegamento(), NomiDisegno(), NomiPannelli()};
+  const std::span<const RigaNome> altri[] = {NomiLavoro(), NomiCollegamento(), NomiDisegno(), NomiPannelli()};
   const auto valore = [&altri](const char* nome) {
     std::string v;
     return ValoreModello(nome, v, altri) ? v : "rifiuto";

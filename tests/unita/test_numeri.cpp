@@ -8,6 +8,7 @@
 
 #include "core/aritmetica.h"
 #include "core/numeri.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

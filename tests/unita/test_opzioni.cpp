@@ -5,6 +5,7 @@
 
 #include "core/opzioni.h"
 #include "corredo/registratore.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -14,6 +14,7 @@
 #include "app/batch/processi.h"
 #include "corredo/registratore.h"
 #include "corredo/suite_prova.h"
+#include "model/stato.h"
 
 static const StatoOspite OSPITE_VUOTO;
 

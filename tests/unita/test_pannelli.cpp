@@ -1,6 +1,7 @@
 // The smaller panels: anchor chooser, drawing options, and the main panel's commands that open them, call the unit calculator or export.
 // The program is started on a copy of the sample suite; values by hand from what the test itself sets.
 #include "corredo/banco_pannelli.h"
+#include "model/stato.h"
 
 #include <filesystem>
 #include <set>

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "link/collegamento.h"
+#include "model/stato.h"
 #include "panels/Sez3D.h"
 #include "panels/Soll3D.h"
 #include "panels/selezione.h"

@@ -2,7 +2,9 @@
 #include <string>
 
 #include "corredo/foglio_prova.h"
+#include "corredo/lavoro_prova.h"
 #include "drawing/Quote.h"
+#include "model/stato.h"
 
 namespace {
 

@@ -6,10 +6,11 @@
 #include <cmath>
 #include <random>
 
+#include "corredo/lavoro_prova.h"
 #include "corredo/nodo_prova.h"
 #include "engine/Piastra.h"
 #include "engine/Tirafondi.h"
-#include "engine/verifica.h"
+#include "model/stato.h"
 
 namespace {
 
@@ -20,8 +21,8 @@ struct PiastraTest : testing::Test {
   }
 
   static void ConNervature(int s) {
-    InerziaTirafondi(verifica.SommaR2, verifica.ArmZ, verifica.ArmY);
-    PiastraConNervature(s, verifica.ArmZ, verifica.ArmY);
+    InerziaTirafondi(nodo, verifica.SommaR2, verifica.ArmZ, verifica.ArmY);
+    PiastraConNervature(lavoro, s, verifica.ArmZ, verifica.ArmY);
   }
 
   // Ribs of 20 mm on a column 180 x 190: reference lines Zr = 100, Yr = 85. Anchors 150 and 185 mm from the centre, T = 1000 daN each.
@@ -40,11 +41,11 @@ struct PiastraTest : testing::Test {
 TEST_F(PiastraTest, MensolaSottoPressione) {
   // Ly = (500 - 0.95 x 190) / 2 = 159.75 > Lz = (400 - 0.8 x 200) / 2 = 120; 6 x 0.5 x 0.5 x 159.75^2 / 400
   ris.SMaxCls[1] = 0.5;
-  PiastraSenzaNervature(1);
+  PiastraSenzaNervature(lavoro, 1);
   EXPECT_NEAR(ris.SMaxPiastra[1], 95.700234375, 1e-9);
   nodo.LatoZ = 600;                                    // Lz = 220
   SchemaProva(0);
-  PiastraSenzaNervature(1);
+  PiastraSenzaNervature(lavoro, 1);
   EXPECT_NEAR(ris.SMaxPiastra[1], 6 * 0.25 * 48400 / 400, 1e-9);
 }
 
@@ -67,7 +68,7 @@ TEST_F(PiastraTest, QuattroLati) {
       nodo.TfZ[2] = r.lato == 2 ? 345 : 300;
       nodo.TfY[3] = r.lato == 3 ? 390 : 345;
       nodo.TfZ[1] = r.lato == 4 ? 55 : 100;
-      PiastraSenzaNervature(1);
+      PiastraSenzaNervature(lavoro, 1);
       EXPECT_NEAR(ris.SMaxPiastra[1], 45 * (r.coppia + r.extra[schema]) * 245 / r.W, 1e-9) << r.lato << ' ' << schema;
     }
   // A pair that is compressed, a lever below zero: absolute values again. Side 1, anchor 8 pulled: 45 (3 + 128).
@@ -78,7 +79,7 @@ TEST_F(PiastraTest, QuattroLati) {
     nodo.TfZ[2] = 300;
     nodo.TfY[3] = 345;
     nodo.TfZ[1] = 100;
-    PiastraSenzaNervature(1);
+    PiastraSenzaNervature(lavoro, 1);
     EXPECT_NEAR(ris.SMaxPiastra[1], 45 * 131 * 245 / Wz, 1e-9) << y;
   }
   // The pair's sum is taken before its absolute value: 1 and 2 cancel.
@@ -87,17 +88,17 @@ TEST_F(PiastraTest, QuattroLati) {
   std::copy(S, S + 5, ris.SigmaTir[1]);
   nodo.TfZ[2] = 300;
   nodo.TfZ[1] = 100;
-  PiastraSenzaNervature(1);
+  PiastraSenzaNervature(lavoro, 1);
   EXPECT_EQ(ris.SMaxPiastra[1], 0);
 }
 
 TEST_F(PiastraTest, MaggioreDeiDue) {                  // the pressure's stress stays when the anchors' is smaller
   ris.SMaxCls[1] = 0.5;
   ris.SigmaTir[1][1] = 0.1;
-  PiastraSenzaNervature(1);
+  PiastraSenzaNervature(lavoro, 1);
   EXPECT_NEAR(ris.SMaxPiastra[1], 95.700234375, 1e-9);
   ris.SigmaTir[1][1] = ris.SigmaTir[1][2] = 100;       // 105 x 200 x 245 / 26666.67 = 192.94
-  PiastraSenzaNervature(1);
+  PiastraSenzaNervature(lavoro, 1);
   EXPECT_NEAR(ris.SMaxPiastra[1], 105 * 200 * 245 / (160000.0 / 6), 1e-9);
 }
 

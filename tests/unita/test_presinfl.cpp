@@ -7,18 +7,22 @@
 #include <random>
 
 #include "corredo/equilibrio.h"
+#include "corredo/lavoro_prova.h"
 #include "corredo/nodo_prova.h"
 #include "engine/PresInfl.h"
+#include "model/stato.h"
 
 namespace {
 
 struct Esito { double pressione; bool ok; };
 
 Esito Risolvi(int s) {
-  Esito e = { 1, false };
-  DatiSezione(s);
-  PresInfl(1, e.pressione, ris.SigmaTir, s, e.ok);
-  return e;
+  lavoro.diagnosi.clear();
+  DatiSezione(lavoro, s);
+  ris.SMaxCls[s] = 1;
+  const bool ok = PresInfl(lavoro, s);
+  MostraDiagnosi(lavoro);
+  return { ris.SMaxCls[s], ok };
 }
 
 Esito Risolvi(double N, double My, double Mz) { return Risolvi(SestettoProva(N, 0, 0, 0, My, Mz)); }
@@ -46,7 +50,7 @@ double CoeffK(double kx, double ky, double segnoY = 1, double segnoZ = 1) {
 TEST_F(PresInflTest, DatiDellaSezione) {
   SchemaProva(0, 50, 60);
   const int s = SestettoProva(-1000, 11, 12, 13, 300, 400);
-  DatiSezione(s);
+  DatiSezione(lavoro, s);
   const double x[] = { 0, -200, -200, 200, 200 }, y[] = { 0, -250, 250, 250, -250 };
   for (int j = 1; j <= 4; ++j) {
     EXPECT_EQ(presInfl.VertX[j], x[j]);
@@ -272,14 +276,12 @@ TEST_F(PresInflTest, Tolleranza) {
 
 TEST_F(PresInflTest, NessunPoligono) {                // no box, nothing written
   const int s = SestettoProva(-30000, 0, 0, 0, 0, 0);
-  DatiSezione(s);
+  DatiSezione(lavoro, s);
   presInfl.NumVertici = 0;
-  double p = 7;
-  bool esito = true;
-  PresInfl(1, p, ris.SigmaTir, s, esito);
-  EXPECT_FALSE(esito);
-  EXPECT_EQ(p, 7);
-  EXPECT_TRUE(registratore.eventi.empty());
+  ris.SMaxCls[s] = 7;
+  EXPECT_FALSE(PresInfl(lavoro, s));
+  EXPECT_EQ(ris.SMaxCls[s], 7);
+  EXPECT_TRUE(lavoro.diagnosi.empty());
 }
 
 TEST_F(PresInflTest, RisultatiNonPresenti) {

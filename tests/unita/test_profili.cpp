@@ -9,6 +9,7 @@
 #include "core/testo.h"
 #include "corredo/registratore.h"
 #include "link/profili.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -3,6 +3,7 @@
 #include "corredo/banco_pannelli.h"
 
 #include "model/materiali.h"
+#include "model/stato.h"
 #include "panels/PropMateriali.h"
 #include "panels/pannelli.h"
 

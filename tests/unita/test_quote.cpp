@@ -5,11 +5,13 @@
 #include <limits>
 
 #include "core/aritmetica.h"
+#include "corredo/lavoro_prova.h"
 #include "corredo/registratore.h"
 #include "drawing/Quote.h"
 #include "drawing/disegno.h"
 #include "drawing/edizione.h"
 #include "drawing/saldature_dis.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -5,9 +5,10 @@
 #include <filesystem>
 
 #include "core/numeri.h"
+#include "model/stato.h"
 #include "reports/celle.h"
 #include "reports/foglio.h"
-#include "reports/nomi_file.h"
+#include "core/nomi_file.h"
 
 namespace {
 
@@ -146,7 +147,7 @@ TEST_F(RelazioniComuni, UnValoreNonFinitoEUnFault) {
 }
 
 TEST_F(RelazioniComuni, LaRigaDelFaultSiRitira) {
-  Foglio f;
+  Foglio f{lavoro, {}, {}};
   ASSERT_TRUE(ApriFoglio(f, "TA"));
   ASSERT_TRUE(Riga(f, "prima ", 1.5));
   volatile double zero = 0;
@@ -171,53 +172,51 @@ TEST_F(RelazioniComuni, ChiusuraBoxPoiFilePoiMostra) {
     EXPECT_EQ(percorso, suite.DirLavoro + "\\RelTA_QB07_Prova.txt");
     visto.passi.push_back(std::string("shown, file of ").append(std::to_string(LeggiByte(visto.file).size())));
   };
-  Foglio f;
+  Foglio f{lavoro, {}, {}};
   ASSERT_TRUE(ApriFoglio(f, "TA"));
   ASSERT_TRUE(Riga(f, "abc"));
-  f.Fallito = true;
   EXPECT_TRUE(ConcludiFoglio(f, true));
   EXPECT_EQ(visto.passi, (std::vector<std::string>{"box, file of 0", "shown, file of 5"}));
-  EXPECT_TRUE(esitoRelazione.scritta);
-  EXPECT_TRUE(esitoRelazione.fallito);
 }
 
 TEST_F(RelazioniComuni, ChiusuraSenzaBox) {
-  Foglio f;
+  lavoro.verificato = true;
+  Foglio f{lavoro, {}, {}};
   ASSERT_TRUE(ApriFoglio(f, "SLU"));
   EXPECT_TRUE(ConcludiFoglio(f, true));
   EXPECT_EQ(registratore.eventi, (std::vector<std::string>{"[testo] " + FileSLU()}));
-  EXPECT_TRUE(esitoRelazione.scritta);
-  EXPECT_FALSE(esitoRelazione.fallito);
 }
 
 TEST_F(RelazioniComuni, FileCheNonSiApre) {
   suite.DirLavoro += "/manca";
-  EXPECT_FALSE(RelazioneTA());
+  EXPECT_FALSE(GiudicaEScrivi(MetodoTA));
+  EXPECT_FALSE(lavoro.fermo.c_e);
   EXPECT_TRUE(FaultAritmetico());                        // the caller shows the box
   EXPECT_TRUE(registratore.eventi.empty());
-  EXPECT_FALSE(esitoRelazione.scritta);
+  EXPECT_FALSE(Scritta());
 }
 
 // A device that takes no byte: the report could be opened, not written. A fault, and no viewer.
 TEST_F(RelazioniComuni, FileCheNonSiScrive) {
   if (!std::filesystem::exists("/dev/full")) GTEST_SKIP();
   std::filesystem::create_symlink("/dev/full", FileTA());
-  EXPECT_FALSE(RelazioneTA());
+  EXPECT_FALSE(GiudicaEScrivi(MetodoTA));
+  EXPECT_FALSE(lavoro.fermo.c_e);
   EXPECT_TRUE(FaultAritmetico());
   EXPECT_TRUE(registratore.eventi.empty());
-  EXPECT_FALSE(esitoRelazione.scritta);
+  EXPECT_FALSE(Scritta());
 }
 
 TEST_F(RelazioniComuni, LaRelazioneDiPrimaSiSostituisce) {
   ScriviByte(FileTA(), std::string(100000, 'x'));
-  EXPECT_TRUE(RelazioneTA());
+  EXPECT_TRUE(GiudicaEScrivi(MetodoTA));
   EXPECT_EQ(LeggiByte(FileTA()).find('x', 0), std::string::npos);
   EXPECT_EQ(LeggiRighe(FileTA())[0], "VERIFICA TENSIONALE NODI - METODO DELLE TENSIONI AMMISSIBILI (CNR 10011/88)");
 }
 
 TEST_F(RelazioniComuni, NomeSenzaRiguardoAlleMaiuscole) {
   ScriviByte(suite.DirLavoro + "/relta_qb07_PROVA.TXT", "vecchia");      // that file is overwritten, no second one appears
-  EXPECT_TRUE(RelazioneTA());
+  EXPECT_TRUE(GiudicaEScrivi(MetodoTA));
   int file = 0;
   for ([[maybe_unused]] const auto& e : std::filesystem::directory_iterator(suite.DirLavoro)) ++file;
   EXPECT_EQ(file, 1);

@@ -7,6 +7,7 @@
 #include "corredo/registratore.h"
 #include "link/esporta_soll.h"
 #include "link/ricerca.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -6,6 +6,7 @@
 #include "corredo/pannello_prova.h"
 #include "corredo/registratore.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "panels/InsDati.h"
 
 namespace {

@@ -4,10 +4,11 @@
 
 #include <cmath>
 
+#include "corredo/lavoro_prova.h"
 #include "corredo/nodo_prova.h"
 #include "engine/PresInfl.h"
 #include "engine/Saldature.h"
-#include "engine/verifica.h"
+#include "model/stato.h"
 
 namespace {
 
@@ -17,10 +18,10 @@ struct SaldatureTest : testing::Test {
   static void Nervato(std::int16_t interne) {
     nodo.TipoNodo = 2;
     nodo.SaldInt = interne;
-    CostruisciSaldature();
+    CostruisciSaldature(lavoro);
     Inerzie();
   }
-  static void Inerzie() { InerziaSaldature(verifica.IzSald, verifica.IySald, verifica.IpSald, verifica.LungTz, verifica.LungTy); }
+  static void Inerzie() { InerziaSaldature(lavoro, verifica.IzSald, verifica.IySald, verifica.IpSald, verifica.LungTz, verifica.LungTy); }
   static void Azioni(double N, double Ty, double Tz, double Mt, double My, double Mz) {
     verifica.N = N;
     verifica.Ty = Ty;
@@ -96,7 +97,7 @@ TEST_F(SaldatureTest, Direzioni) {
 }
 
 TEST_F(SaldatureTest, Aggiunta) {
-  AggiungiSaldatura(30, 10, 30, 110.04, -1, 7);        // along Y, L = 100.04
+  AggiungiSaldatura(lavoro, 30, 10, 30, 110.04, -1, 7);        // along Y, L = 100.04
   const Saldatura& d = ris.Saldature[7];
   EXPECT_EQ(d.Nome, "S7");
   EXPECT_EQ(d.Lung, 100);                              // to one decimal
@@ -107,15 +108,15 @@ TEST_F(SaldatureTest, Aggiunta) {
   EXPECT_DOUBLE_EQ(d.Ang[3], std::atan(110.04 / 30));
   EXPECT_EQ(d.Ang[2], 3.141592 / 2);
   EXPECT_NEAR(d.PZ[1], 32.5, 1e-6);                    // z + 2.5 for lato -1
-  AggiungiSaldatura(-30, 10, 50, 10, 1, 8);            // along Z: inertias exchanged
+  AggiungiSaldatura(lavoro, -30, 10, 50, 10, 1, 8);            // along Z: inertias exchanged
   EXPECT_DOUBLE_EQ(ris.Saldature[8].Iy, 512000.0 * 5 / 12);
   EXPECT_DOUBLE_EQ(ris.Saldature[8].Iz, 125.0 * 80 / 12);
   EXPECT_DOUBLE_EQ(ris.Saldature[8].PY[2], 12.5);
-  AggiungiSaldatura(0, 0, 0, 100.25, 1, 8);
+  AggiungiSaldatura(lavoro, 0, 0, 0, 100.25, 1, 8);
   EXPECT_EQ(ris.Saldature[8].Lung, 100.3);             // halves go up
-  AggiungiSaldatura(0, 0, 1e-4, 80, 1, 8);             // 0.0001 off: no longer along Y
+  AggiungiSaldatura(lavoro, 0, 0, 1e-4, 80, 1, 8);             // 0.0001 off: no longer along Y
   EXPECT_NEAR(ris.Saldature[8].Iz, 125.0 * 80 / 12, 1e-6);
-  AggiungiSaldatura(5, 5, 5, 5, 1, 9);                 // no length: direction -pi/2, no inertia
+  AggiungiSaldatura(lavoro, 5, 5, 5, 5, 1, 9);                 // no length: direction -pi/2, no inertia
   EXPECT_EQ(ris.Saldature[9].Ang[2], -3.141592 / 2);
   EXPECT_EQ(ris.Saldature[9].Iz + ris.Saldature[9].Iy + ris.Saldature[9].Ip, 0);
 }
@@ -124,18 +125,18 @@ TEST_F(SaldatureTest, GolaNulla) {                     // the record stays; the 
   ris.Saldature[3].Lung = 77;
   nodo.Gola = 0;
   nodo.TipoNodo = 2;
-  CostruisciSaldature();
+  CostruisciSaldature(lavoro);
   EXPECT_EQ(ris.Saldature[3].Lung, 77);
   EXPECT_EQ(ris.Saldature[1].Nome, "");
-  EXPECT_EQ(nodo.NumSaldature, 40);
+  EXPECT_EQ(lavoro.NumSaldature, 40);
   nodo.Gola = -8;                                      // only 0 stops it
-  AggiungiSaldatura(0, 0, 0, 10, 1, 3);
+  AggiungiSaldatura(lavoro, 0, 0, 0, 10, 1, 3);
   EXPECT_EQ(ris.Saldature[3].Lung, 10);
 }
 
 TEST_F(SaldatureTest, TabellaColonna) {
-  CostruisciSaldature();
-  EXPECT_EQ(nodo.NumSaldature, 8);
+  CostruisciSaldature(lavoro);
+  EXPECT_EQ(lavoro.NumSaldature, 8);
   for (const Posto& p : COLONNA) Confronta(p);
   EXPECT_EQ(ris.Saldature[9].Nome, "");
   EXPECT_EQ(ris.Saldature[10].Nome, "");
@@ -143,7 +144,7 @@ TEST_F(SaldatureTest, TabellaColonna) {
 
 TEST_F(SaldatureTest, TabellaNervature) {
   Nervato(0);
-  EXPECT_EQ(nodo.NumSaldature, 40);
+  EXPECT_EQ(lavoro.NumSaldature, 40);
   for (const Posto& p : COLONNA) Confronta(p);
   for (const Posto& p : NERVATURE) Confronta(p);
   for (const Posto& p : INTERNE) EXPECT_EQ(ris.Saldature[p.w].Nome, "") << p.w;
@@ -151,7 +152,7 @@ TEST_F(SaldatureTest, TabellaNervature) {
 
 TEST_F(SaldatureTest, TabellaInterne) {
   Nervato(1);
-  EXPECT_EQ(nodo.NumSaldature, 44);
+  EXPECT_EQ(lavoro.NumSaldature, 44);
   for (const Posto& p : NERVATURE)
     if (p.w != 23) Confronta(p);
   Confronta({ 23, 97.5, -250, 97.5, -95, 155 });
@@ -159,13 +160,13 @@ TEST_F(SaldatureTest, TabellaInterne) {
   for (const std::int16_t altro : { std::int16_t(2), std::int16_t(-1) }) {
     SetUp();
     Nervato(altro);                                    // counted with any value but 0, made with 1 only
-    EXPECT_EQ(nodo.NumSaldature, 44) << altro;
+    EXPECT_EQ(lavoro.NumSaldature, 44) << altro;
     EXPECT_EQ(ris.Saldature[9].Nome + ris.Saldature[19].Nome + ris.Saldature[41].Nome, "") << altro;
   }
 }
 
 TEST_F(SaldatureTest, InerzieColonna) {
-  CostruisciSaldature();
+  CostruisciSaldature(lavoro);
   Inerzie();
   EXPECT_NEAR(verifica.LungTy, 268, 1e-9);             // 1, 5
   EXPECT_NEAR(verifica.LungTz, 4 * 78.8 + 400, 1e-9);
@@ -216,11 +217,11 @@ TEST_F(SaldatureTest, InerziaDellaNervatura) {         // the ribs' part, weld b
 }
 
 TEST_F(SaldatureTest, TensioniColonna) {
-  CostruisciSaldature();
+  CostruisciSaldature(lavoro);
   Inerzie();
   // N: 9832 daN over (715.2 + 268) x 5 = 4916 mm2: 2. Mz / Iz: 1e-2 a mm, My / Iy: -2e-2 a mm.
   Azioni(9832, 1340, 3576, 0, -0.02 * verifica.IySald, 0.01 * verifica.IzSald);
-  TensioniSaldaturePiastra(4);
+  TensioniSaldaturePiastra(lavoro, 4);
   const Saldatura &w1 = ris.Saldature[1], &w3 = ris.Saldature[3];
   EXPECT_NEAR(w1.SPrp[4][1], 2 + 0.67 - 0.115, 1e-6);      // at (5.75, 67)
   EXPECT_NEAR(w1.SPrp[4][2], 2 + 0 - 0.115, 1e-6);
@@ -234,11 +235,11 @@ TEST_F(SaldatureTest, TensioniColonna) {
   }
   for (const int w : { 1, 5 }) EXPECT_NEAR(ris.Saldature[w].TauPa[4][1], 1, 1e-12);
   ris.Saldature[5].Lung = 67;                          // each web weld by its own length
-  TensioniSaldaturePiastra(4);
+  TensioniSaldaturePiastra(lavoro, 4);
   EXPECT_NEAR(w1.TauPa[4][1], 1, 1e-12);
   EXPECT_NEAR(ris.Saldature[5].TauPa[4][1], 2, 1e-12);
   Azioni(0, 1340, 0, 0, 0, 0);
-  TensioniSaldaturePiastra(4);
+  TensioniSaldaturePiastra(lavoro, 4);
   for (const int w : { 2, 3, 4, 6, 7, 8 }) EXPECT_EQ(ris.Saldature[w].TauPa[4][2], 0) << w;
 }
 
@@ -246,10 +247,10 @@ TEST_F(SaldatureTest, Torsione) {
   // Mt / Ip = 0.01 a mm. Weld 3 runs from (-100, 95) to (100, 95), axis direction 0; its point 1 at (-100, 97.5) is seen at
   // Ang[1] = atan(95 / 100) + pi/2 by the odd branch. ro = 0.01 (100^2 + 97.5^2)^0.5 = 1.396648, fi = pi/2 - Ang[1] = -atan 0.95:
   // TauPa = ro cos 0.759763, TauPe = -ro sin 0.759763.
-  CostruisciSaldature();
+  CostruisciSaldature(lavoro);
   Inerzie();
   Azioni(0, 0, 0, 0.01 * verifica.IpSald, 0, 0);
-  TensioniSaldaturePiastra(1);
+  TensioniSaldaturePiastra(lavoro, 1);
   const Saldatura& w = ris.Saldature[3];
   const double ro = 0.01 * std::hypot(100, 97.5);
   EXPECT_NEAR(w.TauPa[1][1], ro / std::sqrt(1 + 0.9025), 1e-5);
@@ -271,7 +272,7 @@ TEST_F(SaldatureTest, TensioniPiastraNervata) {
   // LungTy 1848, LungTz 1435.2: Ty / 1848 / 5 = 1, Tz / 1435.2 / 5 = 2; N over (1848 + 1435.2) x 5 = 16416 mm2: 3.
   Nervato(0);
   Azioni(49248, 9240, 14352, 0, 0, 0);
-  TensioniSaldaturePiastra(1);
+  TensioniSaldaturePiastra(lavoro, 1);
   const std::string letter = ".yzzzyzzz.yyyyyzzzz.yyyyyzzzz";
   for (int w = 1; w <= 28; ++w)
     for (int k = 1; k <= 3; ++k) {
@@ -281,7 +282,7 @@ TEST_F(SaldatureTest, TensioniPiastraNervata) {
   EXPECT_EQ(ris.Saldature[29].SPrp[1][1], 0);
   Nervato(1);                                          // LungTy 2188
   Azioni(0, 10940, 0, 0, 0, 0);
-  TensioniSaldaturePiastra(1);
+  TensioniSaldaturePiastra(lavoro, 1);
   EXPECT_NEAR(ris.Saldature[9].TauPa[1][1], 1, 1e-12);
   EXPECT_NEAR(ris.Saldature[19].TauPa[1][1], 1, 1e-12);
 }
@@ -294,7 +295,7 @@ TEST_F(SaldatureTest, SaldatureDellaColonnaNervata) {
   const double zc = 95 + 5 / std::sqrt(2.0), yc = 100 - 5 / std::sqrt(2.0);
   Azioni(-6800, 0, 0, 0, 0.5 * yc * 3000, 0.25 * zc * 3000);
   ris.Saldature[29].TauPa[1][2] = 1000;                // replaced, not raised
-  TensioniSaldatureColonna(1);
+  TensioniSaldatureColonna(lavoro, 1);
   for (int k = 1; k <= 3; ++k) {
     EXPECT_NEAR(ris.Saldature[29].TauPa[1][k], -1 + 0.25 + 0.5, 1e-9);
     EXPECT_NEAR(ris.Saldature[31].TauPa[1][k], -1 + 0.25 - 0.5, 1e-9);
@@ -305,7 +306,7 @@ TEST_F(SaldatureTest, SaldatureDellaColonnaNervata) {
   // With the inner welds: eight of them, Nr / 8 / 5 / 150 = -0.5; zc' = zc - 10; I1 = (zc'^2 + zc^2) 3000, I2 = 2 yc^2 3000.
   Nervato(1);
   const double zi = zc - 10, a = 0.25 * zc * 3000 / ((zi * zi + zc * zc) * 3000), b = 0.25;
-  TensioniSaldatureColonna(1);
+  TensioniSaldatureColonna(lavoro, 1);
   const std::pair<int, double> ATTESI[] = {
     { 29, a * zc + b }, { 31, a * zc - b }, { 36, -a * zc - b }, { 38, -a * zc + b },
     { 41, a * zi + b }, { 42, a * zi - b }, { 43, -a * zi + b }, { 44, -a * zi - b },
@@ -313,7 +314,7 @@ TEST_F(SaldatureTest, SaldatureDellaColonnaNervata) {
   for (const auto& [w, v] : ATTESI) EXPECT_NEAR(ris.Saldature[w].TauPa[1][3], -0.5 + v, 1e-9) << w;
   nodo.SaldInt = -1;                                   // any value but 0
   ris.Saldature[44].TauPa[1][3] = 0;
-  TensioniSaldatureColonna(1);
+  TensioniSaldatureColonna(lavoro, 1);
   EXPECT_NEAR(ris.Saldature[44].TauPa[1][3], -0.5 - a * zi - b, 1e-9);
 }
 
@@ -324,12 +325,12 @@ TEST_F(SaldatureTest, MomentiDelCalcestruzzo) {        // what the concrete unde
   presInfl.PianoDef[3] = -1e-3;
   const double E = 3122.0185778, V = -1e-3 * E * 38000, Mq = 1e-7 * E * 190 * 190 * 190 / 12 * 200, Mp = 2e-7 * E * 8e6 / 12 * 190 * (1 - 1e-4);
   Azioni(V, 0, 0, 0, Mp, Mq);                          // exactly what it carries
-  TensioniSaldatureColonna(1);
+  TensioniSaldatureColonna(lavoro, 1);
   for (const int w : { 29, 31, 36, 38 }) EXPECT_NEAR(ris.Saldature[w].TauPa[1][1], 0, 1e-9) << w;
 }
 
-TEST_F(SaldatureTest, EquivalentiEMassime) {
-  nodo.NumSaldature = 2;
+TEST_F(SaldatureTest, EquivalentiEMassime) {          // daN/cm2, from daN/mm2
+  lavoro.NumSaldature = 2;
   Saldatura& d = ris.Saldature[2];
   const double sp[] = { 0, -2, 90, 3 }, pa[] = { 0, 3, 90, -4 }, pe[] = { 0, -6, 90, 1 };
   for (int k = 1; k <= 3; ++k) {
@@ -337,39 +338,23 @@ TEST_F(SaldatureTest, EquivalentiEMassime) {
     d.TauPa[5][k] = pa[k];
     d.TauPe[5][k] = pe[k];
   }
-  TensioniEquivalentiSaldature(5);
-  EXPECT_EQ(d.SEq1[5], 7);                             // (4 + 9 + 36)^0.5 against (9 + 16 + 1)^0.5; point 2 is not looked at
-  EXPECT_EQ(d.SEq2[5], 8);                             // 2 + 6 against 3 + 1
+  TensioniEquivalentiSaldature(lavoro, 5);
+  EXPECT_EQ(d.SEq1[5], 700);                           // 100 (4 + 9 + 36)^0.5 against (9 + 16 + 1)^0.5; point 2 is not looked at
+  EXPECT_EQ(d.SEq2[5], 800);                           // 2 + 6 against 3 + 1
   ris.Saldature[1] = d;
   ris.Saldature[1].SEq1[5] = 0;
-  TensioniEquivalentiSaldature(5);
-  EXPECT_EQ(ris.Saldature[1].SEq1[5], 7);              // from the first weld on
+  TensioniEquivalentiSaldature(lavoro, 5);
+  EXPECT_EQ(ris.Saldature[1].SEq1[5], 700);            // from the first weld on
   double a, b, c;
-  MaxTensioniSaldatura(a, b, c, 2, 5);
-  EXPECT_EQ(a, 3);
-  EXPECT_EQ(b, 4);
-  EXPECT_EQ(c, 6);
+  MaxTensioniSaldatura(lavoro, a, b, c, 2, 5);
+  EXPECT_EQ(a, 300);
+  EXPECT_EQ(b, 400);
+  EXPECT_EQ(c, 600);
   std::swap(d.SPrp[5][1], d.SPrp[5][3]);
   std::swap(d.TauPa[5][1], d.TauPa[5][3]);
   std::swap(d.TauPe[5][1], d.TauPe[5][3]);
-  TensioniEquivalentiSaldature(5);
-  EXPECT_EQ(d.SEq1[5], 7);
-  EXPECT_EQ(d.SEq2[5], 8);
-}
-
-TEST_F(SaldatureTest, Scala) {                         // x 10^2, every sextet and weld in use, points 1 to 3
-  nodo.NumSaldature = 2;
-  nodo.NumSoll = 3;
-  for (int w = 1; w <= 3; ++w)
-    for (int s = 1; s <= 4; ++s)
-      for (int k = 1; k <= 3; ++k) ris.Saldature[w].SPrp[s][k] = ris.Saldature[w].TauPa[s][k] = ris.Saldature[w].TauPe[s][k] = 1;
-  ScalaTensioniSaldature();
-  for (int w = 1; w <= 3; ++w)
-    for (int s = 1; s <= 4; ++s)
-      for (int k = 1; k <= 3; ++k) {
-        const double v = w <= 2 && s <= 3 ? 100 : 1;
-        EXPECT_EQ(ris.Saldature[w].SPrp[s][k], v);
-        EXPECT_EQ(ris.Saldature[w].TauPa[s][k], v);
-        EXPECT_EQ(ris.Saldature[w].TauPe[s][k], v);
-      }
+  TensioniEquivalentiSaldature(lavoro, 5);
+  EXPECT_EQ(d.SEq1[5], 700);
+  EXPECT_EQ(d.SEq2[5], 800);
+  EXPECT_EQ(d.SPrp[5][3], -2);                         // the tables stay in daN/mm2
 }

@@ -5,6 +5,7 @@
 #include "corredo/registratore.h"
 #include "drawing/pianta.h"
 #include "drawing/schizzo.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -5,6 +5,7 @@
 #include "corredo/modello_minimo.h"
 #include "corredo/registratore.h"
 #include "link/struttura.h"
+#include "model/stato.h"
 
 namespace {
 

@@ -9,6 +9,7 @@
 #include "materials/file_materiali.h"
 #include "materials/regole_materiali.h"
 #include "model/materiali.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {
@@ -85,7 +86,7 @@ TEST_F(SuiteEsempio, DiametriComeGliInterni) {
   EXPECT_EQ(suite.DiamVal[6], 20);
   EXPECT_EQ(suite.DiamArea[6], 245);
   EXPECT_EQ(suite.DiamNome[21], "M68");
-  EXPECT_EQ(AreaResistente(24), 353);
+  EXPECT_EQ(AreaResistente(suite, 24), 353);
 }
 
 TEST_F(SuiteEsempio, Opzioni) {

@@ -5,10 +5,11 @@
 #include <array>
 #include <cmath>
 
+#include "corredo/lavoro_prova.h"
 #include "corredo/nodo_prova.h"
 #include "engine/ModuloCalcoliNTC.h"
 #include "engine/Tirafondi.h"
-#include "engine/verifica.h"
+#include "model/stato.h"
 
 namespace {
 
@@ -16,7 +17,7 @@ struct TirafondiTest : testing::Test {
   void SetUp() override { NodoProva(); }
 
   static void Prepara() {
-    InerziaTirafondi(verifica.SommaR2, verifica.ArmZ, verifica.ArmY);
+    InerziaTirafondi(nodo, verifica.SommaR2, verifica.ArmZ, verifica.ArmY);
     verifica.AreaTf = 245;
   }
 };
@@ -51,46 +52,46 @@ TEST_F(TirafondiTest, TaglioETorsione) {
   verifica.Mt = 50000;                                 // Mt / SommaR2 = 0.2 daN/mm
   // Anchor 1: Fz = 500 + 200 x 0.2 = 540, Fy = 250 + 150 x 0.2 = 280; 2: 540, 220; 3: 460, 280; 4: 460, 220.
   const double F[] = { 0, std::sqrt(370000.0), std::sqrt(340000.0), std::sqrt(290000.0), std::sqrt(260000.0) };
-  for (int i = 1; i <= 4; ++i) EXPECT_NEAR(TaglioTirafondo(i), F[i], 1e-9) << i;
+  for (int i = 1; i <= 4; ++i) EXPECT_NEAR(TaglioTirafondo(lavoro, i), F[i], 1e-9) << i;
 
   ris.SigmaTir[3][2] = -4;
   ris.FvEd[3][2] = 77;
   nodo.TipoVer = 0;
-  TaglioTirafondi(3);
+  TaglioTirafondi(LavoroProva(), 3);
   EXPECT_NEAR(ris.SRfTir[3][2], F[2] / 20 / 20, 1e-9);     // thickness x Fi
   EXPECT_NEAR(ris.TauTir[3][2], F[2] / 245, 1e-9);
   EXPECT_EQ(ris.TiroTir[3][2], -980);                      // 245 x -4
   EXPECT_EQ(ris.FvEd[3][2], 77);                           // limit states only
   ris.SRfTir[3][2] = ris.TauTir[3][2] = ris.TiroTir[3][2] = 5;
   nodo.TipoVer = 1;
-  TaglioTirafondi(3);
+  TaglioTirafondi(LavoroProva(), 3);
   EXPECT_NEAR(ris.FvEd[3][2], F[2], 1e-9);
   EXPECT_EQ(ris.SRfTir[3][2] + ris.TauTir[3][2] + ris.TiroTir[3][2], 15);
 }
 
 TEST_F(TirafondiTest, CostantiTA) {
-  ResistenzeTA();
-  EXPECT_EQ(nodo.MatCls.SAmm, 9.75);                   // (30 - 15) / 4 + 6
-  EXPECT_EQ(nodo.MatCls.TauCls, 0.1);                  // (15 / 75 + 0.4) 0.15 = 0.09, to one decimal
+  ResistenzeTA(lavoro);
+  EXPECT_EQ(lavoro.SAmmCls, 9.75);                   // (30 - 15) / 4 + 6
+  EXPECT_EQ(lavoro.TauCls, 0.1);                  // (15 / 75 + 0.4) 0.15 = 0.09, to one decimal
   nodo.MatCls.Rck = 100;
-  ResistenzeTA();
-  EXPECT_EQ(nodo.MatCls.SAmm, 4.75);                   // (10 - 15) / 4 + 6
-  EXPECT_EQ(nodo.MatCls.TauCls, 0.1);                  // (-5 / 75 + 0.4) 0.15 = 0.05: halves go up
+  ResistenzeTA(lavoro);
+  EXPECT_EQ(lavoro.SAmmCls, 4.75);                   // (10 - 15) / 4 + 6
+  EXPECT_EQ(lavoro.TauCls, 0.1);                  // (-5 / 75 + 0.4) 0.15 = 0.05: halves go up
   nodo.MatCls.Rck = 500;
-  ResistenzeTA();
-  EXPECT_EQ(nodo.MatCls.SAmm, 14.75);
-  EXPECT_EQ(nodo.MatCls.TauCls, 0.1);                  // (35 / 75 + 0.4) 0.15 = 0.13
+  ResistenzeTA(lavoro);
+  EXPECT_EQ(lavoro.SAmmCls, 14.75);
+  EXPECT_EQ(lavoro.TauCls, 0.1);                  // (35 / 75 + 0.4) 0.15 = 0.13
   nodo.MatCls.Rck = 599;                               // about Rck 60, where (45 / 75 + 0.4) 0.15 = 0.15: 0.1498 and 0.1502
-  ResistenzeTA();
-  EXPECT_EQ(nodo.MatCls.TauCls, 0.1);
+  ResistenzeTA(lavoro);
+  EXPECT_EQ(lavoro.TauCls, 0.1);
   nodo.MatCls.Rck = 601;
-  ResistenzeTA();
-  EXPECT_EQ(nodo.MatCls.TauCls, 0.2);
+  ResistenzeTA(lavoro);
+  EXPECT_EQ(lavoro.TauCls, 0.2);
 }
 
 TEST_F(TirafondiTest, AderenzaUncinoTA) {              // by 100 (deliberate)
   nodo.TipoTirafondo = 1;
-  ResistenzeTA();
+  ResistenzeTA(lavoro);
   // L + R + 6.4 R + 3.5 L1 = 500 + 70 + 448 + 1575 = 2593; 0.1 x 51.92714 x 2593 / 100 = 134.647.
   EXPECT_NEAR(ris.TadRd, 0.1 * B_UNITARIA * 2593 / 100, 1e-9);
   EXPECT_NEAR(ris.TadRd, 134.647, 1e-3);
@@ -100,35 +101,35 @@ TEST_F(TirafondiTest, AderenzaUncinoSLU) {             // by the factor of the n
   nodo.TipoTirafondo = 1;
   nodo.MatTir.Ftk = 20000;                             // cap 245 / 100 x 20000 / 1.25 = 39200, out of the way
   Prepara();
-  ResistenzeNTC();
-  EXPECT_NEAR(nodo.MatCls.TauCls, 0.28 * std::sqrt(16.6), 1e-12);          // 0.83 x 30 / 1.5 = 16.6; 1.140807
+  ResistenzeNTC(lavoro);
+  EXPECT_NEAR(lavoro.TauCls, 0.28 * std::sqrt(16.6), 1e-12);          // 0.83 x 30 / 1.5 = 16.6; 1.140807
   EXPECT_NEAR(ris.TadRd, 1.1408067320 * B_UNITARIA * 2593 / 10, 1e-5);     // 15360.6
   EXPECT_NEAR(ris.TadRd, 15360.6, 0.1);
   nodo.MatTir.Ftk = 3600;
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.TadRd, 7056, 1e-9);                  // cap: 2.45 x 3600 / 1.25
 }
 
 TEST_F(TirafondiTest, AderenzaPiastrinaTA) {
   // L1 450 > c 200: e = 35 / 200 = 0.175. [0.1 x 51.92714 x 440 + 0.825 x 3.1416 x 1225 x 9.75] / 10
   //   = [2284.7942 + 30956.0501] / 10 = 3324.0844
-  ResistenzeTA();
+  ResistenzeTA(lavoro);
   EXPECT_NEAR(ris.TadRd, 3324.08443, 1e-4);            // with 3.141592 it would be 3324.0766
   nodo.TfL1 = 150;                                     // L1 <= c: e = 35 / 150 = 0.2333; [726.98 + 0.766667 x 3848.46 x 9.75] / 10
-  ResistenzeTA();
+  ResistenzeTA(lavoro);
   EXPECT_NEAR(ris.TadRd, (0.1 * B_UNITARIA * 140 + 23.0 / 30 * 3848.46 * 9.75) / 10, 1e-8);
 }
 
 TEST_F(TirafondiTest, AderenzaPiastrinaSLU) {
   nodo.MatTir.Ftk = 20000;
   Prepara();
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   // 30 x 0.83 x 0.85 / 1.5 = 14.11; [59.23883 x 440 + 14.11 x 0.825 x 3.141592 x 1225] / 10
   //   = [26065.08 + 44798.85] / 10 = 7086.39
   EXPECT_NEAR(ris.TadRd, (1.1408067320 * B_UNITARIA * 440 + 14.11 * 0.825 * 3848.4502) / 10, 1e-5);
   EXPECT_NEAR(ris.TadRd, 7086.39, 0.01);
   nodo.TfL1 = 150;
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.TadRd, (1.1408067320 * B_UNITARIA * 140 + 14.11 * 23 / 30 * 3848.4502) / 10, 1e-5);
 }
 
@@ -136,13 +137,13 @@ TEST_F(TirafondiTest, AltraForma) {                    // keeps what the run had
   for (const std::int16_t forma : { std::int16_t(2), std::int16_t(-1) }) {
     nodo.TipoTirafondo = forma;
     ris.TadRd = 9000;
-    ResistenzeTA();
+    ResistenzeTA(lavoro);
     EXPECT_EQ(ris.TadRd, 9000) << forma;
     Prepara();
-    ResistenzeNTC();
+    ResistenzeNTC(lavoro);
     EXPECT_NEAR(ris.TadRd, 7056, 1e-9) << forma;
     ris.TadRd = 5000;
-    ResistenzeNTC();
+    ResistenzeNTC(lavoro);
     EXPECT_EQ(ris.TadRd, 5000) << forma;
   }
 }
@@ -151,33 +152,33 @@ TEST_F(TirafondiTest, ClasseETrazione) {               // daN: M24 8.8 203.3 and
   Prepara();
   nodo.TfFi = 24;
   nodo.MatTir.Ftk = 8000;
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.FtRd, 20332.8, 1e-6);                // 0.9 x 8000 x 353 / 100 / 1.25
   EXPECT_NEAR(ris.FvRd, 13555.2, 1e-6);                // 0.6
   nodo.TfFi = 20;
   nodo.MatTir.Ftk = 10000;
   nodo.MatVit.Nome = "classe 10.9";
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.FtRd, 17640, 1e-6);
   EXPECT_NEAR(ris.FvRd, 9800, 1e-6);                   // 0.5
   const std::pair<const char*, double> CLASSI[] = { { "4.6", 0.6 }, { "5.6", 0.6 }, { "8.8", 0.6 }, { "6.8", 0.5 }, { "10.9", 0.5 }, { "12.9", 0 }, { "", 0 },
                                                     { "6.8 o 8.8", 0.6 }, { "4.7", 0 }, { "5.7", 0 }, { "8.7", 0 }, { "6.7", 0 }, { "10.8", 0 } };
   for (const auto& [nome, coeff] : CLASSI) {
     nodo.MatVit.Nome = nome;
-    ResistenzeNTC();
+    ResistenzeNTC(lavoro);
     EXPECT_NEAR(ris.FvRd, coeff * 19600, 1e-6) << nome;    // 10000 x 245 / 100 / 1.25
   }
 }
 
 TEST_F(TirafondiTest, Punzonamento) {                  // 0.6 x 3.141592 x 3600 x 30 x 20 / 100 / 1.25
   Prepara();
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.BpRd, 32572.025856, 1e-6);
   nodo.SpessPiastra = 40;
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.BpRd, 32572.025856 * 2, 1e-6);       // 40 mm is still thin
   nodo.SpessPiastra = 40.01;
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.BpRd, 32572.025856 * 40.01 / 20 * 3400 / 3600, 1e-6);
 }
 
@@ -187,7 +188,7 @@ TEST_F(TirafondiTest, RifollamentoDiEstremita) {       // four anchors: ends bot
   nodo.TfZ[2] = nodo.TfZ[4] = 375;                     // 25 from the other edge
   nodo.TfY[3] = nodo.TfY[4] = 460;                     // 40
   Prepara();
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   // k = 2.8 x 30 / 22 - 1.7 = 2.118182 or 2.8 x 25 / 22 - 1.7 = 1.481818; a = 45 / 66 = 0.681818 or 40 / 66 = 0.606061.
   // FbRd = k a 3600 x 20 x 20 / 100 / 1.25 = k a 11520.
   EXPECT_NEAR(ris.FbRd[1], 2.1181818182 * 0.6818181818 * 11520, 1e-4);
@@ -195,14 +196,14 @@ TEST_F(TirafondiTest, RifollamentoDiEstremita) {       // four anchors: ends bot
   EXPECT_NEAR(ris.FbRd[3], 2.1181818182 * 0.6060606061 * 11520, 1e-4);
   EXPECT_NEAR(ris.FbRd[4], 1.4818181818 * 0.6060606061 * 11520, 1e-4);
   SchemaProva(0, 60, 80);                              // bounds: k 2.5, a 1 (80 / 66)
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.FbRd[1], 2.5 * 11520, 1e-6);
   nodo.MatVit.Ft = 1800;                               // a = 1800 / 3600, with the thin strength also in a thick plate
   nodo.SpessPiastra = 50;
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.FbRd[1], 2.5 * 0.5 * 3400 * 20 * 50 / 100 / 1.25, 1e-6);
   SchemaProva(0, 10, 80);                              // k = 2.8 x 10 / 22 - 1.7 < 0: negative, kept
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_LT(ris.FbRd[1], 0);
 }
 
@@ -214,7 +215,7 @@ TEST_F(TirafondiTest, RifollamentoFraDueTirafondi) {
   nodo.LatoZ = nodo.LatoY = 200;
   SchemaProva(1, 50, 50);
   Prepara();
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.FbRd[8], 1.4818181818 * 0.7575757576 * 11520, 1e-4);
   EXPECT_NEAR(ris.FbRd[7], 1.4818181818 * 0.7575757576 * 11520, 1e-4);     // (100, 150): 200 - 150
   EXPECT_NEAR(ris.FbRd[5], 2.5 * 0.5075757576 * 11520, 1e-4);
@@ -222,19 +223,19 @@ TEST_F(TirafondiTest, RifollamentoFraDueTirafondi) {
   EXPECT_NEAR(ris.FbRd[1], 2.5 * 0.7575757576 * 11520, 1e-4);
   // Unequal pitches: the smaller counts. Anchor 8 at 90: pitch 40, k = 1.4 x 40 / 22 - 1.7 = 0.845455.
   nodo.TfZ[8] = 90;
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.FbRd[8], 0.8454545455 * 0.7575757576 * 11520, 1e-4);
   // Less than 0.01 mm from the end counts as the end; more takes the pitch, here next to nothing: k = -1.7.
   nodo.TfZ[8] = 50.00995;
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.FbRd[8], 2.5 * 0.7575757576 * 11520, 1e-4);
   nodo.TfZ[8] = 50.01005;
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.FbRd[8], (1.4 * 0.01005 / 22 - 1.7) * 0.7575757576 * 11520, 1e-4);
   // 0.01 itself is no longer the end, which would give 2.8.
   SchemaProva(1, 0, 50);
   nodo.TfZ[8] = 0.01;
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.FbRd[8], (1.4 * 0.01 / 22 - 1.7) * 0.7575757576 * 11520, 1e-4);
 }
 
@@ -247,10 +248,10 @@ TEST_F(TirafondiTest, TrentaGradiInclusi) {
   const double z[] = { 0, 100, 100, 100, 0 }, y[] = { 0, d, 1000, 1100, 0 };
   for (int i = 1; i <= 4; ++i) { nodo.TfZ[i] = z[i]; nodo.TfY[i] = y[i]; }
   Prepara();
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.FbRd[1], 2.1181818182 * d / 66 * 11520, 1e-4);
   nodo.TfY[1] = std::nextafter(d, 1000.0);
-  ResistenzeNTC();
+  ResistenzeNTC(lavoro);
   EXPECT_NEAR(ris.FbRd[1], 2.5 * d / 66 * 11520, 1e-4);
 }
 
@@ -258,7 +259,7 @@ TEST_F(TirafondiTest, Forze) {                         // tension positive
   Prepara();
   ris.SigmaTir[2][1] = 3;
   ris.SigmaTir[2][4] = -2;
-  ForzeTirafondiNTC(2);
+  ForzeTirafondiNTC(lavoro, 2);
   EXPECT_EQ(ris.FtEd[2][1], 735);
   EXPECT_EQ(ris.FtEd[2][4], -490);
 }
@@ -268,7 +269,7 @@ TEST_F(TirafondiTest, Rapporti) {
   const auto rapporti = [](double Ft, double Fv) {
     ris.FtEd[1][1] = Ft;
     ris.FvEd[1][1] = Fv;
-    RapportiTirafondiNTC();
+    RapportiTirafondiNTC(lavoro);
     return std::array<double, 3>{ ris.Co1[1][1], ris.Co2[1][1], ris.Co3[1][1] };
   };
   const auto resistenze = [](double FvRd, double FbRd, double FtRd, double BpRd, double TadRd) {
@@ -334,7 +335,7 @@ TEST_F(TirafondiTest, DivisoriNulli) {                 // each is a fault of the
     Prepara();
     modifica();
     AzzeraFault();
-    nodo.TipoVer == 0 ? ResistenzeTA() : ResistenzeNTC();
+    nodo.TipoVer == 0 ? ResistenzeTA(lavoro) : ResistenzeNTC(lavoro);
     return FaultAritmetico();
   };
   EXPECT_FALSE(guasto([] {}));

@@ -5,7 +5,9 @@
 #include <cmath>
 
 #include "corredo/foglio_prova.h"
+#include "corredo/lavoro_prova.h"
 #include "engine/Saldature.h"
+#include "model/stato.h"
 
 namespace {
 
@@ -193,7 +195,7 @@ class Tabelle : public Pezzi {
  protected:
   void SetUp() override {
     Pezzi::SetUp();
-    CostruisciSaldature();
+    CostruisciSaldature(lavoro);
   }
   double Y(const char* t) { return disegno.CoordY[disegno.TesPos[TrovaTesto(t)]]; }
 };
@@ -254,13 +256,13 @@ TEST_F(Tabelle, MisureProprie) {
 
 TEST_F(Tabelle, BlocchiSenzaNervature) {
   nodo.TipoNodo = 1;
-  CostruisciSaldature();
+  CostruisciSaldature(lavoro);
   Distinta();
   EXPECT_LT(TrovaTesto("Nome"), 0);
   EXPECT_DOUBLE_EQ(Y("N. t.fondi"), -7 * 22.5 + 3.75);
   EXPECT_DOUBLE_EQ(Y("Sald."), -10 * 22.5 + 3.75);
   EXPECT_DOUBLE_EQ(Y("S8"), -18 * 22.5 + 3.75);
-  nodo.NumSaldature = 9;                       // without ribs no row is left out
+  lavoro.NumSaldature = 9;                       // without ribs no row is left out
   ris.Saldature[9].Nome = "S9";
   Vuota();
   Distinta();
@@ -269,7 +271,7 @@ TEST_F(Tabelle, BlocchiSenzaNervature) {
 
 TEST_F(Tabelle, RigheDelleSaldature) {
   Distinta();                                  // SaldInt 0: 40 welds, 9 and 19 left out
-  EXPECT_EQ(nodo.NumSaldature, 40);
+  EXPECT_EQ(lavoro.NumSaldature, 40);
   const auto riga = [&](const char* t) { return (-13 * 22.5 - (Y(t) - 3.75)) / 22.5; };      // 1 is the head
   EXPECT_DOUBLE_EQ(riga("S8"), 9);
   EXPECT_LT(TrovaTesto("S9"), 0);
@@ -281,7 +283,7 @@ TEST_F(Tabelle, RigheDelleSaldature) {
   Linea(0, -13 * 22.5, 0, -52 * 22.5, 4);      // 39 rows with the head
   EXPECT_EQ(ContaTesti("7"), 38);              // the weld's side in each row
   nodo.SaldInt = 1;
-  CostruisciSaldature();
+  CostruisciSaldature(lavoro);
   Vuota();
   Distinta();
   EXPECT_DOUBLE_EQ(riga("S9"), 10);
@@ -289,7 +291,7 @@ TEST_F(Tabelle, RigheDelleSaldature) {
 }
 
 TEST_F(Tabelle, SenzaSaldatureNessunBlocco) {
-  nodo.NumSaldature = 0;
+  lavoro.NumSaldature = 0;
   Distinta();
   EXPECT_LT(TrovaTesto("Sald."), 0);
 }

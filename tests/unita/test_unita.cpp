@@ -4,6 +4,7 @@
 #include "core/aritmetica.h"
 #include "core/unita.h"
 #include "corredo/registratore.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -5,7 +5,8 @@
 #include <cmath>
 
 #include "core/numeri.h"
-#include "reports/verifiche_ta.h"
+#include "engine/Saldature.h"
+#include "model/stato.h"
 
 namespace {
 
@@ -25,11 +26,14 @@ class SaldatureTA : public ProvaRelazione {
   static void Tensioni(int k, Punto p) {
     ris.Saldature[2].SPrp[5][k] = p.S, ris.Saldature[2].TauPa[5][k] = p.Pa, ris.Saldature[2].TauPe[5][k] = p.Pe;
   }
-  static Esito Verifica(double Sadm, bool prima = true) {
-    Esito e;
-    e.esito = prima;
-    VerificaSaldaturaTA(5, 2, Sadm, e.esito, e.sp, e.tpa, e.tpe, e.rapporto);
-    return e;
+  // Ratio and verdict as the weld's row has them; the stresses of the end that gives the ratio, daN/cm2.
+  static Esito Verifica(double Sadm) {
+    RapportiSaldatureTA(lavoro, 5, Sadm);
+    const Criterio& c = Criteri(MetodoTA)[TA_SALD];
+    const Saldatura& d = ris.Saldature[2];
+    const int k = d.Estremo[5];
+    const double R = c.domanda(lavoro, 5, 2);
+    return {c.passa(R, c.limite(lavoro, 5, 2)), d.SPrp[5][k] * 100, d.TauPa[5][k] * 100, d.TauPe[5][k] * 100, R};
   }
   static double Rapporto(Punto p, double Sadm = 1600) {
     Tensioni(1, p), Tensioni(3, p);
@@ -135,18 +139,24 @@ TEST_F(SaldatureTA, EsitoSoloAbbassato) {
   Tensioni(1, {8.5, 0, 0});                                    // 850 / 0.85 / 1000 = 1 exactly: passes
   EXPECT_EQ(Verifica(1000).rapporto, 1);
   EXPECT_TRUE(Verifica(1000).esito);
-  EXPECT_FALSE(Verifica(1000, false).esito);                   // a good weld does not cancel an earlier failure
   Tensioni(1, {8.5001, 0, 0});
   EXPECT_FALSE(Verifica(1000).esito);
   EXPECT_EQ(Arrotonda2(Verifica(1000).rapporto), 1);           // judged unrounded, shown rounded
   Tensioni(1, {0, 0, 0}), Tensioni(3, {0, 0, 8.6});
   EXPECT_FALSE(Verifica(1000).esito);
+  for (const int cattiva : {1, 2, 4}) {                        // a good weld does not cancel an earlier failure
+    for (int w = 1; w <= 4; ++w) ris.Saldature[w].SPrp[1][1] = w == cattiva ? 8.6 : 1;
+    Sestetti(1), nodo.MatAcc.SAmm = 1000;
+    GiudicaEScrivi(MetodoTA);
+    EXPECT_FALSE(lavoro.passa[1]) << cattiva;
+    for (const RigaControllo& r : RigheCriterio(lavoro, 1, TA_SALD)) EXPECT_EQ(r.passa, r.elemento != cattiva);
+  }
 }
 
 // ---- limits of a sextet
 
 TEST_F(SaldatureTA, LimitiClasseI) {
-  const LimitiTA l = CalcolaLimitiTA(1, 2);
+  const LimitiTA l = CalcolaLimitiTA(nodo, 1, 2);
   EXPECT_EQ(l.FattComb, 1);
   EXPECT_EQ(l.SAdmPiastra, 1900);
   EXPECT_EQ(l.SAdmNerv, 1900);
@@ -158,7 +168,7 @@ TEST_F(SaldatureTA, LimitiClasseI) {
 
 TEST_F(SaldatureTA, LimitiClasseII) {
   nodo.SollCC[1] = 1;
-  const LimitiTA l = CalcolaLimitiTA(1, 2);
+  const LimitiTA l = CalcolaLimitiTA(nodo, 1, 2);
   EXPECT_EQ(l.FattComb, 1.125);
   EXPECT_EQ(l.SAdmPiastra, 2137.5);                            // 1900 x 1.125
   EXPECT_EQ(l.SAdmNerv, 2137.5);
@@ -167,14 +177,14 @@ TEST_F(SaldatureTA, LimitiClasseII) {
   EXPECT_EQ(l.SRfAdm, 4275);
   EXPECT_EQ(l.SAdmSald, 2137.5);
   nodo.SollCC[1] = 7;                                          // any class but 0
-  EXPECT_EQ(CalcolaLimitiTA(1, 2).FattComb, 1.125);
+  EXPECT_EQ(CalcolaLimitiTA(nodo, 1, 2).FattComb, 1.125);
   nodo.SollCC[1] = -1;
-  EXPECT_EQ(CalcolaLimitiTA(1, 2).FattComb, 1.125);
+  EXPECT_EQ(CalcolaLimitiTA(nodo, 1, 2).FattComb, 1.125);
 }
 
 TEST_F(SaldatureTA, LimitiArrotondatiAlDecimo) {
   nodo.SollCC[1] = 1, nodo.MatAcc.SAmm = 1601.3;
-  const LimitiTA l = CalcolaLimitiTA(1, 2.3);
+  const LimitiTA l = CalcolaLimitiTA(nodo, 1, 2.3);
   EXPECT_EQ(l.SAdmPiastra, 1801.5);                            // 1801.4625
   EXPECT_EQ(l.SRfAdm, 4143.5);                                 // 1801.5 x 2.3 = 4143.45, from the rounded limit
 }
@@ -184,57 +194,57 @@ TEST_F(SaldatureTA, LimitiAlDecimoPiuVicino) {
   const struct { double SAmm, limite; } casi[] = {{1600.25, 1600.3}, {1600.21, 1600.2}, {1600.28, 1600.3}};
   for (const auto& c : casi) {
     nodo.MatAcc.SAmm = c.SAmm;
-    const LimitiTA l = CalcolaLimitiTA(1, 2);
+    const LimitiTA l = CalcolaLimitiTA(nodo, 1, 2);
     EXPECT_EQ(l.SAdmPiastra, c.limite);
     EXPECT_EQ(l.SAdmNerv, c.limite);
     EXPECT_EQ(l.SAdmSald, c.limite);
   }
-  EXPECT_EQ(CalcolaLimitiTA(1, 1.1).SRfAdm, 1760.3);           // 1600.3 x 1.1 = 1760.33
+  EXPECT_EQ(CalcolaLimitiTA(nodo, 1, 1.1).SRfAdm, 1760.3);           // 1600.3 x 1.1 = 1760.33
   nodo.MatTir.Fyk = 6520;
-  EXPECT_EQ(CalcolaLimitiTA(1, 2).SAdmTir, 3268.2);            // 3268.1704
+  EXPECT_EQ(CalcolaLimitiTA(nodo, 1, 2).SAdmTir, 3268.2);            // 3268.1704
 }
 
 TEST_F(SaldatureTA, LimitiOltre40mm) {
   nodo.SpessPiastra = 40, nodo.SpNerv = 40;
-  EXPECT_EQ(CalcolaLimitiTA(1, 2).SAdmPiastra, 1900);
-  EXPECT_EQ(CalcolaLimitiTA(1, 2).SAdmNerv, 1900);
+  EXPECT_EQ(CalcolaLimitiTA(nodo, 1, 2).SAdmPiastra, 1900);
+  EXPECT_EQ(CalcolaLimitiTA(nodo, 1, 2).SAdmNerv, 1900);
   nodo.SpessPiastra = 40.01;
-  EXPECT_EQ(CalcolaLimitiTA(1, 2).SAdmPiastra, 1700);
-  EXPECT_EQ(CalcolaLimitiTA(1, 2).SAdmNerv, 1900);
-  EXPECT_EQ(CalcolaLimitiTA(1, 2).SRfAdm, 3400);
-  EXPECT_EQ(CalcolaLimitiTA(1, 2).SAdmSald, 1900);             // the welds keep the limit of thin plates
+  EXPECT_EQ(CalcolaLimitiTA(nodo, 1, 2).SAdmPiastra, 1700);
+  EXPECT_EQ(CalcolaLimitiTA(nodo, 1, 2).SAdmNerv, 1900);
+  EXPECT_EQ(CalcolaLimitiTA(nodo, 1, 2).SRfAdm, 3400);
+  EXPECT_EQ(CalcolaLimitiTA(nodo, 1, 2).SAdmSald, 1900);             // the welds keep the limit of thin plates
   nodo.SpNerv = 40.01;
-  EXPECT_EQ(CalcolaLimitiTA(1, 2).SAdmNerv, 1700);
+  EXPECT_EQ(CalcolaLimitiTA(nodo, 1, 2).SAdmNerv, 1700);
 }
 
 TEST_F(SaldatureTA, CoefficienteDiRifollamento) {
   // TfZ1, TfY1, LatoZ - TfZ2, LatoY - TfY3 over 20 mm: 2.5, 2.5, 2.5, 2
-  EXPECT_EQ(CalcolaCoeffRifollamento(), 2);
+  EXPECT_EQ(CalcolaCoeffRifollamento(nodo), 2);
   nodo.TfY[3] = 400;                                           // 5: capped at 2.5
-  EXPECT_EQ(CalcolaCoeffRifollamento(), 2.5);
+  EXPECT_EQ(CalcolaCoeffRifollamento(nodo), 2.5);
   nodo.TfZ[1] = nodo.TfY[1] = 100, nodo.TfZ[2] = 300;          // 5 everywhere
-  EXPECT_EQ(CalcolaCoeffRifollamento(), 2.5);
+  EXPECT_EQ(CalcolaCoeffRifollamento(nodo), 2.5);
   nodo.TfY[1] = 50, nodo.TfZ[2] = 350;
   nodo.TfZ[1] = 37;                                            // 1.85 -> 1.9 (floor(18.5 + 0.5))
-  EXPECT_EQ(CalcolaCoeffRifollamento(), 1.9);
+  EXPECT_EQ(CalcolaCoeffRifollamento(nodo), 1.9);
   nodo.TfY[1] = 33;                                            // 1.65 -> 1.7
-  EXPECT_EQ(CalcolaCoeffRifollamento(), 1.7);
+  EXPECT_EQ(CalcolaCoeffRifollamento(nodo), 1.7);
   nodo.TfZ[2] = 375;                                           // 1.25 -> 1.3
-  EXPECT_EQ(CalcolaCoeffRifollamento(), 1.3);
+  EXPECT_EQ(CalcolaCoeffRifollamento(nodo), 1.3);
   nodo.TfY[3] = 479;                                           // 1.05 -> 1.1
-  EXPECT_EQ(CalcolaCoeffRifollamento(), 1.1);
+  EXPECT_EQ(CalcolaCoeffRifollamento(nodo), 1.1);
   nodo.TfY[3] = 475.8;                                         // 1.21 -> 1.2
-  EXPECT_EQ(CalcolaCoeffRifollamento(), 1.2);
+  EXPECT_EQ(CalcolaCoeffRifollamento(nodo), 1.2);
   nodo.TfY[3] = 400, nodo.TfY[1] = 24.2, nodo.TfZ[2] = 350;
-  EXPECT_EQ(CalcolaCoeffRifollamento(), 1.2);
+  EXPECT_EQ(CalcolaCoeffRifollamento(nodo), 1.2);
   nodo.TfY[1] = 50, nodo.TfZ[2] = 375.8;
-  EXPECT_EQ(CalcolaCoeffRifollamento(), 1.2);
+  EXPECT_EQ(CalcolaCoeffRifollamento(nodo), 1.2);
   nodo.TfY[3] = 479;
   nodo.TfZ[4] = nodo.TfY[4] = nodo.TfY[2] = nodo.TfZ[3] = 1;   // the other coordinates take no part
-  EXPECT_EQ(CalcolaCoeffRifollamento(), 1.1);
+  EXPECT_EQ(CalcolaCoeffRifollamento(nodo), 1.1);
   EXPECT_FALSE(FaultAritmetico());
   nodo.TfFi = 0;
-  CalcolaCoeffRifollamento();
+  CalcolaCoeffRifollamento(nodo);
   EXPECT_TRUE(FaultAritmetico());
 }
 

@@ -3,6 +3,7 @@
 
 #include "corredo/foglio_prova.h"
 #include "drawing/Quote.h"
+#include "model/stato.h"
 
 namespace {
 

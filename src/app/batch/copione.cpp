@@ -6,12 +6,11 @@
 #include "core/testo.h"
 #include "drawing/nomi_disegno.h"
 #include "drawing/tela.h"
-#include "engine/nomi_motore.h"
 #include "link/nomi_collegamento.h"
 #include "model/nomi.h"
 #include "panels/InsDati.h"
+#include "panels/nomi_lavoro.h"
 #include "panels/pannelli.h"
-#include "reports/Relazioni.h"
 
 #include <algorithm>
 #include <charconv>
@@ -245,7 +244,7 @@ static bool Voci(std::string_view resto) {
 static bool Modello(std::string_view resto) {
   const std::string nome(Rifila(resto));
   std::string valore;
-  const std::span<const RigaNome> altri[] = { NomiMotore(), NomiCollegamento(), NomiDisegno(), NomiPannelli() };
+  const std::span<const RigaNome> altri[] = { NomiLavoro(), NomiCollegamento(), NomiDisegno(), NomiPannelli() };
   if (nome.empty() || !ValoreModello(nome, valore, altri)) return false;
   Stampa(nome + " = " + SuUnaRiga(valore));
   return true;
@@ -294,7 +293,7 @@ void EseguiCopione(const Pannello* modale) {
       copione.fermato = true;
       std::fprintf(stderr, "riga %zu: %s\n", n + 1, copione.righe[n].c_str());
     }
-    if (verificaPannello.esito == EsitoVerifica::Eseguita && esitoRelazione.fallito) ospite.nonVerificato = true;
+    if (verificaPannello.esito == EsitoVerifica::Eseguita && !verificaPannello.verificato) ospite.nonVerificato = true;
     if (modale != nullptr && (modale->aperto == nullptr || !*modale->aperto)) return;
   }
   if (modale != nullptr && copione.fermato) Esci(2);

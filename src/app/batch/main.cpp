@@ -6,6 +6,7 @@
 #include "app/batch/piattaforma_batch.h"
 #include "app/batch/verifica.h"
 #include "core/file.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 

@@ -6,7 +6,6 @@
 #include "core/testo.h"
 #include "panels/InsDati.h"
 #include "panels/file_nodo.h"
-#include "reports/Relazioni.h"
 
 #include <poll.h>
 #include <sys/wait.h>
@@ -38,7 +37,7 @@ int VerificaNodo(const std::string& percorso) {
   if (ospite.opzioni.metodo >= 0) UtenteSceglie(InsDati, insDati.TipoVer[ospite.opzioni.metodo], 1);
   Scatena(InsDati, insDati.Verifica, Evento::Cambio);
   if (verificaPannello.esito != EsitoVerifica::Eseguita) return 2;
-  return esitoRelazione.fallito ? 1 : 0;
+  return verificaPannello.verificato ? 0 : 1;
 }
 
 static bool Avvia(LavoroNodo& l, const std::string& percorso) {

@@ -6,6 +6,7 @@
 #include "core/piattaforma.h"
 #include "drawing/formats/formati.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 #include <QAction>

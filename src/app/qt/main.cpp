@@ -4,6 +4,7 @@
 #include "app/qt/lingua.h"
 #include "app/qt/piattaforma_qt.h"
 #include "app/qt/pitture.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 

@@ -2,6 +2,7 @@
 #include "app/qt/sagome.h"
 
 #include "model/node_model.h"
+#include "model/stato.h"
 
 static const QColor PIASTRA(238, 236, 228), NERVATURA(206, 220, 206), COLONNA(176, 198, 222);
 

@@ -8,6 +8,7 @@
 #include "drawing/Quote.h"
 #include "drawing/disegno.h"
 #include "drawing/formats/grb_stili.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 constexpr int STILE_QUOTE_DETTAGLIO = 25, STILE_TESTI = 26, STILE_QUOTE = 27;        // drawing options

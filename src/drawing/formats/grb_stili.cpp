@@ -5,6 +5,7 @@
 #include "core/file.h"
 #include "core/numeri.h"
 #include "core/piattaforma.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 double ConvStile(double v, double f, std::int16_t u) {

@@ -8,6 +8,7 @@
 #include "core/numeri.h"
 #include "core/piattaforma.h"
 #include "core/testo.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 constexpr double MaxRipetizioni = 2000;       // repeats of its pattern from which on a line stays whole

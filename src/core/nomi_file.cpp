@@ -1,7 +1,8 @@
-// reports/nomi_file.cpp - file names, titles and names of the reports.
-#include "reports/nomi_file.h"
+// core/nomi_file.cpp - file names, titles and names of the reports.
+#include "core/nomi_file.h"
 
 #include "core/testo.h"
+#include "model/stato.h"
 #include "model/suite.h"
 
 namespace {

@@ -1,4 +1,4 @@
-// reports/nomi_file.h - names of the files that a joint gives rise to, and the titles and names that reports show.
+// core/nomi_file.h - names of the files that a joint gives rise to, and the titles and names that reports show.
 // Given     suite.DirLavoro and the units, nodo.NomeNodo, nodo.NodiStr 1..NumNodiStr. Nothing is changed, nothing fails.
 #pragma once
 #include <string>
