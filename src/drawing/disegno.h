@@ -70,6 +70,8 @@ void AzzeraDisegno();              // empties the five tables; leaves the extent
 void AzzeraEstensioni();           // at the start of each view
 void InterrompiDisegno();          // raises the fault that ends the running drawing
 
+bool LineeEsaurite();              // a further line would leave nothing: the drawing was ended, or the store takes no more lines
+
 void DisLinea(Tela* tela, double x1, double y1, double x2, double y2, Colore colore = {});
 void DisLineaRel(Tela* tela, double x, double y, double dx, double dy, Colore colore = {});
 // Third argument: the diameter. No end angle: the start angle, which is a full circle.

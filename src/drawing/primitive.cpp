@@ -32,6 +32,8 @@ void InterrompiDisegno() {
 
 static bool NelDisegno() { return disegno.DestDis == GENDIS; }
 
+bool LineeEsaurite() { return disegno.Interrotto || (NelDisegno() && disegno.NumLinee == MaxLineeDis); }
+
 static bool Vicini(double a, double b) { return std::abs(a - b) < TOLL_GEO; }
 
 static void CapacitaEsaurita(const char* testo) { Messaggio(testo, "ERRORE !!", Icona::Informazione); }

@@ -1,6 +1,7 @@
 // drawing/saldature_dis.cpp - weld marks.
 #include "drawing/saldature_dis.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/numeri.h"
@@ -11,19 +12,25 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
+bool TrattiSaldatura(double lunghezza, double passo, std::int32_t& n) {
+  if (!InIntero(std::floor(lunghezza / passo + 0.5), n)) return false;
+  n = std::min(n, MaxLineeDis + 1);
+  return true;
+}
+
 void DisSaldatura(Tela* tela, double x1, double y1, double x2, double y2, int lato, int tipo, int indice) {
   const double g = nodo.Gola;
   if (g == 0) return;
   const double L = std::sqrt((x1 - x2) * (x1 - x2) + (y1 - y2) * (y1 - y2));
   std::int32_t n = 0;
-  if (!InIntero(std::floor(L / g + 0.5), n)) return InterrompiDisegno();
+  if (!TrattiSaldatura(L, g, n)) return InterrompiDisegno();
   const double teta = Direzione(x1, y1, x2, y2), passoX = g * std::cos(teta), passoY = g * std::sin(teta);
   const double vx = -lato * passoY, vy = lato * passoX;
   const std::int16_t colore = ColoreOpz(20);
   if (std::abs(vx) < TOLL_GEO && std::abs(vy) < TOLL_GEO) n = 0;      // strokes of no length
   if (tipo == 1) DisLineaRel(tela, x1, y1, vx, vy, colore);
   double px = x1, py = y1;
-  for (int i = 1; i < n && !disegno.Interrotto; ++i) {
+  for (int i = 1; i < n && !LineeEsaurite(); ++i) {
     px += passoX;
     py += passoY;
     DisLineaRel(tela, px, py, vx, vy, colore);

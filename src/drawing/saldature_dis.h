@@ -6,6 +6,10 @@
 #pragma once
 #include "drawing/disegno.h"
 
+// Steps of a mark; strokes stand from the second on. False: their count is out of range. No mark tries more strokes than the store holds
+// lines: behind so many either it is full, or they vanish in the rounding of far-off coordinates and leave nothing however many they are.
+bool TrattiSaldatura(double lunghezza, double passo, std::int32_t& n);
+
 void DisSaldatura(Tela* tela, double x1, double y1, double x2, double y2, int lato, int tipo, int indice);
 void DisLineaSald(double x1, double y1, double x2, double y2, int lato, int tipo, int indice);   // mark, then the line in ColCorr
 void DisAngoloSald(Tela* tela, double x, double y, int quadrante, Colore colore = {});          // 1..4, radius Gola; others nothing

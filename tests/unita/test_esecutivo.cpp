@@ -66,6 +66,19 @@ TEST_F(FoglioDisegno, PostoDelDettaglio) {
   Linea(-20, 690, 20, 690, 5);
 }
 
+// Two numbers of a file: grout that moves view A-A beyond the digits of its own sizes, and a plate whose welds there would be a thousand
+// million strokes of one place. They fill the store, which ends them, and the sheet goes out with what it holds.
+TEST_F(FoglioDisegno, DueNumeriCheRiempionoIlMagazzino) {
+  nodo.TfHMalta = 1e25;
+  nodo.LatoY = 1e10;
+  registratore.eventi.clear();
+  Disegna();
+  EXPECT_EQ(disegno.NumLinee, 50000);
+  EXPECT_LT(disegno.NumCoord, 32767);
+  ASSERT_EQ(registratore.eventi.size(), 1u);
+  EXPECT_EQ(registratore.eventi[0], "[messaggio] informazione | ERRORE !! | Si è raggiunto il numero massimo di linee.");
+}
+
 TEST_F(FoglioDisegno, TitoloConINodi) {
   nodo.NumNodiStr = 2;
   nodo.NodiStr[1] = 12;

@@ -455,6 +455,43 @@ TEST_F(Marchi, GolaMinuscola) {
   EXPECT_EQ(disegno.NumCoord, 32767);
 }
 
+// The steps tried are never more than the store holds lines, whatever two numbers of a file say.
+TEST_F(Marchi, TrattiMaiPiuDelleLinee) {
+  const struct {
+    double lunghezza, passo;
+    std::int32_t attesi;
+  } casi[] = {{20, 7, 3}, {20, -7, -3}, {50000, 1, 50000}, {50001, 1, 50001}, {50002, 1, 50001}, {2e9, 1, 50001}, {2147483647e12, 1e12, 50001}};
+  for (const auto& k : casi) {
+    std::int32_t n = 0;
+    EXPECT_TRUE(TrattiSaldatura(k.lunghezza, k.passo, n)) << k.lunghezza;
+    EXPECT_EQ(n, k.attesi) << k.lunghezza;
+  }
+  std::int32_t n = 0;
+  EXPECT_FALSE(TrattiSaldatura(3e9, 1, n));
+  EXPECT_FALSE(TrattiSaldatura(1e300, 1e-300, n));
+  disegno.DestDis = {};
+  Tela tela;
+  nodo.Gola = 1;
+  DisSaldatura(&tela, 0, 0, 1e6, 0, 1, 2, 0);                // a canvas, which holds any number
+  EXPECT_EQ(tela.tratti.size(), 50001u);                     // 50000 strokes and the parallel line
+  disegno.DestDis = GENDIS;
+}
+
+// Far out every stroke has the same two coordinates, so that the lines fill the store and nothing else ends the mark: one box, and no fault.
+TEST_F(Marchi, LontanoLeLineeRiempionoIlMagazzino) {
+  nodo.Gola = 1;
+  disegno.OffX = 1e21;
+  registratore.eventi.clear();
+  EXPECT_FALSE(LineeEsaurite());
+  for (int i = 0; i < 2; ++i) DisSaldatura(nullptr, 0, 0, 1e6, 0, 1, 2, 0);
+  EXPECT_TRUE(LineeEsaurite());
+  EXPECT_FALSE(disegno.Interrotto);
+  EXPECT_EQ(disegno.NumLinee, 50000);
+  EXPECT_EQ(disegno.NumCoord, 2);
+  ASSERT_EQ(registratore.eventi.size(), 1u);
+  EXPECT_EQ(registratore.eventi[0], "[messaggio] informazione | ERRORE !! | Si è raggiunto il numero massimo di linee.");
+}
+
 TEST_F(Marchi, Angoli) {
   for (int q = 0; q <= 5; ++q) DisAngoloSald(nullptr, 100, 200, q);
   DisAngoloSald(nullptr, 100, 200, 1, std::int16_t{6});
