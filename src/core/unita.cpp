@@ -58,6 +58,15 @@ void SuSuperficie(std::string_view unita, int base, double& fattore, std::int16_
   dec = Decimali(base, dF, dL, 2);
 }
 
+// A unit text goes into the calculator's arguments, which "|" separates, and into lines that are read back: of one that would break them
+// nothing is kept but the slash, by which a stress is a force over an area. The suite stores that slash as the digit 8.
+std::string TestoUnita(std::string_view valore) {
+  const auto rompe = [](unsigned char c) { return c < ' ' || c == 0x7F || c == '|' || c == '"' || c == '\''; };
+  const std::string unita = Componi(valore, "8", "/");
+  if (std::none_of(unita.begin(), unita.end(), rompe)) return unita;
+  return Contiene(unita, "/") ? "/" : "";
+}
+
 bool GuastoLettura() {
   SegnalaFault();
   return false;
@@ -79,7 +88,7 @@ bool LeggiParametriLavoro() {
     if (Contiene(chiave, "nord_geografico") && !Val(valore, suite.NordGeo)) return GuastoLettura();
     for (const ChiaveUnita& c : CHIAVI) {
       if (!Contiene(chiave, c.chiave)) continue;
-      suite.*c.unita = Componi(valore, "8", "/");       // the suite stores the slash of a compound unit as the digit 8
+      suite.*c.unita = TestoUnita(valore);
       break;
     }
   }

@@ -1,7 +1,8 @@
 // core/unita.h - the job's units: DirLavoro\parametrilavoro to the factors and decimals of suite.
 // Units     each factor multiplies a model value (daN, daN cm, daN/cm2, cm) into the unit shown; a typed value is divided by it.
 // Failure   the reading runs unguarded: a fault is raised and false returned; the caller shows the fault's box and ends
-//           the process. A unit text that is not known gives the factor 0 and leaves its decimals.
+//           the process. A unit text that is not known gives the factor 0 and leaves its decimals. One with a "|", a quote or a control
+//           character is such a text: it is kept and shown as "/" where it has a slash, else as the empty text.
 #pragma once
 #include <cstdint>
 #include <string>

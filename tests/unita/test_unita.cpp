@@ -119,6 +119,28 @@ TEST_F(UnitaLavoro, TensioniSenzaBarra) {
   EXPECT_EQ(suite.DecTensioni, 7);                         // as it was
 }
 
+// A text that would end in the calculator's arguments as one of its own, or break a line, counts as one that no table knows.
+TEST_F(UnitaLavoro, TestiCheNonSonoUnita) {
+  for (const char* forze : {"xyz", "daN|fileout=C:\\altrove", "|", "daN\x01", "\tdaN", "daN\x7F", "\"daN\"", "da'N"}) {
+    suite.DecForze = 7;
+    ASSERT_TRUE(Imposta(File("9.81", "cm", forze, "daNcm", "daN8cm2", "cm", "daN8m2"))) << forze;
+    EXPECT_EQ(suite.UnitaForze, std::string_view(forze) == "xyz" ? "xyz" : "") << forze;
+    EXPECT_EQ(suite.FattForze, 0) << forze;
+    EXPECT_EQ(suite.DecForze, 7) << forze;                 // as it was
+    EXPECT_EQ(suite.UnitaMomenti, "daNcm") << forze;
+  }
+  ASSERT_TRUE(Imposta(File("9.81", "mm|", "daN", "daN|cm", "MPa\"", "'m'", "daN8m2")));
+  EXPECT_EQ(suite.FattLung, 0);
+  EXPECT_EQ(suite.FattMomenti, 0);
+  EXPECT_EQ(suite.FattTensioni, 0);
+  EXPECT_EQ(suite.FattSezioni, 0);
+  for (const char* superficie : {"xyz8w", "daN|8cm2", "'daN/cm2'"}) {   // divided by a length that is not known
+    AttesoGuasto(File("9.81", "cm", "daN", "daNcm", superficie, "cm", "daN8m2"));
+    AttesoGuasto(File("9.81", "cm", "daN", "daNcm", "daN8cm2", "cm", superficie));
+  }
+  EXPECT_EQ(suite.UnitaCarichi, "/");
+}
+
 TEST_F(UnitaLavoro, Tabelle) {
   suite.AccelG = 10;
   std::int16_t d = 9;
