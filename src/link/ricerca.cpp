@@ -2,6 +2,8 @@
 #include "link/ricerca.h"
 
 #include <algorithm>
+#include <unordered_map>
+#include <unordered_set>
 
 #include "core/aritmetica.h"
 #include "core/file.h"
@@ -66,32 +68,63 @@ NodoCercato CercaNodi(const std::string& titolo) {
   return r;
 }
 
-bool CercaAsta(std::int16_t nodoCercato, const FiltroAste& filtro, std::string& lista) {
+namespace {
+
+constexpr std::int32_t NESSUNA = 0;          // bars are numbered from 1
+
+// Number of each node asked for, by its name: in the selection a node goes by its last value, its bars' ends by the first. Of two with one
+// name the last.
+std::unordered_map<double, double> NodiPerNome(LettoreStruttura& l, std::span<const std::int16_t> nomi) {
+  const std::unordered_set<double> chiesti(nomi.begin(), nomi.end());
+  std::unordered_map<double, double> nodi;
+  InizioBlocco(l);
+  for (NodoStruttura n; ProssimoNodo(l, n);)
+    if (chiesti.contains(n.v[3])) nodi[n.v[3]] = n.v[0];
+  return nodi;
+}
+
+bool Passa(const AstaStruttura& a, const FiltroAste& filtro) {
+  if (a.numero < 1) return false;
+  if (a.colore < 0 || a.colore > 9 || !filtro.colori[a.colore]) return false;
+  if (a.tipoLinea < 0 || a.tipoLinea > 4 || !filtro.linee[a.tipoLinea]) return false;
+  return filtro.tuttiNomi || (a.numero >= filtro.nomi[1] && a.numero <= filtro.nomi[2]);
+}
+
+// The bar of each of these nodes, by the node's number.
+std::unordered_map<double, std::int32_t> PrimeAste(LettoreStruttura& l, const FiltroAste& filtro, const std::unordered_map<double, double>& nodi) {
+  std::unordered_map<double, std::int32_t> prime;
+  for (const auto& [nome, numero] : nodi) prime.emplace(numero, NESSUNA);
+  InizioBlocco(l);
+  for (AstaStruttura a; ProssimaAsta(l, a);) {
+    if (!Passa(a, filtro)) continue;
+    for (const std::int32_t estremo : {a.nodo1, a.nodo2})
+      if (const auto p = prime.find(estremo); p != prime.end() && p->second == NESSUNA) p->second = a.numero;
+  }
+  return prime;
+}
+
+}  // namespace
+
+void CercaAste(std::span<const std::int16_t> nodi, const FiltroAste& filtro, std::string& lista) {
+  if (nodi.empty()) return;
   LettoreStruttura l;
   const std::string percorso = suite.DirLavoro + "\\struttur.str";
   if (!ApriStruttura(l, "\\struttur.str", PrimoBlocco::Righe)) {
     Messaggio("Errore: file " + percorso + " errato o mancante.", "ERRORE", Icona::Esclamazione);
-    return false;
+    return;
   }
-  double indice = 0;
-  bool presente = false;
-  InizioBlocco(l);
-  for (NodoStruttura n; ProssimoNodo(l, n);) {
-    if (n.v[3] != nodoCercato) continue;     // here a node goes by its last value, its ends by the first
-    indice = n.v[0];
-    presente = true;
+  const auto perNome = NodiPerNome(l, nodi);
+  const auto prime = PrimeAste(l, filtro, perNome);
+  for (std::size_t k = 0; k < nodi.size(); ++k) {
+    if (k > 0 && l.vecchia) AvvisaVersione();      // each node says it anew
+    const auto numero = perNome.find(nodi[k]);
+    if (numero == perNome.end()) continue;
+    const std::int32_t asta = prime.at(numero->second);
+    if (asta == NESSUNA) {
+      Messaggio("Non esiste nessuna asta corrispondente alle caratteristiche selezionate che concorra nel nodo " + std::to_string(nodi[k]), TitoloProg,
+                Icona::Esclamazione);
+      return;
+    }
+    lista += std::to_string(asta) + ",";
   }
-  if (!presente) return true;
-  InizioBlocco(l);
-  for (AstaStruttura a; ProssimaAsta(l, a);) {
-    if ((a.nodo1 != indice && a.nodo2 != indice) || a.numero < 1) continue;
-    if (a.colore < 0 || a.colore > 9 || !filtro.colori[a.colore]) continue;
-    if (a.tipoLinea < 0 || a.tipoLinea > 4 || !filtro.linee[a.tipoLinea]) continue;
-    if (!filtro.tuttiNomi && (a.numero < filtro.nomi[1] || a.numero > filtro.nomi[2])) continue;
-    lista += std::to_string(a.numero) + ",";
-    return true;
-  }
-  Messaggio("Non esiste nessuna asta corrispondente alle caratteristiche selezionate che concorra nel nodo " + std::to_string(nodoCercato), TitoloProg,
-            Icona::Esclamazione);
-  return false;
 }

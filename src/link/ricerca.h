@@ -2,6 +2,7 @@
 // Files     job folder: SondaIn.txt / SondaNIn.txt (asked), SondaOut.txt (the answer; none: the user cancelled).
 #pragma once
 #include <cstdint>
+#include <span>
 #include <string>
 #include "model/stato.h"
 
@@ -25,6 +26,7 @@ struct FiltroAste {
   bool tuttiNomi = true;
   std::int16_t nomi[2 + 1] = {};             // [1], [2]
 };
-// The first bar in the file's order that meets at the node and passes the filter: appended to lista with a comma. An unknown node adds
-// nothing. False: its box was shown, the search ends.
-bool CercaAsta(std::int16_t nodoCercato, const FiltroAste& filtro, std::string& lista);
+// Of each node in turn the first bar in the file's order that meets there and passes the filter: appended to lista with a comma. The
+// structure is read once for all of them. An unknown node adds nothing. A missing file, or a node of which no bar passes, shows its box
+// and ends the search there.
+void CercaAste(std::span<const std::int16_t> nodi, const FiltroAste& filtro, std::string& lista);

@@ -35,12 +35,10 @@ std::int32_t LeggiIntero(FileLettura& f) {
 }
 
 // The line that follows "release", or the first one itself after the box of an old version.
-void ControllaVersione(std::string& riga, FileLettura& f) {
-  if (Contiene(Minuscolo(riga), "release")) {
-    LeggiRiga(f, riga);
-    return;
-  }
-  Messaggio("Versione 3.8 o precedente. Caricare e risalvare la struttura in 'Ambiente Grafico'", "ATTENZIONE!", Icona::Critica);
+void ControllaVersione(std::string& riga, LettoreStruttura& l) {
+  l.vecchia = !Contiene(Minuscolo(riga), "release");
+  if (l.vecchia) AvvisaVersione();
+  else LeggiRiga(l.file, riga);
 }
 
 struct SezioneFile {
@@ -134,11 +132,15 @@ bool AsteCollegate(LettoreStruttura& l) {
 
 }  // namespace
 
+void AvvisaVersione() {
+  Messaggio("Versione 3.8 o precedente. Caricare e risalvare la struttura in 'Ambiente Grafico'", "ATTENZIONE!", Icona::Critica);
+}
+
 bool ApriStruttura(LettoreStruttura& l, std::string_view nomeFile, PrimoBlocco modo) {
   if (!ApriLettura(l.file, suite.DirLavoro + std::string(nomeFile))) return false;
   std::string riga;
   LeggiRiga(l.file, riga);
-  ControllaVersione(riga, l.file);
+  ControllaVersione(riga, l);
   std::string testa = PrimiCaratteri(riga, 20);           // the counter stands in the first 20 characters
   for (std::int32_t n = InteroDaToken(testa); n > 0 && !FineFile(l.file); --n) {
     if (modo == PrimoBlocco::Righe) {
@@ -248,9 +250,9 @@ EsitoAste AsteDelNodo(std::int16_t numeroNodo) {
 EsitoAste SezioniAsteNodo() {
   const std::string percorso = suite.DirLavoro + SEZIONI;
   for (int i = 1; i <= collegamento.NumAsteNodo; ++i) collegamento.SezioniStr[i] = {};
-  const EsitoAste esito = PerOgniSezione(percorso, [](const SezioneFile& s) {
-    for (int i = 1; i <= collegamento.NumAsteNodo; ++i)
-      if (collegamento.SezAsteNodo[i] == s.numero) collegamento.SezioniStr[i].Nome = s.nome;
+  const Posizioni sezioni(collegamento.SezAsteNodo, collegamento.NumAsteNodo);
+  const EsitoAste esito = PerOgniSezione(percorso, [&](const SezioneFile& s) {
+    for (auto v = sezioni.Prima(s.numero); v != sezioni.voci.end() && v->first == s.numero; ++v) collegamento.SezioniStr[v->second].Nome = s.nome;
   });
   if (esito == EsitoAste::Fallito) FileErrato(percorso, Icona::Nessuna);
   if (esito != EsitoAste::Trovate) return esito;

@@ -22,9 +22,11 @@ enum class PrimoBlocco { Righe, Terne };   // how the n1 records are passed over
 struct LettoreStruttura {
   FileLettura file;
   std::int32_t restanti = 0;       // records left in the block being read
+  bool vecchia = false;            // of an old release
 };
 // Opens, checks the version (its box if the first line is of an old release) and passes the first block. False: not opened.
 bool ApriStruttura(LettoreStruttura& l, std::string_view nomeFile, PrimoBlocco modo);
+void AvvisaVersione();                                    // the box of an old release
 void InizioBlocco(LettoreStruttura& l);                   // the block's count, first token of a line
 bool ProssimoNodo(LettoreStruttura& l, NodoStruttura& n); // false: block or file ended
 bool ProssimaAsta(LettoreStruttura& l, AstaStruttura& a);

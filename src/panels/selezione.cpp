@@ -48,9 +48,7 @@ std::string AsteDeiNodi() {
   bool troppi = false;
   std::string lista;
   if (!LeggiLista(soll3D.NodiTxt.testo, nodo.NodiStr, MaxNodiStr, nodo.NumNodiStr, troppi)) return lista;
-  const FiltroAste filtro = FiltroDalPannello();
-  for (int i = 1; i <= nodo.NumNodiStr; ++i)
-    if (!CercaAsta(nodo.NodiStr[i], filtro, lista)) break;
+  CercaAste({nodo.NodiStr + 1, static_cast<std::size_t>(nodo.NumNodiStr)}, FiltroDalPannello(), lista);
   return lista;
 }
 

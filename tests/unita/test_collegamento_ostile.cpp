@@ -2,6 +2,8 @@
 // The cases are those of corredo/ostili.h; the corpus holds the sample job's own files and thought-out ones.
 #include "corredo/ostili.h"
 
+#include <array>
+
 #include "core/testo.h"
 #include "corredo/modello_minimo.h"
 #include "corredo/pannello_prova.h"
@@ -57,7 +59,7 @@ void OstileStruttura(const std::string& cartella) {
   std::fill(std::begin(filtro.colori), std::end(filtro.colori), true);
   std::fill(std::begin(filtro.linee), std::end(filtro.linee), true);
   std::string lista;
-  CercaAsta(20, filtro, lista);
+  CercaAste(std::array<std::int16_t, 2>{20, 20}, filtro, lista);
   EXPECT_TRUE(lista.empty() || lista.ends_with(','));
   SenzaFault();
 }

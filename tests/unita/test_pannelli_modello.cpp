@@ -217,6 +217,24 @@ TEST_F(Pannelli_, SelezioneDelleAste) {
   EXPECT_FALSE(selezione.aperto);
 }
 
+// However many nodes are looked for, the structure is read once: here it goes with the first box, and the search does not miss it. The box
+// of an old release comes for each node all the same.
+TEST_F(Pannelli_, LaSelezioneLeggeLaStrutturaUnaVolta) {
+  ScriviByte(RisolviPercorso(suite.DirLavoro + "\\struttur.str"), STRUTTURA_MINIMA.substr(STRUTTURA_MINIMA.find('\n') + 1));
+  static void (*registra)(const std::string&, const std::string&, Icona);
+  registra = piattaforma.messaggio;
+  piattaforma.messaggio = [](const std::string& testo, const std::string& titolo, Icona icona) {
+    registra(testo, titolo, icona);
+    EliminaFile(suite.DirLavoro + "\\struttur.str");
+  };
+  Scrivi(Soll3D, "NodiTxt", SENZA_INDICE, "20,30,99,10");
+  registratore.dentro.push_back([] { Premi(Selezione, "Cerca"); });
+  Premi(Soll3D, "Cerca", 0);
+  EXPECT_EQ(soll3D.AsteTxt.testo, "5,7,5");
+  ASSERT_EQ(registratore.eventi.size(), 4u);
+  for (const std::string& e : registratore.eventi) EXPECT_NE(e.find("Versione 3.8 o precedente"), std::string::npos);
+}
+
 TEST_F(Pannelli_, SuggerimentiDellaSelezione) {
   const TestoAtteso attesi[] = {
       {"Cerca", -1, "Cliccare per importare i nomi delle aste trovate"}, {"Chiudi", -1, "Cliccare per chiudere la finestra"},

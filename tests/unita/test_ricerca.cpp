@@ -1,6 +1,8 @@
 // Search tools, bar selection, load export: files byte by byte, messages whole.
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "core/aritmetica.h"
 #include "core/file.h"
 #include "corredo/modello_minimo.h"
@@ -26,6 +28,8 @@ struct Ricerca : testing::Test {
     for (bool& b : tutte.linee) b = true;
   }
 };
+
+using Nodi = std::vector<std::int16_t>;
 
 std::string PercorsoRisposta() { return RisolviPercorso(suite.DirLavoro + "\\SondaOut.txt"); }
 
@@ -149,36 +153,64 @@ TEST_F(Ricerca, NodiCercati) {
 
 TEST_F(Ricerca, SoloLaPrimaAstaDelNodo) {
   std::string lista;
-  EXPECT_TRUE(CercaAsta(20, tutte, lista));
+  CercaAste(Nodi{20}, tutte, lista);
   EXPECT_EQ(lista, "5,");
-  EXPECT_TRUE(CercaAsta(30, tutte, lista));
+  CercaAste(Nodi{30}, tutte, lista);
   EXPECT_EQ(lista, "5,7,");                               // bar 6 has colour 10, which never passes
-  EXPECT_TRUE(CercaAsta(99, tutte, lista));               // no such node: nothing is said
+  CercaAste(Nodi{99}, tutte, lista);                      // no such node: nothing is said
   EXPECT_EQ(lista, "5,7,");
   EXPECT_TRUE(registratore.eventi.empty());
+}
+
+// Of several nodes each adds its own, in the order of the list and as often as it stands there; what comes behind a node without a bar is
+// not looked for.
+TEST_F(Ricerca, PiuNodiInOrdine) {
+  std::string lista;
+  CercaAste(Nodi{}, tutte, lista);
+  EXPECT_EQ(lista, "");
+  CercaAste(Nodi{30, 99, 10, 30}, tutte, lista);
+  EXPECT_EQ(lista, "7,5,7,");
+  EXPECT_TRUE(registratore.eventi.empty());
+  lista.clear();
+  CercaAste(Nodi{10, 40, 30}, tutte, lista);              // no bar meets at node 40
+  EXPECT_EQ(lista, "5,");
+  ASSERT_EQ(registratore.eventi.size(), 1u);
+  EXPECT_TRUE(registratore.eventi[0].ends_with("che concorra nel nodo 40"));
+}
+
+// Nodes of one name: the last one counts. A bar with both ends at its node counts as any other.
+TEST_F(Ricerca, NodiDiUnSoloNome) {
+  ScriviByte(lavoro + "/struttur.str", "release\r\n0\r\n3\r\n1,0,0,7,a\r\n2,0,0,7,b\r\n3.5,0,0,8,c\r\n4\r\n1,1,0,0\r\n4 1\r\n2,2,0,0\r\n5 1\r\n3,4,0,0\r\n6 1\r\n"
+             "0,1,0,0\r\n7 1\r\n0\r\n");
+  std::string lista;
+  CercaAste(Nodi{7}, tutte, lista);
+  EXPECT_EQ(lista, "5,");
+  CercaAste(Nodi{8}, tutte, lista);                       // no bar ends at a number that is not whole
+  EXPECT_EQ(lista, "5,");
+  EXPECT_EQ(registratore.eventi.size(), 1u);
 }
 
 TEST_F(Ricerca, FiltriPerColoreLineaENome) {
   std::string lista;
   FiltroAste f = tutte;
   f.colori[2] = false;
-  EXPECT_TRUE(CercaAsta(20, f, lista));
+  CercaAste(Nodi{20}, f, lista);
   EXPECT_EQ(lista, "7,");
   f = tutte;
   f.linee[1] = false;
   lista.clear();
-  EXPECT_TRUE(CercaAsta(20, f, lista));
+  CercaAste(Nodi{20}, f, lista);
   EXPECT_EQ(lista, "7,");
   f = tutte;
   f.tuttiNomi = false;
   f.nomi[1] = 6;
   f.nomi[2] = 7;
   lista.clear();
-  EXPECT_TRUE(CercaAsta(20, f, lista));
+  CercaAste(Nodi{20}, f, lista);
   EXPECT_EQ(lista, "7,");
   f.nomi[2] = 6;
   lista.clear();
-  EXPECT_FALSE(CercaAsta(20, f, lista));
+  CercaAste(Nodi{20}, f, lista);
   EXPECT_EQ(registratore.eventi.back(),
             "[messaggio] esclamazione | NODO COLONNA - PLINTO | Non esiste nessuna asta corrispondente alle caratteristiche selezionate "
             "che concorra nel nodo 20");
@@ -189,14 +221,14 @@ TEST_F(Ricerca, ColoriELineeFuoriDalFiltro) {
   ScriviByte(lavoro + "/struttur.str", "release\r\n0\r\n1\r\n1,0,0,1,a\r\n6\r\n1,2,5,0\r\n11 1\r\n1,2,-1,0\r\n12 1\r\n1,2,0,10\r\n13 1\r\n"
              "1,2,0,-1\r\n14 1\r\n1,2,4,9\r\n0 1\r\n1,2,4,9\r\n16 1\r\n0\r\n");
   std::string lista;
-  EXPECT_TRUE(CercaAsta(1, tutte, lista));
+  CercaAste(Nodi{1}, tutte, lista);
   EXPECT_EQ(lista, "16,");                                // nor does a bar of number 0
 }
 
 TEST_F(Ricerca, StrutturaAssente) {
   suite.DirLavoro = lavoro + "\\manca";
   std::string lista;
-  EXPECT_FALSE(CercaAsta(20, tutte, lista));
+  CercaAste(Nodi{20}, tutte, lista);
   EXPECT_EQ(registratore.eventi.back(), "[messaggio] esclamazione | ERRORE | Errore: file " + suite.DirLavoro + "\\struttur.str errato o mancante.");
 }
 
@@ -211,16 +243,16 @@ TEST_F(Ricerca, AltroLavoroSoloAccantoAQuesto) {
 TEST_F(Ricerca, IlNodoSiCercaPerNomeEGliEstremiPerNumero) {
   ScriviByte(lavoro + "/struttur.str", "release\r\n0\r\n2\r\n1,0,0,900,a\r\n2,0,0,1,b\r\n2\r\n2,2,0,0\r\n4 1\r\n1,2,0,0\r\n5 1\r\n0\r\n");
   std::string lista;
-  EXPECT_TRUE(CercaAsta(900, tutte, lista));
+  CercaAste(Nodi{900}, tutte, lista);
   EXPECT_EQ(lista, "5,");                                 // bar 4 does not touch node number 1
-  EXPECT_TRUE(CercaAsta(2, tutte, lista));                // no node of that name
+  CercaAste(Nodi{2}, tutte, lista);                       // no node of that name
   EXPECT_EQ(lista, "5,");
 }
 
 TEST_F(Ricerca, VersioneVecchiaNellaSelezione) {
   ScriviByte(lavoro + "/struttur.str", STRUTTURA_MINIMA.substr(STRUTTURA_MINIMA.find('\n') + 1));
   std::string lista;
-  EXPECT_TRUE(CercaAsta(20, tutte, lista));
+  CercaAste(Nodi{20}, tutte, lista);
   EXPECT_EQ(lista, "5,");
   ASSERT_EQ(registratore.eventi.size(), 1u);
   EXPECT_EQ(registratore.eventi[0],
