@@ -5,6 +5,8 @@
 #include <bit>
 #include <cstring>
 #include <fstream>
+#include <iterator>
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -17,6 +19,8 @@
 namespace {
 
 constexpr std::int64_t RECORD = 56;          // bytes
+constexpr std::int64_t VALORI = 8;           // byte of a record at which its six values begin
+constexpr std::int64_t BLOCCO = 4096;        // records read at once
 constexpr int RIGHE_INVILUPPO = 12;
 constexpr double ESTREMO = 1E20;             // what a row of the envelope holds until a sextet beats it
 constexpr int ESPONENTE_MASSIMO = 1000;      // a value of 2^1000 or more cannot be rounded, and is no load
@@ -97,7 +101,7 @@ bool Arrotondabile(const char* b) { return static_cast<int>(DaByte<std::uint64_t
 bool Decifra(const char* b, std::int16_t lato, Sestetto& s) {
   double v[6];
   for (int k = 0; k < 6; ++k) {
-    const char* byte = b + 8 + 8 * k;
+    const char* byte = b + VALORI + 8 * k;
     if (!Arrotondabile(byte)) return false;
     v[k] = DaByte<double>(byte);
   }
@@ -138,41 +142,70 @@ void Inviluppa(const Sestetto& s, const std::string& nome) {
 
 void TroppeSollecitazioni() { Messaggio("Errore: numero di sollecitazioni eccessivo", "ERRORE", Icona::Esclamazione); }
 
-// One record into the list or the envelope; false: the list is full.
-bool Prendi(const char* record, int i, const std::string& origine, bool maxMin) {
-  Collegamento& c = collegamento;
-  Sestetto s;
-  if (!Decifra(record, c.LatoAsta[i], s)) return true;
-  const std::string nome = origine + " As. " + std::to_string(c.AsteNodo[i]) + " Nd. " + std::to_string(nodo.NodiStr[i]);
-  if (!maxMin && nodo.NumSoll >= MaxSoll) {
-    TroppeSollecitazioni();
-    return false;
+// How often the list of sextets asks for each: its zeros for all of them, any other number for one.
+struct Richieste {
+  int tutti = 0;
+  std::vector<int> uno;                      // by sextet
+  Richieste() {
+    for (int i = 1; i <= collegamento.NumSestettiStr; ++i) {
+      const std::int16_t n = collegamento.SestettiStr[i];
+      if (n == 0) ++tutti;
+      if (n <= 0) continue;
+      if (std::ssize(uno) <= n) uno.resize(static_cast<std::size_t>(n) + 1);
+      ++uno[static_cast<std::size_t>(n)];
+    }
   }
-  ++c.Presi;
-  if (maxMin) Inviluppa(s, nome);
-  else MettiRiga(++nodo.NumSoll, s, nome);
+  int Volte(std::int64_t t) const { return tutti + (t < std::ssize(uno) ? uno[static_cast<std::size_t>(t)] : 0); }
+  std::int64_t Ultimo(std::int64_t quanti) const { return tutti > 0 ? quanti : std::min<std::int64_t>(quanti, std::ssize(uno) - 1); }
+};
+
+void Conta(std::int32_t& n, int quanti) {    // a file may hold more than the counts do
+  n = static_cast<std::int32_t>(std::min<std::int64_t>(std::numeric_limits<std::int32_t>::max(), std::int64_t{n} + quanti));
+}
+
+bool StessiValori(const char* a, const char* b) { return std::memcmp(a + VALORI, b + VALORI, RECORD - VALORI) == 0; }
+
+// False: the list is full.
+bool MettiInLista(const Sestetto& s, const std::string& nome, int volte) {
+  for (; volte > 0; --volte) {
+    if (nodo.NumSoll >= MaxSoll) {
+      TroppeSollecitazioni();
+      return false;
+    }
+    Conta(collegamento.Presi, 1);
+    MettiRiga(++nodo.NumSoll, s, nome);
+  }
   return true;
 }
 
-// How often the list of sextets asks for t; a 0 asks for each.
-int VolteRichiesto(std::int64_t t) {
-  const Collegamento& c = collegamento;
-  return static_cast<int>(std::count_if(c.SestettiStr + 1, c.SestettiStr + 1 + c.NumSestettiStr, [&](std::int16_t n) { return n == t || n == 0; }));
-}
-
-// The sextets of one bar at its end's section, read in one piece.
-bool PrendiAsta(FileRisultati& f, int i, const std::string& origine, bool maxMin) {
+// The sextets of one bar at its end's section, read in blocks: their number is the file's, which may say any.
+bool PrendiAsta(FileRisultati& f, const Richieste& r, int i, const std::string& origine, bool maxMin) {
   Collegamento& c = collegamento;
   const std::int64_t primo = PostoRecord(f, c.AstaNodo[i], c.LatoAsta[i] == 2 ? f.NumSezioni : 1, 1);
   if (primo < 0) return true;
-  const std::int64_t quanti = std::min<std::int64_t>(f.NumSestettiFile, (f.lunghezza - primo) / RECORD);
-  std::string byte(static_cast<std::size_t>(quanti * RECORD), '\0');
-  if (!LeggiByte(f, primo, byte.data(), quanti * RECORD)) return true;
-  for (std::int64_t t = 1; t <= quanti; ++t) {
-    const int volte = VolteRichiesto(t);
-    if (volte > 0) ++c.Letti;
-    for (int k = 0; k < volte; ++k)
-      if (!Prendi(byte.data() + (t - 1) * RECORD, i, origine, maxMin)) return false;
+  const std::string nome = origine + " As. " + std::to_string(c.AsteNodo[i]) + " Nd. " + std::to_string(nodo.NodiStr[i]);
+  const std::int64_t quanti = r.Ultimo(std::min<std::int64_t>(f.NumSestettiFile, (f.lunghezza - primo) / RECORD));
+  std::vector<char> byte(static_cast<std::size_t>(std::clamp<std::int64_t>(quanti, 0, BLOCCO) * RECORD));
+  Sestetto s;
+  bool valido = false;
+  for (std::int64_t da = 0; da < quanti; da += BLOCCO) {
+    const std::int64_t n = std::min(BLOCCO, quanti - da);
+    if (!LeggiByte(f, primo + da * RECORD, byte.data(), n * RECORD)) return true;
+    for (std::int64_t k = 0; k < n; ++k) {
+      const int volte = r.Volte(da + k + 1);
+      if (volte == 0) continue;
+      const char* const record = byte.data() + k * RECORD;
+      const bool ripetuto = k > 0 && r.tutti > 0 && StessiValori(record, record - RECORD);   // beats no row that the one before it did not
+      Conta(c.Letti, 1);
+      if (!ripetuto) valido = Decifra(record, c.LatoAsta[i], s);
+      if (!valido) continue;
+      if (!maxMin) {
+        if (!MettiInLista(s, nome, volte)) return false;
+        continue;
+      }
+      Conta(c.Presi, volte);
+      if (!ripetuto) Inviluppa(s, nome);
+    }
   }
   return true;
 }
@@ -192,8 +225,9 @@ bool ImportaFile(bool condizione, int numero, bool maxMin) {
     return false;
   }
   const std::string origine = (condizione ? "Cond " : "Caso ") + std::to_string(numero);
+  const Richieste richieste;
   for (int i = 1; i <= c.NumAsteNodo; ++i)
-    if (c.AsteNodo[i] > 0 && !PrendiAsta(f, i, origine, maxMin)) return false;
+    if (c.AsteNodo[i] > 0 && !PrendiAsta(f, richieste, i, origine, maxMin)) return false;
   return true;
 }
 

@@ -1,6 +1,7 @@
 // Import of sextets: file names, lists, records, envelope, limits. Expected values by hand from the records written here.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -184,6 +185,51 @@ TEST_F(Importa, InviluppoDiDodiciRighe) {
     EXPECT_EQ(nodo.SollTz[a.riga], a.Tz) << a.riga;
   }
   EXPECT_EQ(nodo.SollNome[1], "Caso 7 As. 5 Nd. 20");
+}
+
+// More sextets than are read at once: the extremes lie on both sides of the blocks' borders and at the end, and repeated ones count.
+TEST_F(Importa, InviluppoDiMoltiSestetti) {
+  std::vector<RecordRisultati> r(10000, {5, 1, 0, 0, 0, 0, 0});
+  r[4095].N = 50;
+  r[4096].N = -60;
+  r[8191].Ty = 7;
+  r[8192].Ty = -8;
+  r[9999].Mt = 9;
+  Scrivi("astec007.bin", FileRisultatiDi(1, 1, 10000, r));
+  ImportaSollecitazioni(true);
+  EXPECT_EQ(nodo.SollN[1], 50);
+  EXPECT_EQ(nodo.SollN[2], -60);
+  EXPECT_EQ(nodo.SollTy[5], 7);
+  EXPECT_EQ(nodo.SollTy[6], -8);
+  EXPECT_EQ(nodo.SollMt[11], 9);
+  EXPECT_EQ(nodo.SollMt[12], 0);
+  EXPECT_EQ(c.Letti, 10000);
+  EXPECT_EQ(c.Presi, 10000);
+  c.NumSestettiStr = 4;                                   // one and all, twice; two that are not beside each other; one above the file's
+  const std::int16_t lista[] = {0, 4097, 0, 10001};
+  std::copy(std::begin(lista), std::end(lista), c.SestettiStr + 1);
+  ImportaSollecitazioni(true);
+  EXPECT_EQ(c.Letti, 10000);
+  EXPECT_EQ(c.Presi, 20001);
+  const std::int16_t sola[] = {9, 4097, 8193, 4097};
+  std::copy(std::begin(sola), std::end(sola), c.SestettiStr + 1);
+  ImportaSollecitazioni(true);
+  EXPECT_EQ(c.Letti, 3);
+  EXPECT_EQ(c.Presi, 4);
+  EXPECT_EQ(nodo.SollN[1], 1);
+  EXPECT_EQ(nodo.SollN[2], -60);
+  EXPECT_EQ(nodo.SollTy[6], -8);
+}
+
+// Sextets that stand alike beside one that cannot be rounded: each is judged by itself.
+TEST_F(Importa, InviluppoConRipetutiNonFiniti) {
+  const double inf = std::numeric_limits<double>::infinity();
+  Scrivi("astec007.bin", FileRisultatiDi(1, 1, 5, {{5, 3, 0, 0, 0, 0, 0}, {5, inf, 0, 0, 0, 0, 0}, {5, inf, 0, 0, 0, 0, 0},
+                                                   {5, 3, 0, 0, 0, 0, 0}, {5, 3, 0, 0, 0, 0, 0}}));
+  ImportaSollecitazioni(true);
+  EXPECT_EQ(nodo.SollN[1], 3);
+  EXPECT_EQ(c.Letti, 5);
+  EXPECT_EQ(c.Presi, 3);
 }
 
 TEST_F(Importa, OgniRigaDellInviluppoHaLaSuaComponente) {
