@@ -14,6 +14,9 @@ if(TARGET qb07-batch)
   # The drawings in two CAD readers, where one is installed.
   add_test(NAME prova_dxf COMMAND ${CMAKE_CURRENT_LIST_DIR}/corredo/prova-dxf $<TARGET_FILE:qb07-batch>)
   set_tests_properties(prova_dxf PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 300)
+  # Large files under a bound of memory.
+  add_test(NAME prova_memoria COMMAND ${CMAKE_CURRENT_LIST_DIR}/corredo/prova-memoria $<TARGET_FILE:qb07-batch>)
+  set_tests_properties(prova_memoria PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 300)
   add_test(NAME corredo_esegui_caso COMMAND ${CMAKE_CURRENT_LIST_DIR}/corredo/prova-esegui-caso $<TARGET_FILE:qb07-batch>)
   # What is installed works from where it lies.
   add_test(NAME prova_installazione COMMAND ${CMAKE_CURRENT_LIST_DIR}/corredo/prova-installazione ${CMAKE_COMMAND} ${CMAKE_BINARY_DIR})

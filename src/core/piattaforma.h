@@ -41,5 +41,8 @@ struct Piattaforma {
 Piattaforma PiattaformaAssente();  // each entry aborts by name: never a silent no-op
 inline Piattaforma piattaforma = PiattaformaAssente();
 
+// Of a command for which the system has no more memory; it ends there, and what was entered stays as the command had left it.
+constexpr const char* TESTO_MEMORIA = "Memoria insufficiente: il comando non può continuare.";
+
 // The boxes of the program. No title named is TitoloProg.
 void Messaggio(const std::string& testo, const std::string& titolo, Icona icona);

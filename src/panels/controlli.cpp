@@ -2,11 +2,13 @@
 #include "panels/controlli.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "core/aritmetica.h"
 #include "core/piattaforma.h"
 #include "core/testo.h"
+#include "model/suite.h"
 
 // ---- rows and controls ----
 
@@ -106,12 +108,19 @@ static bool Premibile(Genere g) {
   return g == Genere::Comando || g == Genere::Immagine || g == Genere::Etichetta || g == Genere::Cornice;
 }
 
-// Runs a handler as a command of its own. Without one the answer is senzaVaBene.
+// Runs a handler as a command of its own. The one place where a failed allocation is met: the command ends, the program does not. Without a
+// handler the answer is senzaVaBene.
 static bool Esegui(void (*gestore)(int), int indice, bool senzaVaBene) {
   if (gestore == nullptr) return senzaVaBene;
   passi = {};
   AzzeraFault();
-  gestore(indice);
+  try {
+    gestore(indice);
+  } catch (const std::bad_alloc&) {
+    AzzeraFault();
+    piattaforma.attesa(false);
+    Messaggio(TESTO_MEMORIA, TitoloProg, Icona::Critica);
+  }
   if (FaultAritmetico()) MostraFault();
   return true;
 }

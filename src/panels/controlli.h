@@ -93,7 +93,7 @@ const RigaPannello* TrovaRiga(const Pannello& p, std::string_view nome);
 bool Visibile(const Pannello& p, const Controllo& c);  // own flag, its frames' flags, the panel open; a tab page does not count
 bool Abilitato(const Pannello& p, const Controllo& c); // own flag and its frames' flags
 
-// An event of the user: clears passi and the arithmetic flags, runs the handler, answers a fault with its box. A command
+// An event of the user: clears passi and the arithmetic flags, runs the handler, answers a fault, or a lack of memory, with its box. A command
 // that opens a modal panel returns when that has closed. False: there is nothing that could be carried out (a command or
 // picture without a handler, a double click without one, Enter outside a field).
 bool Scatena(const Pannello& p, Controllo& c, Evento e);

@@ -7,6 +7,7 @@
 #include "app/qt/lingua.h"
 #include "app/qt/piattaforma_qt.h"
 #include "core/eventi.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/FormTF.h"
 #include "panels/InsDati.h"

@@ -7,6 +7,7 @@
 #include "app/qt/lingua.h"
 #include "core/file.h"
 #include "mani.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 #include "robot.h"

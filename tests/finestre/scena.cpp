@@ -5,6 +5,7 @@
 #include "app/qt/legame.h"
 #include "app/qt/piattaforma_qt.h"
 #include "corredo/suite_prova.h"
+#include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
 #include "panels/programma.h"

@@ -3,6 +3,7 @@
 #include "app/qt/legame.h"
 #include "model/materiali.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "panels/FormTF.h"
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"

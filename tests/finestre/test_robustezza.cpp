@@ -5,6 +5,7 @@
 #include "app/qt/mostra_testo.h"
 #include "app/qt/piattaforma_qt.h"
 #include "model/node_model.h"
+#include "model/stato.h"
 #include "panels/FormTF.h"
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+
 #include "core/aritmetica.h"
 #include "core/numeri.h"
 #include "corredo/registratore.h"
@@ -22,6 +24,12 @@ void Cambia(int i) { Fatto("cambio", i); }
 void Entra(int i) { Fatto("invio", i); }
 void Raddoppia(int i) { Fatto("doppio", i); }
 void Guasta(int) { SegnalaFault(); }
+void Esaurisce(int) {
+  Fatto("prima", 0);
+  piattaforma.attesa(true);
+  SegnalaFault();
+  throw std::bad_alloc();
+}
 void Guarda(int) { Fatto(passi.fallito || FaultAritmetico() ? "sporco" : "pulito", 0); }
 const char* StatoDi(int i) { return i == 1 ? "uno" : ""; }
 void Passa(const char* t) { finto.fatti.push_back(std::string("passa:") + t); }
@@ -42,7 +50,7 @@ const RigaPannello RIGHE[] = {
     {"Voce", Genere::Scelta, finto.Voce, 0, 2, true, "", NOMI, {}, StatoDi, Cambia},
     {"Lista", Genere::Lista, &finto.Lista, 0, 0, false, "", {}, {}, nullptr, Cambia},
     {"Barra", Genere::Barra, &finto.Barra, 0, 0, false, "", {}, {}, nullptr, Cambia},
-    {"Figura", Genere::Immagine, &finto.Figura, 0, 0, false, "", {}, {}, nullptr, Guasta},
+    {"Figura", Genere::Immagine, &finto.Figura, 0, 0, false, "", {}, {}, nullptr, Guasta, nullptr, Esaurisce},
 };
 const Pannello FINTO = {"Finto", RIGHE, false, &finto.titolo, Carica, Mostrato, Passa, &finto.aperto, &finto.caricato};
 
@@ -185,6 +193,17 @@ TEST_F(Controlli, UserEventsClearTheStatusBeforeTheHandler) {
   EXPECT_TRUE(Scatena(FINTO, finto.Comando, Evento::Cambio));
   EXPECT_EQ(finto.fatti, (Fatti{"pulito0"}));
   EXPECT_TRUE(registratore.eventi.empty());
+}
+
+// One box, no fault beside it; the pointer no longer waits, and the next command runs as ever.
+TEST_F(Controlli, AHandlerWithoutMemoryEndsWithItsBox) {
+  EXPECT_TRUE(Scatena(FINTO, finto.Figura, Evento::Doppio));
+  ASSERT_EQ(registratore.eventi.size(), 1u);
+  EXPECT_EQ(registratore.eventi[0], "[messaggio] critica | NODO COLONNA - PLINTO | Memoria insufficiente: il comando non può continuare.");
+  EXPECT_FALSE(FaultAritmetico());
+  EXPECT_FALSE(registratore.attesa);
+  Scatena(FINTO, finto.Comando, Evento::Cambio);
+  EXPECT_EQ(finto.fatti, (Fatti{"prima0", "pulito0"}));
 }
 
 TEST_F(Controlli, AFaultOfAHandlerShowsItsBox) {

@@ -3,6 +3,7 @@
 // Exit      0 done and every sextet verified, 1 done and some sextet is not verified, 2 not done.
 #include "app/batch/copione.h"
 #include "app/batch/disegno.h"
+#include "app/batch/memoria.h"
 #include "app/batch/piattaforma_batch.h"
 #include "app/batch/verifica.h"
 #include "core/file.h"
@@ -79,6 +80,7 @@ int main(int argc, char** argv) {
     for (const RigaComandoOspite& r : COMANDI)
       if (ospite.opzioni.comando == r.nome && Ammesso(r)) {
         MontaPiattaforma();
+        PreparaMemoria();
         Esci(r.esegui());
       }
   std::fputs(USO, stderr);

@@ -26,6 +26,13 @@
 
 // ---- one event of the user ----
 
+struct ComandoInCorso {                   // counted out also where it ends for lack of memory
+  ComandoInCorso() { ++finestre.comandi; }
+  ~ComandoInCorso() { --finestre.comandi; }
+  ComandoInCorso(const ComandoInCorso&) = delete;
+  ComandoInCorso& operator=(const ComandoInCorso&) = delete;
+};
+
 // Runs what an event does, if nothing runs on this panel and no other panel stands in front.
 template <class F>
 static void SeLibero(const Legame& l, F fai) {
@@ -33,9 +40,10 @@ static void SeLibero(const Legame& l, F fai) {
     Dipingi(*l.controllo);                // the widget shows again what holds
     return;
   }
-  ++finestre.comandi;
-  fai();
-  --finestre.comandi;
+  {
+    const ComandoInCorso inCorso;
+    fai();
+  }
   AggiornaTitoli();
 }
 

@@ -1,5 +1,6 @@
 // app/qt/main.cpp - the desktop program. All arguments, joined by one blank, are the command line of the start.
 // Exit      0 the user closed it, 2 the start ended in a message or the windows do not fit the panels.
+#include "app/qt/applicazione.h"
 #include "app/qt/finestre.h"
 #include "app/qt/lingua.h"
 #include "app/qt/piattaforma_qt.h"
@@ -8,17 +9,26 @@
 #include "model/suite.h"
 #include "panels/InsDati.h"
 
-#include <QApplication>
-
 #include <cstdio>
+#include <new>
 
 static std::string RigaComando() {
   const QStringList argomenti = QCoreApplication::arguments().mid(1);
   return Utf8(argomenti.join(' '));
 }
 
+// The start outside of the event loop.
+static bool Avvia() {
+  try {
+    return CaricaInsDati(RigaComando());
+  } catch (const std::bad_alloc&) {
+    Messaggio(TESTO_MEMORIA, TitoloProg, Icona::Critica);
+    return false;
+  }
+}
+
 int main(int argc, char** argv) {
-  QApplication programma(argc, argv);
+  Applicazione programma(argc, argv);
   QApplication::setApplicationName("qb07");
   QGuiApplication::setDesktopFileName("qb07");
   PreparaLingua();
@@ -30,7 +40,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   suite.Decimale = DecimaleDelDesktop();
-  const bool avviato = CaricaInsDati(RigaComando());
+  const bool avviato = Avvia();
   int stato = avviato ? 0 : 2;
   if (avviato && !finestre.finita) stato = QApplication::exec();
   DistruggiFinestre();

@@ -1,0 +1,20 @@
+// app/qt/applicazione.cpp - one event of the application, and a failed allocation in it.
+#include "app/qt/applicazione.h"
+
+#include "core/piattaforma.h"
+#include "model/suite.h"
+
+#include <new>
+#include <utility>
+
+bool Applicazione::notify(QObject* oggetto, QEvent* evento) {
+  static bool mostrato = false;           // the box may find no memory either
+  try {
+    return QApplication::notify(oggetto, evento);
+  } catch (const std::bad_alloc&) {
+    if (std::exchange(mostrato, true)) return false;
+    Messaggio(TESTO_MEMORIA, TitoloProg, Icona::Critica);
+    mostrato = false;
+    return false;
+  }
+}
