@@ -1,19 +1,17 @@
-// app/batch/opzioni.cpp - options, and the text for wrong usage.
+// app/batch/opzioni.cpp - the options as a table, and the texts of the usage from it.
 #include "app/batch/opzioni.h"
 
+#include <algorithm>
 #include <charconv>
 #include <clocale>
-#include <string_view>
 
-const char* const USO =
-  "uso: qb07-batch [opzioni] \"|diroot=<radice della suite>|\" verifica NODO.qb7...\n"
-  "     qb07-batch [opzioni] \"|diroot=<radice della suite>|\" disegno  NODO.qb7 USCITA.dis|.dxf|.grb|.svg\n"
-  "     qb07-batch [opzioni] \"|diroot=<radice della suite>|\" esegui   COPIONE   (- per lo standard input)\n"
-  "opzioni: --metodo=ta|slu  --decimale=.|,  --rispondi=ok|annulla  --processi=N  --senza-programmi\n";
+#include "core/testo.h"
+#include "results/riepilogo.h"
 
 static bool Metodo(Opzioni& o, std::string_view v) {
-  o.metodo = v == "ta" ? 0 : v == "slu" ? 1 : -1;
-  return o.metodo >= 0;
+  o.metodo = v == "ta" ? MetodoTA : v == "slu" ? MetodoSLU : -1;
+  o.entrambi = v == "entrambi";
+  return o.metodo >= 0 || o.entrambi;
 }
 
 static bool Decimale(Opzioni& o, std::string_view v) {
@@ -38,38 +36,103 @@ static bool SenzaProgrammi(Opzioni& o, std::string_view v) {
   return v.empty();
 }
 
+static bool Formato(Opzioni& o, std::string_view v) {
+  o.formato = v;
+  return std::ranges::any_of(FORMATI_RIEPILOGO, [v](const RigaFormatoRiepilogo& f) { return v == f.nome; });
+}
+
+static bool Righe(Opzioni& o, std::string_view v) {
+  o.tutteLeRighe = v == "tutte";
+  return v == "tutte" || v == "governanti";
+}
+
+template <std::string Opzioni::*nome>
+static bool NomeFile(Opzioni& o, std::string_view v) {
+  o.*nome = v;
+  return !v.empty();
+}
+
 struct RigaOpzione {
   std::string_view nome;                  // with its equals sign where a value follows
+  const char* valori;
+  const char* aiuto;
   bool (*leggi)(Opzioni& o, std::string_view valore);
+  bool comune;                            // of every verb
 };
 static constexpr RigaOpzione OPZIONI[] = {
-  { "--metodo=", Metodo },
-  { "--decimale=", Decimale },
-  { "--rispondi=", Rispondi },
-  { "--processi=", Processi },
-  { "--senza-programmi", SenzaProgrammi },
+  { "--metodo=",         "ta|slu",      "metodo di verifica, invece di quello del nodo (riepilogo: anche entrambi)", Metodo, true },
+  { "--decimale=",       ".|,",         "segno decimale delle impostazioni locali (senza: quello del sistema)", Decimale, true },
+  { "--rispondi=",       "ok|annulla",  "risposta alle domande (senza: ok)", Rispondi, true },
+  { "--processi=",       "N",           "nodi in lavoro insieme (senza: uno per nucleo)", Processi, true },
+  { "--senza-programmi", "",            "non avvia altri programmi", SenzaProgrammi, true },
+  { "--formato=",        "json|jsonl|csv|csv-it|testo", "forma del risultato (senza: testo a terminale, altrimenti json)", Formato, false },
+  { "--righe=",          "governanti|tutte", "quali controlli (senza: governanti)", Righe, false },
+  { "--uscita=",         "FILE",        "scrive il risultato nel file, per intero o per nulla", NomeFile<&Opzioni::uscita>, false },
+  { "--elenco=",         "FILE|-",      "altri nodi, uno per riga, da un file o dallo standard input", NomeFile<&Opzioni::elenco>, false },
+  { "--riprendi=",       "FILE",        "riprende le righe ancora valide di un risultato jsonl", NomeFile<&Opzioni::riprendi>, false },
 };
 
-static bool LeggiOpzione(std::string_view argomento, Opzioni& o) {
+static bool Ammessa(const RigaOpzione& r, const Verbo* v) {
+  const std::string_view nome = r.nome.substr(0, r.nome.find('='));
+  return r.comune || (v != nullptr && Contiene(std::string(" ") + v->opzioni + " ", std::string(" ") + std::string(nome) + " "));
+}
+
+static bool LeggiOpzione(std::string_view argomento, Opzioni& o, const RigaOpzione*& riga) {
   for (const RigaOpzione& r : OPZIONI)
-    if (argomento.starts_with(r.nome)) return r.leggi(o, argomento.substr(r.nome.size()));
+    if (argomento.starts_with(r.nome)) {
+      riga = &r;
+      return r.leggi(o, argomento.substr(r.nome.size()));
+    }
   return false;
 }
 
-bool LeggiOpzioni(int argc, const char* const* argv, Opzioni& o) {
+const Verbo* TrovaVerbo(std::span<const Verbo> verbi, std::string_view nome) {
+  const auto v = std::ranges::find_if(verbi, [nome](const Verbo& x) { return nome == x.nome; });
+  return v == verbi.end() ? nullptr : &*v;
+}
+
+static bool LeggiArgomenti(int argc, const char* const* argv, Opzioni& o, std::vector<const RigaOpzione*>& usate, std::string& motivo) {
   int posto = 0;                          // arguments that are no option, so far
   for (int k = 1; k < argc; ++k) {
     const std::string_view a = argv[k];
-    if (a.starts_with("--")) {
-      if (!LeggiOpzione(a, o)) return false;
-      continue;
+    const RigaOpzione* riga = nullptr;
+    if (a == "--help") o.aiuto = true;
+    else if (a == "--version") o.versione = true;
+    else if (a.starts_with("--")) {
+      if (!LeggiOpzione(a, o, riga)) {
+        motivo = std::string(a) + ": opzione o valore non valido";
+        return false;
+      }
+      usate.push_back(riga);
+    } else {
+      if (posto == 0) o.rigaComando = a;
+      else if (posto == 1) o.comando = a;
+      else o.argomenti.emplace_back(a);
+      ++posto;
     }
-    if (posto == 0) o.rigaComando = a;
-    else if (posto == 1) o.comando = a;
-    else o.argomenti.emplace_back(a);
-    ++posto;
   }
-  return posto >= 3;
+  return true;
+}
+
+bool LeggiOpzioni(int argc, const char* const* argv, std::span<const Verbo> verbi, Opzioni& o, std::string& motivo) {
+  std::vector<const RigaOpzione*> usate;
+  if (!LeggiArgomenti(argc, argv, o, usate, motivo)) return false;
+  if (o.aiuto || o.versione) return true;
+  const Verbo* v = TrovaVerbo(verbi, o.comando);
+  if (v == nullptr) {
+    motivo = o.comando.empty() ? "manca il comando" : o.comando + ": comando sconosciuto";
+    return false;
+  }
+  for (const RigaOpzione* r : usate)
+    if (!Ammessa(*r, v)) {
+      motivo = std::string(r->nome) + ": non è un'opzione di " + v->nome;
+      return false;
+    }
+  if (o.entrambi && !Contiene(v->opzioni, "--formato")) {
+    motivo = "--metodo=entrambi: non vale per " + std::string(v->nome);
+    return false;
+  }
+  return true;
 }
 
 char DecimaleSistema() {
@@ -79,3 +142,33 @@ char DecimaleSistema() {
   std::setlocale(LC_NUMERIC, "C");
   return mark;
 }
+
+// ---- texts ----
+
+static std::string RigaUso(const Verbo& v) {
+  return std::string("qb07-batch [opzioni] \"|diroot=<radice della suite>|\" ") + v.nome + " " + v.argomenti + "\n";
+}
+
+static std::string RigheOpzioni(const Verbo* v) {
+  std::string t;
+  for (const RigaOpzione& r : OPZIONI) {
+    if (v != nullptr && !Ammessa(r, v)) continue;
+    std::string nome = "  " + std::string(r.nome) + r.valori;
+    if (nome.size() < 26) nome.resize(26, ' ');
+    t += nome + "  " + r.aiuto + "\n";
+  }
+  return t;
+}
+
+constexpr const char* ALTRE =
+  "  --help                    questo testo; con un comando, il suo\n"
+  "  --version                 nome e versione del programma\n"
+  "stato di uscita: 0 fatto e tutto verificato, 1 fatto e qualcosa non è verificato, 2 qualcosa non è stato fatto\n";
+
+std::string Uso(std::span<const Verbo> verbi) {
+  std::string t;
+  for (const Verbo& v : verbi) t += (t.empty() ? "uso: " : "     ") + RigaUso(v) + "       " + v.aiuto + "\n";
+  return t + "opzioni:\n" + RigheOpzioni(nullptr) + ALTRE;
+}
+
+std::string UsoVerbo(const Verbo& v) { return "uso: " + RigaUso(v) + v.aiuto + "\nopzioni:\n" + RigheOpzioni(&v) + ALTRE; }
