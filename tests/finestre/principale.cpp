@@ -1,14 +1,13 @@
 // finestre/principale.cpp - the tests of the windows in one application.
+#include "app/qt/applicazione.h"
 #include "app/qt/lingua.h"
-
-#include <QApplication>
 
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-  QApplication programma(argc, argv);
+  Applicazione programma(argc, argv);
   PreparaLingua();
   return RUN_ALL_TESTS();
 }

@@ -24,6 +24,8 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+
 static void Premi(const Controllo& c) {
   MostraPagina(OggettoDi(c));
   QTest::mouseClick(OggettoDi(c), Qt::LeftButton);
@@ -65,6 +67,43 @@ TEST(Robustezza, LaCroceInMezzoAlDialogoDeiFile) {
   Premi(insDati.Sav_Nodo);
   EXPECT_FALSE(finestre.finita);
   EXPECT_EQ(nodo.NomeNodo, "Nuovo");
+}
+
+static void ChiudiRiquadroDiMemoria() {
+  PoiDavanti([](QWidget* box) {
+    EXPECT_EQ(static_cast<QMessageBox*>(box)->text(), Testo(TESTO_MEMORIA));
+    box->close();
+  });
+}
+
+// A command that finds no memory ends with its box; what was entered stays, and the next command is carried out.
+TEST(Robustezza, ComandoSenzaMemoria) {
+  const Scena s("memoria_comando");
+  InsDati_Singolo(0);
+  const auto scegliFile = piattaforma.scegliFile;
+  piattaforma.scegliFile = [](const RichiestaFile&, std::string&, int&) -> bool { throw std::bad_alloc(); };
+  ChiudiRiquadroDiMemoria();
+  Premi(insDati.Sav_Nodo);
+  piattaforma.scegliFile = scegliFile;
+  EXPECT_EQ(nodo.NumSoll, 1);
+  EXPECT_EQ(finestre.comandi, 0);
+  EXPECT_FALSE(finestre.finita);
+  Premi(insDati.Singolo);
+  EXPECT_EQ(nodo.NumSoll, 2);
+}
+
+// So does an event of the application outside of commands.
+TEST(Robustezza, EventoSenzaMemoria) {
+  struct Esaurito : QObject {
+    bool event(QEvent*) override { throw std::bad_alloc(); }
+  } esaurito;
+  const Scena s("memoria_evento");
+  InsDati_Singolo(0);
+  ChiudiRiquadroDiMemoria();
+  QEvent evento(QEvent::User);
+  EXPECT_FALSE(QCoreApplication::sendEvent(&esaurito, &evento));
+  EXPECT_EQ(nodo.NumSoll, 1);
+  EXPECT_FALSE(finestre.finita);
 }
 
 // The program ends at once; the modal panel's wait ends with it.
