@@ -69,7 +69,7 @@ bool TrovaPercorsi(const std::string& rigaComando) {
   if (!RadiceDa(riga, chiave)) return ErroreFile(FILE_DIRLAV);
   std::string cartella;
   if (!LeggiDirLav(cartella)) return false;
-  // Only now the root itself is judged: its final separator was still there when dirlav was read; deliberate.
+  // Only now the root itself is judged: its final separator was still there when dirlav was read, where a doubled one does no harm.
   if (NumCaratteri(suite.DirRoot) < MIN_RADICE) return ErroreFile(FILE_DIRLAV);
   if (FinisceInSeparatore(suite.DirRoot)) suite.DirRoot.pop_back();
   if (!LeggiLavoro()) return false;

@@ -79,7 +79,7 @@ void LeggiDiametri() {
   while (!FineFile(f)) {
     if (!LeggiRiga(f, riga)) break;
     if (!Contiene(riga, "|") || Minuscolo(PrimiCaratteri(riga, 3)) == "rem") continue;
-    if (contatore > MaxDiam) {     // 99 rows fit, though the text says 100; the count stays at its last value, deliberate
+    if (contatore > MaxDiam) {     // 99 rows fit, though the text says 100; the count stays at its last value: rows read do not count
       Messaggio("Il file " + percorso + " contiene un numero eccessivo di diametri (max " + "100" + ")", TitoloProg,
                 Icona::Esclamazione);
       return;

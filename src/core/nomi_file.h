@@ -15,6 +15,7 @@ std::string ElencoNodi();          // ": 3,7": the structure's nodes that the jo
 std::string TitoloNodi();          // "VERIFICA TENSIONALE NODI: 3,7": the structure's nodes that the joint stands for
 
 // The section's name for the allowable-stress report: the first word and one blank, further words glued behind.
-// A word that no blank follows is dropped, so that a name filling all its characters loses the last one; deliberate.
+// A word that no blank follows is dropped, so that a name filling all its characters loses the last one; only the
+// title shows it.
 std::string NomeProfiloPerRelazione(std::string_view nome);
 std::string TestoSuUnaRiga(std::string_view testo);   // carriage return becomes a blank, line feed vanishes

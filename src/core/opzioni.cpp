@@ -19,7 +19,7 @@ bool LeggiOpzioni() {
   bool riuscita = true;
   for (double& p : suite.ParNodo)
     if (!LeggiValore(f, p)) riuscita = false;
-  suite.ParNodo[OFFSET_QUOTE_INSERITO] = suite.ParNodo[OFFSET_QUOTE];   // also with "Quote inf.": the field then shows the sign, deliberate
+  suite.ParNodo[OFFSET_QUOTE_INSERITO] = suite.ParNodo[OFFSET_QUOTE];   // also with "Quote inf.": the field then shows the sign
   return riuscita;
 }
 

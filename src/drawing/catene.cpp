@@ -103,7 +103,7 @@ void QuoteForiY(double y) {
   Disegna(v, CatenaO, y);
 }
 
-void QuoteNervY(double y) {        // the chamfer along Z on both axes; deliberate
+void QuoteNervY(double y) {        // the chamfer along Z on both axes: on a plate with unlike chamfers the measure is the other rib's
   Valori v;
   MettiConOpposti(v, {-nodo.LatoY / 2, -nodo.Sezione.H / 2 - nodo.NervZ});
   Disegna(v, CatenaO, y);

@@ -88,7 +88,7 @@ struct TrattoTesto {
 std::vector<TrattoTesto> TrattiTesto(std::string_view testo, double x, double y, double angolo, double larghezza, double altezza);
 
 std::int16_t ColoreDaRgb(std::int32_t rgb);     // 0xBBGGRR to index
-std::int32_t RgbDaColore(int indice);           // two palettes, chosen by the scale of the anchor detail; deliberate
+std::int32_t RgbDaColore(int indice);           // two palettes, chosen by the scale of the anchor detail: the option's number serves both
 
 std::int16_t InCorto(double v);                 // ties to even; out of range: the fault, and 0
 std::int16_t ColoreOpz(int i);                  // drawing option i as a colour

@@ -150,7 +150,7 @@ void DisArco(Tela* tela, double x, double y, double diametro, Colore colore, dou
     return;
   }
   if (d.Interrotto) return;
-  // The lines' text; deliberate.
+  // Arcs share the lines' text: the user is told of lines.
   if (d.NumArchi == MaxArchiDis - 1) CapacitaEsaurita("Si è raggiunto il numero massimo di linee.");
   if (d.NumArchi == MaxArchiDis) return;
   const int i = d.NumArchi++;

@@ -142,7 +142,7 @@ void TirafondoPiastraDettaglio(double x, double y0, double k) {
 // Four dimensions whatever the options say of chains, and the plate's label.
 static void DettaglioPiastra(double yc) {
   const double k = suite.ParNodo[19], P7 = suite.ParNodo[7], Fi = nodo.TfFi, R = nodo.TfR, L = nodo.TfL, LFt = nodo.TfLFt;
-  const double Yb = yc - LFt - 6 * P7;         // lengths of the sheet and of the model together; deliberate
+  const double Yb = yc - LFt - 6 * P7;         // lengths of the sheet and of the model together: no effect but the place
   TirafondoPiastraDettaglio(0, Yb, k);
   const auto verticale = [&](double x, double fino) { edizione.quota(x * k, x * k, Yb * k, fino * k, true); };
   edizione.quota(-0.5 * Fi * k, 0.5 * Fi * k, (Yb + P7) * k, (Yb + P7) * k, true);

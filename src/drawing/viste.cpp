@@ -14,7 +14,6 @@
 #include "model/suite.h"
 
 constexpr std::int16_t CONTINUA = 0, NASCOSTA = 1, ASSE = 3;   // disegno.TipoLinCorr
-constexpr double PROF_FORO = 0;    // depth factor of the holes in the footing: the views do not show it, deliberate
 
 static void Linea(double x1, double y1, double x2, double y2) { DisLinea(nullptr, x1, y1, x2, y2); }
 
@@ -64,14 +63,12 @@ static void PiastraVista(double l) {
   LineaConFori(x1, y2, x2, y2, e.NumFori, e.ForiX, e.ForiD);
 }
 
-// The foundation line closing up to the rod at d from the plate's corner.
+// The foundation line closing up to the rod at d from the plate's corner; the hole's depth in the footing is not shown.
 static void ForoPlinto(double l, double d) {
   const double c = esecutivo.VistaX + d - l / 2, y1 = esecutivo.VistaY - nodo.SpessPiastra - nodo.TfHMalta;
-  const double D = nodo.TfDForo, Fi = nodo.TfFi, fondo = y1 - PROF_FORO * nodo.TfLF;
-  DisLineaRel(nullptr, c - D / 2, y1, 0, -PROF_FORO * nodo.TfL);
-  DisLineaRel(nullptr, c + D / 2, y1, 0, -PROF_FORO * nodo.TfLF);
-  Linea(c - D / 2, fondo, c - Fi / 2, fondo);
-  Linea(c + Fi / 2, fondo, c + D / 2, fondo);
+  const double D = nodo.TfDForo, Fi = nodo.TfFi;
+  Linea(c - D / 2, y1, c - Fi / 2, y1);
+  Linea(c + Fi / 2, y1, c + D / 2, y1);
 }
 
 // The grout with its slopes and the foundation line, broken at the n anchors d.

@@ -16,7 +16,7 @@ constexpr int MaxNerv = 8;         // rib positions of the results
 
 // The circle constant of every angle and area, to the digits that positions and results follow from.
 constexpr double PI_PROG = 3.141592;
-// The circle constant of the head plate's bond formula by allowable stresses; deliberate.
+// The circle constant of the head plate's bond formula by allowable stresses: four decimals, two millionths high (unsafe by as much).
 constexpr double PI_TA = 3.1416;
 // Geometric tolerance on each axis, mm.
 constexpr double TOLL_GEO = 0.0001;
@@ -47,7 +47,7 @@ struct MatCls {                    // concrete; stresses daN/cm2
   double Rck = 0, Fck = 0;
   double Riserva1 = 0, Riserva2 = 0;
   double Fcd = 0, GammaC = 0, AlfaCC = 0, Ecm = 0;
-  double SAmm = 0;                 // allowable pressure; the verification by allowable stresses sets it, as told there
+  double SAmm = 0;                 // allowable pressure of the last verification by allowable stresses
   double TauCls = 0;               // bond stress, set by the verification
 };
 

@@ -23,7 +23,7 @@ static constexpr const char* TIPOVER[] = {"Tensioni ammissibili (CNR 10011/88)",
 static constexpr const char* AIUTO_LATO[] = {
     "Inserire il valore del lato piastra lungo Z", "Inserire il valore del lato piastra lungo Y",
     "Inserire il valore dei margini piastra-colonna lungo Z",
-    "Inserire il valore dei margini piastra_colonna lungo Y",           // the underscore is deliberate
+    "Inserire il valore dei margini piastra_colonna lungo Y",           // the underscore is part of the text
     "Inserire lo spessore della piastra"};
 static constexpr const char* AIUTO_LABEL2[] = {"", "", "", "", "Inserire lo spessore della piastra"};
 static constexpr const char* AIUTO_GEOP[] = {"Inserimento dei lati della piastra", "Inserimento dei margini piastra-colonna"};

@@ -44,7 +44,7 @@ void MostraViti(Controllo* etichette, const MatViti& m) {
                      {m.TauAmm * CLASSE_II}});
 }
 
-// The rods take the partial factor of the bolt class, not one of their steel; deliberate.
+// The rods take the partial factor of the bolt class, not one of their steel: they are verified as bolts.
 void MostraTirafondi(Controllo* etichette, const MatAcciaio& m, double gammaM2) {
   const double tau = m.SAmm / std::sqrt(3.0);
   Mostra(etichette, {{m.Fyk}, {gammaM2, true}, {m.Fyk / gammaM2}, {m.Ftk}, {m.Ftk / gammaM2}, {m.SAmm}, {m.SAmm * CLASSE_II}, {tau},

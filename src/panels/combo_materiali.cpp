@@ -1,6 +1,7 @@
 // panels/combo_materiali.cpp - the material combos of the main panel: how the method filters them, what it remembers, and the
 // check of the names that a node file brings.
-// Rule      a selection takes the table entry of its position + 1, also where the filter has dropped entries before it; deliberate.
+// Rule      a selection takes the table entry of its position + 1, also where the filter has dropped entries
+//           before it: the grade shown may then not be the one used, on either side.
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -119,7 +120,7 @@ static void AggiornaProprieta() {
 void InsDati_CheckMatBase(int) {
   nodo.MatAcc = materiali.MatBaseAcc1;
   nodo.MatCls = materiali.MatBaseCls;
-  // A class that the combo does not hold leaves the selection, the copy and the modulus as they are; deliberate.
+  // A class that the combo does not hold leaves the selection and the modulus as they are: its own strengths count, the former class's stiffness.
   ImpostaVoce(insDati.ComboCalcestruzzo, nodo.MatCls.Nome);
   if (!ImpostaVoce(insDati.Acc, nodo.MatAcc.Nome)) {
     Messaggio(TESTO_MAT_BASE, TITOLO_ATTENZIONE, Icona::Esclamazione);
@@ -146,7 +147,7 @@ static void NonAccettabile(const char* inizio, const std::string& nome, const ch
   Messaggio(inizio + std::string(Rifila(nome)) + fine, TitoloProg, Icona::Nessuna);
 }
 
-// Of a replaced material only the name is set; deliberate, the record follows when the combo is selected.
+// Of a replaced material only the name is set: the record follows when the combo is selected.
 static void ControllaAcciaio(MatAcciaio& mat, const MatAcciaio* tabella, int conteggio, const char* ruolo,
                              const char* inizio) {
   if (InTabella(mat.Nome, tabella, conteggio)) return;

@@ -132,7 +132,7 @@ static void MostraTirafondi() {
 }
 
 // Position k - 1 for each row k of the name, so that the last equal one stays; on a combo that the method filtered the
-// position is the table's all the same (deliberate). Blanks at both ends do not count.
+// position is the table's all the same, so that the record is the named grade's whatever the list shows. Blanks at both ends do not count.
 template <class Materiale>
 static void SelezionaPerNome(Controllo& combo, const Materiale* tabella, int conteggio, const std::string& nome) {
   const std::string cercato(Rifila(nome));

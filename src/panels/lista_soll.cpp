@@ -74,7 +74,7 @@ static void RiempiRigaCome(int i, bool zeriVuoti) {
 
 void RiempiRiga(int i) { RiempiRigaCome(i, false); }
 
-// After the removal of a group a component of zero leaves its field empty, where scrolling shows "0"; deliberate.
+// After the removal of a group a component of zero leaves its field empty, where scrolling shows "0": the same value to whoever reads it back.
 static void RiempiRigaDopoRimozione(int i) { RiempiRigaCome(i, true); }
 
 // Rows that have a group are filled and shown, the others hidden.

@@ -228,7 +228,7 @@ void UnisciCoordinate() {
   porta(d.ArcCen, d.NumArchi);
   porta(d.ArcIni, d.NumArchi);
   porta(d.ArcCen2, d.NumArchi);
-  porta(d.TesPos, d.NumTesti);     // the ends of arcs and the circles keep their own; deliberate
+  porta(d.TesPos, d.NumTesti);     // the ends of arcs and the circles keep their own: a coordinate more, no effect on the drawing
 }
 
 // ---- pass 5: unused coordinates ----------------------------------------------------------------------------------------------

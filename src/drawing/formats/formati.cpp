@@ -25,7 +25,7 @@ static bool DisegnaEdizioneDis() {
 }
 
 static bool EsportaDis(const std::string& nomeFile, int silenzioso) { return DisegnaEdizioneDis() && SalvaDis(nomeFile, silenzioso); }
-// The writer with all its options at 0, the boxes among them; deliberate.
+// The writer with all its options at 0, the boxes among them: also a silent export shows them.
 static bool EsportaDxf(const std::string& nomeFile, int) { return DisegnaEdizioneDis() && SalvaDxf(nomeFile, 0, 0, 0, 0, 0); }
 static bool EsportaSvg(const std::string& nomeFile, int silenzioso) { return DisegnaEdizioneDis() && SalvaSvg(nomeFile, silenzioso); }
 

@@ -40,7 +40,7 @@ void TestoGrb(const std::string& testo, double x1, double y1, double x2, double 
 void QuotaGrb(const std::string& testo, double x1, double y1, double x2, double y2, double distanza, std::int16_t stile) {
   Disegno& d = disegno;
   if (d.Interrotto) return;
-  if (d.NumQuote == QuoteGrbAmmesse) {         // each one that is lost says so; texts have another rule, deliberate
+  if (d.NumQuote == QuoteGrbAmmesse) {         // each one that is lost says so; texts are lost behind one message
     Messaggio("Superato il numero massimo di quote", TitoloProg, Icona::Esclamazione);
     return;
   }

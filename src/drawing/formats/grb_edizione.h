@@ -7,7 +7,7 @@
 
 #include "drawing/edizione.h"
 
-constexpr int QuoteGrbAmmesse = 999;           // the tables hold one more; deliberate
+constexpr int QuoteGrbAmmesse = 999;           // the tables hold one more, which stays free
 constexpr const char* TESTO_QUOTA_GRB = "Stringa_di_default";   // of a dimension that shows its measure
 
 enum AllineaGrb : std::int16_t { ALLINEA_INIZIO = 0, ALLINEA_CENTRO = 1, ALLINEA_FINE = 2 };
