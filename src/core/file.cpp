@@ -2,7 +2,7 @@
 #include "core/file.h"
 
 #include <algorithm>
-#include <cstring>
+#include <cstdio>
 #include <filesystem>
 #include <system_error>
 
@@ -87,19 +87,24 @@ bool LeggiIntero(FileLettura& f, Intero& v) {
   return true;
 }
 
-// A file that nobody may write: a rename would replace it all the same.
-bool SolaLettura(const std::string& sistema) {
-  std::error_code e;
-  const fs::file_status stato = fs::status(sistema, e);
-  constexpr fs::perms SCRIVE = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-  return !e && fs::exists(stato) && (stato.permissions() & SCRIVE) == fs::perms::none;
-}
-
-bool ScriviByteFile(std::FILE* file, const std::string& byte) {
-  const bool scritto = std::fwrite(byte.data(), 1, byte.size(), file) == byte.size();
-  const bool svuotato = std::fflush(file) == 0;
-  return std::fclose(file) == 0 && scritto && svuotato;
-}
+struct Motivo { std::errc errore;  const char* testo; };
+constexpr Motivo MOTIVI[] = {
+  { std::errc::no_space_on_device,           "spazio su disco esaurito" },
+  { std::errc::file_too_large,               "dimensione massima dei file superata" },
+  { std::errc::permission_denied,            "permesso negato" },
+  { std::errc::operation_not_permitted,      "permesso negato" },
+  { std::errc::read_only_file_system,        "disco di sola lettura" },
+  { std::errc::no_such_file_or_directory,    "la cartella o il file dietro il collegamento non esiste" },
+  { std::errc::not_a_directory,              "il percorso passa per un file" },
+  { std::errc::is_a_directory,               "il nome è di una cartella" },
+  { std::errc::not_supported,                "il nome non è di un file" },
+  { std::errc::invalid_argument,             "nome non ammesso" },
+  { std::errc::filename_too_long,            "nome troppo lungo" },
+  { std::errc::too_many_symbolic_link_levels, "troppi collegamenti" },
+  { std::errc::too_many_files_open,          "troppi file aperti" },
+  { std::errc::too_many_files_open_in_system, "troppi file aperti" },
+  { std::errc::io_error,                     "errore del disco" },
+};
 
 }  // namespace
 
@@ -187,44 +192,39 @@ bool LeggiValore(FileLettura& f, double& v) {
 bool LeggiValore(FileLettura& f, std::int16_t& v) { return LeggiIntero(f, v); }
 bool LeggiValore(FileLettura& f, std::int32_t& v) { return LeggiIntero(f, v); }
 
-bool ApriScrittura(FileScrittura& f, std::string_view percorso) {
+bool ApriScrittura(FileScrittura& f, std::string_view percorso, Tenuta tenuta) {
   f.testo.clear();
-  const std::string sistema = RisolviPercorso(percorso);
-  if (sistema.empty() || sistema.find('\0') != std::string::npos) return false;
-  f.file = std::fopen(sistema.c_str(), "wb");
-  return f.file != nullptr;
+  f.tenuta = tenuta;
+  f.sistema = RisolviPercorso(percorso);
+  f.errore = ControllaPosto(f.sistema);
+  if (f.errore != std::errc{}) f.sistema.clear();
+  return f.errore == std::errc{};
 }
 
 bool ChiudiScrittura(FileScrittura& f) {
-  if (f.file == nullptr) return false;
+  if (f.sistema.empty()) return false;
   if (!SoloAscii(f.testo)) f.testo = InAnsi(f.testo);
-  const bool riuscita = ScriviByteFile(f.file, f.testo);
-  f.file = nullptr;
+  f.errore = MettiAlPosto(f.sistema, f.testo, f.tenuta);
+  LasciaScrittura(f);
+  return f.errore == std::errc{};
+}
+
+void LasciaScrittura(FileScrittura& f) {
   f.testo.clear();
-  return riuscita;
+  f.sistema.clear();
 }
 
 bool SostituisciFile(std::string_view percorso, std::string_view testo) {
-  std::string sistema = RisolviPercorso(percorso);
-  if (sistema.empty() || sistema.find('\0') != std::string::npos) return false;
-  std::error_code e;
-  if (fs::is_directory(sistema, e)) return false;
-  if (fs::is_symlink(sistema, e)) {
-    const fs::path vero = fs::canonical(sistema, e);
-    if (e) return false;
-    sistema = vero.string();
-  }
-  if (SolaLettura(sistema)) return false;
-  const std::string accanto = sistema + ".~nuovo";
-  std::FILE* file = std::fopen(accanto.c_str(), "wb");
-  if (file == nullptr) return false;
-  bool riuscita = ScriviByteFile(file, InAnsi(testo));
-  if (riuscita) {
-    const fs::file_status stato = fs::status(sistema, e);
-    if (!e && fs::exists(stato)) fs::permissions(accanto, stato.permissions(), e);
-    fs::rename(accanto, sistema, e);
-    riuscita = !e;
-  }
-  if (!riuscita) fs::remove(accanto, e);
-  return riuscita;
+  return MettiAlPosto(RisolviPercorso(percorso), InAnsi(testo), Tenuta::Duratura) == std::errc{};
+}
+
+bool SostituisciByte(std::string_view percorso, std::string_view byte) {
+  return MettiAlPosto(RisolviPercorso(percorso), byte, Tenuta::Rifacibile) == std::errc{};
+}
+
+std::string TestoNonScritto(std::string_view percorso, std::errc errore) {
+  std::string motivo = "errore " + std::to_string(static_cast<int>(errore)) + " del sistema";
+  for (const Motivo& m : MOTIVI)
+    if (m.errore == errore) motivo = m.testo;
+  return "Impossibile scrivere il file " + std::string(percorso) + ": " + motivo + ".";
 }

@@ -6,9 +6,9 @@
 // Failure   false; a reader's failed step also sets passi.fallito and leaves the variable as it was.
 #pragma once
 #include <cstdint>
-#include <cstdio>
 #include <string>
 #include <string_view>
+#include "core/scrittura.h"
 
 std::string RisolviPercorso(std::string_view percorso);     // the system's path; the last component as written if it is new
 bool EsisteFile(std::string_view percorso);                 // a readable regular file
@@ -33,11 +33,18 @@ bool LeggiValore(FileLettura& f, std::int32_t& v);
 
 struct FileScrittura {
   std::string testo;               // UTF-8, gathered; one write at the close
-  std::FILE* file = nullptr;
+  std::string sistema;             // the file's place; empty: not open
+  Tenuta tenuta = Tenuta::Rifacibile;
+  std::errc errore{};              // of the opening or of the close
 };
-// Creates or empties the file at once, so that a failure is met here. The written name, or one equal without regard to case that exists.
-bool ApriScrittura(FileScrittura& f, std::string_view percorso);
+// The place is only looked at, so that what cannot be written is met here; the file changes at the close, at once and whole (scrittura.h).
+// The written name, or one equal without regard to case that exists.
+bool ApriScrittura(FileScrittura& f, std::string_view percorso, Tenuta tenuta = Tenuta::Rifacibile);
 inline void ScriviRiga(FileScrittura& f, std::string_view t) { f.testo.append(t).append("\r\n"); }
-bool ChiudiScrittura(FileScrittura& f);                     // false: a write, flush or close failed; safe when not open
-// Writes aside and renames: a failure at any step leaves the former file whole; a read-only file is a failure. testo is UTF-8 with CR LF in place.
+bool ChiudiScrittura(FileScrittura& f);                     // false: the former file stands; safe when not open
+void LasciaScrittura(FileScrittura& f);                     // given up: the former file stands
+// What cannot be made again, at one stroke. testo is UTF-8 with CR LF in place.
 bool SostituisciFile(std::string_view percorso, std::string_view testo);
+bool SostituisciByte(std::string_view percorso, std::string_view byte);    // bytes as they are, of what can be made again
+// "Impossibile scrivere il file ...: spazio su disco esaurito." for a write that has no box of its own.
+std::string TestoNonScritto(std::string_view percorso, std::errc errore);

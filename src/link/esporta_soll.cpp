@@ -38,10 +38,13 @@ bool ComponiRiga(const ElencoSoll& elenco, int i, std::string& riga) {
 
 EsitoEsporta EsportaSollecitazioni(const std::string& nomeFile, const ElencoSoll& elenco) {
   FileScrittura f;
-  if (!ApriScrittura(f, nomeFile)) return EsitoEsporta::NonAperto;
+  if (!ApriScrittura(f, nomeFile, Tenuta::Duratura)) return EsitoEsporta::NonAperto;
   ScriviRiga(f, Intestazione());
   ScriviRiga(f, "ses\tdescr.Ses.\tN\tTy\tTz\tMt\tMy\tMz");
   std::string riga;
-  for (int i = elenco.primo; i < elenco.primo + elenco.conteggio && ComponiRiga(elenco, i, riga); ++i) ScriviRiga(f, riga);
+  for (int i = elenco.primo; i < elenco.primo + elenco.conteggio; ++i) {
+    if (!ComponiRiga(elenco, i, riga)) return EsitoEsporta::Interrotto;
+    ScriviRiga(f, riga);
+  }
   return ChiudiScrittura(f) ? EsitoEsporta::Scritto : EsitoEsporta::NonScritto;
 }

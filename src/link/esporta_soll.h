@@ -9,6 +9,6 @@ struct ElencoSoll {
   const std::string* nomi = nullptr;
   int conteggio = 0, primo = 1;              // groups primo .. primo + conteggio - 1; the ordinal written counts from 1
 };
-enum class EsitoEsporta { Scritto, NonAperto, NonScritto };
-// No box. A value that overflows in the user's unit is an arithmetic fault: the file is closed with the groups before it.
+enum class EsitoEsporta { Scritto, NonAperto, NonScritto, Interrotto };
+// No box. A value that overflows in the user's unit is an arithmetic fault, Interrotto: the file of before stands.
 EsitoEsporta EsportaSollecitazioni(const std::string& nomeFile, const ElencoSoll& elenco);

@@ -80,6 +80,7 @@ void InsDati_EsportaSollButt(int) {
   insDati.CartellaDialogo.clear();
   switch (EsportaSollecitazioni(nome, ElencoDelNodo())) {
     case EsitoEsporta::Scritto: break;
+    case EsitoEsporta::Interrotto: break;                // the command's end shows the box of the fault
     case EsitoEsporta::NonAperto: Messaggio("Impossibile esportare le sollecitazioni in " + nome, TitoloProg, Icona::Critica); break;
     case EsitoEsporta::NonScritto: Messaggio("Salvataggio fallito", TitoloProg, Icona::Esclamazione); break;
   }

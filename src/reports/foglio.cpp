@@ -17,28 +17,29 @@ std::size_t ByteAttesi(const Lavoro& l) {
   return BYTE_TESTATA + blocco * static_cast<std::size_t>(l.nodo->NumSoll);
 }
 
+// The box of a report that is not written; no arithmetic fault, so none is left raised.
+bool NonScritto(const Foglio& f) {
+  Messaggio(TestoNonScritto(f.percorso, f.file.errore), TitoloProg, Icona::Critica);
+  AzzeraFault();                   // what a host raised while it showed the box is not the program's
+  return false;
+}
+
 }  // namespace
 
 bool ApriFoglio(Foglio& f, const char* metodo) {
   f.percorso = NomeFileRelazione(metodo, CODICE_RELAZIONE);
-  if (!ApriScrittura(f.file, f.percorso)) {
-    SegnalaFault();
-    return false;
-  }
+  if (!ApriScrittura(f.file, f.percorso)) return NonScritto(f);
   f.file.testo.reserve(ByteAttesi(f.l));
   return true;
 }
 
 bool ConcludiFoglio(Foglio& f, bool intero) {
   if (!intero) {
-    ChiudiScrittura(f.file);
+    LasciaScrittura(f.file);
     return false;
   }
   if (!f.l.verificato) Messaggio("ATTENZIONE: nodo non verificato!", TitoloProg, Icona::Esclamazione);
-  if (!ChiudiScrittura(f.file)) {
-    SegnalaFault();
-    return false;
-  }
+  if (!ChiudiScrittura(f.file)) return NonScritto(f);
   piattaforma.mostraTesto(f.percorso);
   return true;
 }

@@ -2,7 +2,7 @@
 // sextet, the closing.
 // State     a Foglio lives in the routine that writes the report.
 // Failure   a line counts only if no arithmetic fault was raised until it is whole; otherwise it is taken back, false comes
-//           back and the report ends there, closed with the lines so far.
+//           back and the report ends there, given up: the file of before stands.
 #pragma once
 #include <cstddef>
 #include <span>
@@ -18,7 +18,7 @@ struct Foglio {
   std::string percorso;            // suite path of the report
 };
 
-bool ApriFoglio(Foglio& f, const char* metodo);        // false: the file cannot be opened, a fault is raised
+bool ApriFoglio(Foglio& f, const char* metodo);        // false: the file cannot be written, its box was shown
 bool ConcludiFoglio(Foglio& f, bool intero);           // box, close, show; what RelazioneTA and RelazioneSLU return
 bool TitoloCombinazione(Foglio& f, int s);             // empty line, name, seventy dashes
 bool EsitoCombinazione(Foglio& f, int s);              // empty line and verdict

@@ -4,11 +4,11 @@
 
 #include <cmath>
 #include <cstddef>
-#include <filesystem>
 #include <random>
 #include <string_view>
 
 #include "core/layout_nodo.h"
+#include "corredo/disco.h"
 #include "model/materiali.h"
 #include "model/stato.h"
 #include "model/suite.h"
@@ -24,11 +24,12 @@ TEST_F(FileNodoGuasti, SalvataggioFallito) {
   EXPECT_EQ(insDati.titolo, "NODO COLONNA - PLINTO - Lavoro: altro");
   // A save that cannot be completed leaves the former file whole.
   const std::string percorso = lavoro + "pilastro_A1.qb7", prima = LeggiByte(percorso);
-  ScriviByte(percorso + ".~nuovo/occupato", "");   // the file written aside cannot be created
-  Salva(percorso);
+  {
+    const DiscoPieno pieno;
+    Salva(percorso);
+  }
   EXPECT_EQ(Box(SALVATAGGIO), 2);
   EXPECT_EQ(LeggiByte(percorso), prima);
-  std::filesystem::remove_all(percorso + ".~nuovo");
   nodo.LatoZ = HUGE_VAL;                           // a value that no file can hold
   Salva(percorso);
   EXPECT_EQ(Box(SALVATAGGIO), 3);

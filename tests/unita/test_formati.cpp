@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "core/zone.h"
+#include "corredo/disco.h"
 #include "corredo/registratore.h"
 #include "drawing/disegno.h"
 #include "drawing/formats/carta.h"
@@ -127,20 +128,36 @@ TEST_F(Dis, BoxSecondoSilenzioso) {
   }
 }
 
-// /dev/full opens and refuses what is written.
-TEST_F(Dis, DiscoPieno) {
-  std::error_code errore;
-  std::filesystem::create_symlink("/dev/full", cartella + "/prova.dis", errore);
-  if (errore || !std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no /dev/full here";
+// The drawing of before stands whole, and nothing beside it.
+TEST_F(Dis, DiscoSenzaPosto) {
+  ScriviByte(cartella + "/prova.dis", "di prima");
   const std::vector<std::string> box = {"[messaggio] nessuna | ERRORE | Errore durante la scrittura sul file" + nome};
   const auto dxf = [](const std::string& n, int silenzioso) { return SalvaDxf(n, 0, 0, 0, 0, silenzioso); };
   for (bool (*scrivi)(const std::string&, int) : {SalvaDis, +dxf, ScriviGrb, SalvaSvg}) {
+    const DiscoPieno pieno;
     registratore.eventi.clear();
     EXPECT_FALSE(scrivi(nome, 0));
     EXPECT_EQ(registratore.eventi, box);
     registratore.eventi.clear();
     EXPECT_FALSE(scrivi(nome, 2));
     EXPECT_TRUE(registratore.eventi.empty());
+  }
+  EXPECT_EQ(LeggiByte(cartella + "/prova.dis"), "di prima");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(cartella), {}), 1);
+}
+
+// A device is refused as a file that cannot be opened: never written, never replaced.
+TEST_F(Dis, Dispositivo) {
+  if (!MettiDispositivo(cartella + "/prova.dis")) GTEST_SKIP() << "no device to be had";
+  const std::string scrittura = "[messaggio] nessuna | ERRORE | Errore durante la scrittura sul file" + nome;
+  const std::string apertura = "[messaggio] esclamazione | NODO COLONNA - PLINTO | ERRORE: non riesco ad aprire il file " + nome;
+  const auto dxf = [](const std::string& n, int silenzioso) { return SalvaDxf(n, 0, 0, 0, 0, silenzioso); };
+  struct Caso { bool (*scrivi)(const std::string&, int);  const std::string& box; };
+  for (const Caso& c : {Caso{SalvaDis, scrittura}, Caso{+dxf, apertura}, Caso{ScriviGrb, scrittura}, Caso{SalvaSvg, scrittura}}) {
+    registratore.eventi.clear();
+    EXPECT_FALSE(c.scrivi(nome, 0));
+    EXPECT_EQ(registratore.eventi, std::vector<std::string>{c.box});
+    EXPECT_TRUE(std::filesystem::is_character_file(cartella + "/prova.dis"));
   }
 }
 

@@ -60,7 +60,8 @@ TEST_F(Pannello71, VerificaDoneAndStopped) {
   suite.DirLavoro += "/manca";                       // the report cannot be opened
   Scatena(InsDati, insDati.Verifica, Evento::Cambio);
   EXPECT_EQ(verificaPannello.esito, EsitoVerifica::Interrotta);
-  EXPECT_EQ(registratore.eventi, (Testi{"[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: la verifica non può continuare."}));
+  EXPECT_EQ(registratore.eventi, (Testi{"[messaggio] critica | NODO COLONNA - PLINTO | Impossibile scrivere il file " + suite.DirLavoro +
+                                        "\\RelTA_QB07_.txt: la cartella o il file dietro il collegamento non esiste."}));
   EXPECT_FALSE(registratore.attesa);
   EXPECT_EQ(registratore.fuoco, &insDati.Verifica);
 }

@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <set>
 
+#include "core/aritmetica.h"
+#include "corredo/disco.h"
 #include "panels/FormTF.h"
 #include "panels/Op_Nodo.h"
 #include "panels/pannelli.h"
@@ -286,15 +288,39 @@ TEST_F(Pannelli_, EsportaSuFile) {
   EXPECT_EQ(UltimoEvento(), "[messaggio] critica | NODO COLONNA - PLINTO | Impossibile esportare le sollecitazioni in " + suite.DirLavoro + "\\manca\\x.txt");
 }
 
-// /dev/full opens and refuses what is written.
 TEST_F(Pannelli_, EsportaSuUnDiscoPieno) {
-  std::error_code errore;
-  std::filesystem::create_symlink("/dev/full", lavoro + "pieno.txt", errore);
-  if (errore || !std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no /dev/full here";
+  ScriviByte(lavoro + "pieno.txt", "di prima");
   Premi(InsDati, "Singolo");
   registratore.file.emplace_back(suite.DirLavoro + "\\pieno.txt", 1);
-  Premi(InsDati, "EsportaSollButt");
+  {
+    const DiscoPieno pieno;
+    Premi(InsDati, "EsportaSollButt");
+  }
   EXPECT_EQ(UltimoEvento(), "[messaggio] esclamazione | NODO COLONNA - PLINTO | Salvataggio fallito");
+  EXPECT_EQ(LeggiByte(lavoro + "pieno.txt"), "di prima");
+}
+
+TEST_F(Pannelli_, EsportaSuUnDispositivo) {
+  if (!MettiDispositivo(lavoro + "nulla.txt")) GTEST_SKIP() << "no device to be had";
+  Premi(InsDati, "Singolo");
+  registratore.file.emplace_back(suite.DirLavoro + "\\nulla.txt", 1);
+  Premi(InsDati, "EsportaSollButt");
+  EXPECT_EQ(UltimoEvento(), "[messaggio] critica | NODO COLONNA - PLINTO | Impossibile esportare le sollecitazioni in " + suite.DirLavoro + "\\nulla.txt");
+  EXPECT_TRUE(std::filesystem::is_character_file(lavoro + "nulla.txt"));
+}
+
+// A load that overflows in the user's unit: the fault's box alone, and the list of before.
+TEST_F(Pannelli_, EsportaUnCaricoCheTrabocca) {
+  ScriviByte(lavoro + "carichi.txt", "di prima");
+  Premi(InsDati, "Singolo");
+  nodo.SollN[1] = 1e308;
+  suite.FattForze = 100;
+  registratore.file.emplace_back(suite.DirLavoro + "\\carichi.txt", 1);
+  registratore.eventi.clear();
+  Premi(InsDati, "EsportaSollButt");
+  ASSERT_EQ(registratore.eventi.size(), 2u);                // the dialog's line and the box
+  EXPECT_EQ(UltimoEvento(), std::string("[messaggio] critica | NODO COLONNA - PLINTO | ") + TESTO_FAULT);
+  EXPECT_EQ(LeggiByte(lavoro + "carichi.txt"), "di prima");
 }
 
 // ---- viewer, options and the drawing ----

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "core/numeri.h"
+#include "corredo/disco.h"
 #include "model/stato.h"
 #include "reports/celle.h"
 #include "reports/foglio.h"
@@ -147,6 +148,7 @@ TEST_F(RelazioniComuni, UnValoreNonFinitoEUnFault) {
 }
 
 TEST_F(RelazioniComuni, LaRigaDelFaultSiRitira) {
+  ScriviByte(FileTA(), "di prima");
   Foglio f{lavoro, {}, {}};
   ASSERT_TRUE(ApriFoglio(f, "TA"));
   ASSERT_TRUE(Riga(f, "prima ", 1.5));
@@ -154,7 +156,7 @@ TEST_F(RelazioniComuni, LaRigaDelFaultSiRitira) {
   EXPECT_FALSE(Riga(f, "seconda ", 1 / zero));
   EXPECT_EQ(f.file.testo, "prima 1.5\r\n");
   EXPECT_FALSE(ConcludiFoglio(f, false));
-  EXPECT_EQ(LeggiByte(FileTA()), "prima 1.5\r\n");
+  EXPECT_EQ(LeggiByte(FileTA()), "di prima");            // the report is given up, the former one stands
 }
 
 // What the platform saw of the file, at the box and when it was shown.
@@ -187,24 +189,36 @@ TEST_F(RelazioniComuni, ChiusuraSenzaBox) {
   EXPECT_EQ(registratore.eventi, (std::vector<std::string>{"[testo] " + FileSLU()}));
 }
 
+std::vector<std::string> Box(const std::string& file, const std::string& motivo) {
+  return {"[messaggio] critica | NODO COLONNA - PLINTO | Impossibile scrivere il file " + file + ": " + motivo + "."};
+}
+
 TEST_F(RelazioniComuni, FileCheNonSiApre) {
   suite.DirLavoro += "/manca";
   EXPECT_FALSE(GiudicaEScrivi(MetodoTA));
-  EXPECT_FALSE(lavoro.fermo.c_e);
-  EXPECT_TRUE(FaultAritmetico());                        // the caller shows the box
-  EXPECT_TRUE(registratore.eventi.empty());
+  EXPECT_FALSE(FaultAritmetico());                       // no second box from the caller
+  EXPECT_EQ(registratore.eventi, Box(suite.DirLavoro + "\\RelTA_QB07_Prova.txt", "la cartella o il file dietro il collegamento non esiste"));
   EXPECT_FALSE(Scritta());
 }
 
-// A device that takes no byte: the report could be opened, not written. A fault, and no viewer.
+// A disk without room: the report of before stands, the box tells file and reason, no viewer.
 TEST_F(RelazioniComuni, FileCheNonSiScrive) {
-  if (!std::filesystem::exists("/dev/full")) GTEST_SKIP();
-  std::filesystem::create_symlink("/dev/full", FileTA());
-  EXPECT_FALSE(GiudicaEScrivi(MetodoTA));
-  EXPECT_FALSE(lavoro.fermo.c_e);
-  EXPECT_TRUE(FaultAritmetico());
-  EXPECT_TRUE(registratore.eventi.empty());
+  ScriviByte(FileTA(), "di prima");
+  {
+    const DiscoPieno pieno;
+    EXPECT_FALSE(GiudicaEScrivi(MetodoTA));
+  }
+  EXPECT_FALSE(FaultAritmetico());
+  EXPECT_EQ(registratore.eventi, Box(suite.DirLavoro + "\\RelTA_QB07_Prova.txt", "dimensione massima dei file superata"));
   EXPECT_FALSE(Scritta());
+  EXPECT_EQ(LeggiByte(FileTA()), "di prima");
+}
+
+TEST_F(RelazioniComuni, UnDispositivoNonSiSostituisce) {
+  if (!MettiDispositivo(FileTA())) GTEST_SKIP() << "no device to be had";
+  EXPECT_FALSE(GiudicaEScrivi(MetodoTA));
+  EXPECT_EQ(registratore.eventi, Box(suite.DirLavoro + "\\RelTA_QB07_Prova.txt", "il nome non è di un file"));
+  EXPECT_TRUE(std::filesystem::is_character_file(FileTA()));
 }
 
 TEST_F(RelazioniComuni, LaRelazioneDiPrimaSiSostituisce) {

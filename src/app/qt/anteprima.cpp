@@ -2,11 +2,13 @@
 #include "app/qt/anteprima.h"
 
 #include "app/qt/pitture.h"
+#include "core/file.h"
 #include "drawing/disegno.h"
 #include "drawing/edizione.h"
 #include "drawing/formats/carta.h"
 #include "drawing/formats/formati.h"
 
+#include <QBuffer>
 #include <QImage>
 #include <QPageLayout>
 #include <QPainter>
@@ -114,8 +116,15 @@ static QTransform VistaFoglio(const FoglioVisto& f, const QRectF& pagina) {
 
 // ---- files ----
 
+// Made in memory; the file comes to stand as every other does.
+static bool ScriviBuffer(const QBuffer& b, const QString& file) {
+  return SostituisciByte(Utf8(file), {b.data().constData(), static_cast<std::size_t>(b.data().size())});
+}
+
 bool SalvaFoglioPdf(const FoglioVisto& f, const QString& file) {
-  QPdfWriter pdf(file);
+  QBuffer byte;
+  if (!byte.open(QIODevice::WriteOnly)) return false;
+  QPdfWriter pdf(&byte);
   pdf.setTitle("NODO COLONNA - PLINTO");
   pdf.setResolution(600);
   pdf.setPageSize(QPageSize(QPageSize::A3));
@@ -124,7 +133,7 @@ bool SalvaFoglioPdf(const FoglioVisto& f, const QString& file) {
   QPainter p;
   if (!p.begin(&pdf)) return false;
   DipingiFoglio(p, f, VistaFoglio(f, QRectF(0, 0, pdf.width(), pdf.height())));
-  return p.end();
+  return p.end() && ScriviBuffer(byte, file);
 }
 
 bool SalvaFoglioPng(const FoglioVisto& f, const QString& file) {
@@ -136,5 +145,6 @@ bool SalvaFoglioPng(const FoglioVisto& f, const QString& file) {
   p.setRenderHint(QPainter::Antialiasing);
   DipingiFoglio(p, f, VistaFoglio(f, immagine.rect()));
   p.end();
-  return immagine.save(file, "PNG");
+  QBuffer byte;
+  return byte.open(QIODevice::WriteOnly) && immagine.save(&byte, "PNG") && ScriviBuffer(byte, file);
 }

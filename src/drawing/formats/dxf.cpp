@@ -232,15 +232,16 @@ bool SalvaDxf(const std::string& nomeFile, int testoLinee, int mono, double scal
   bool esito = true;
   if (testoLinee == 1) ScriviTestiALinee(f);
   else esito = ScriviTesti(f);
-  if (esito) {
-    ScriviArchi(f);
-    f.t->append(" 0" RIGA "ENDSEC" RIGA " 0" RIGA "EOF" RIGA);
+  if (!esito) {
+    MostraFault();
+    return false;
   }
+  ScriviArchi(f);
+  f.t->append(" 0" RIGA "ENDSEC" RIGA " 0" RIGA "EOF" RIGA);
   if (!ChiudiScrittura(file)) {
     ErroreScrittura(nomeFile, silenzioso);
     return false;
   }
-  if (!esito) MostraFault();
-  else if (silenzioso <= 0) MessaggioFinale(nomeFile, scala, spezzate);
-  return esito;
+  if (silenzioso <= 0) MessaggioFinale(nomeFile, scala, spezzate);
+  return true;
 }

@@ -1,6 +1,6 @@
 // drawing/formats/scrittori.h - writers of the store, one file each, and what they prepare.
 // nomeFile    suite path; silenzioso: 0 all boxes, 1 and above no success box, 2 no box at all.
-// Returns     true: the file was written whole. A failure shows its own box; the file stays as far as it got.
+// Returns     true: the file was written whole. A failure shows its own box; the file of before stands whole.
 #pragma once
 #include <string>
 
