@@ -106,10 +106,21 @@ constexpr Motivo MOTIVI[] = {
   { std::errc::io_error,                     "errore del disco" },
 };
 
+// With the system's separators, a run of them as one.
+std::string ComeScritto(std::string_view percorso) {
+  std::string sistema;
+  for (const char c : percorso)
+    if (!Separa(c)) sistema += c;
+    else if (sistema.empty() || sistema.back() != '/') sistema += '/';
+  return sistema;
+}
+
 }  // namespace
 
 std::string RisolviPercorso(std::string_view percorso) {
-  std::string sistema;
+  std::string sistema = ComeScritto(percorso);
+  if (Esiste(sistema)) return sistema;             // every component stands as it is written: one question in place of one each
+  sistema.clear();
   for (std::size_t i = 0; i < percorso.size();) {
     if (Separa(percorso[i])) {
       if (sistema.empty() || sistema.back() != '/') sistema += '/';

@@ -62,7 +62,7 @@ std::errc Esamina(const std::string& sistema, Posto& p) {
   if (p.esiste)
     if (const std::errc e = EsaminaFile(p); e != std::errc{}) return e;
   p.cartella = p.percorso.substr(0, p.percorso.find_last_of('/') + 1);
-  return faccessat(AT_FDCWD, p.cartella.empty() ? "." : p.cartella.c_str(), W_OK | X_OK, AT_EACCESS) == 0 ? std::errc{} : Errore();
+  return {};
 }
 
 // Opened before anything is changed. A folder that may be written and not read cannot be synced: -1 and no error.
@@ -130,7 +130,8 @@ std::errc ScriviAccanto(const Posto& p, std::string_view byte, Tenuta tenuta, st
 
 std::errc ControllaPosto(const std::string& sistema) {
   Posto p;
-  return Esamina(sistema, p);
+  if (const std::errc e = Esamina(sistema, p); e != std::errc{}) return e;
+  return faccessat(AT_FDCWD, p.cartella.empty() ? "." : p.cartella.c_str(), W_OK | X_OK, AT_EACCESS) == 0 ? std::errc{} : Errore();
 }
 
 std::errc MettiAlPosto(const std::string& sistema, std::string_view byte, Tenuta tenuta) {
