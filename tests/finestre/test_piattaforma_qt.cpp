@@ -3,6 +3,8 @@
 #include "app/qt/finestre.h"
 #include "app/qt/mostra_testo.h"
 #include "app/qt/piattaforma_qt.h"
+#include "corredo/disco.h"
+#include "corredo/registratore.h"
 #include "drawing/disegno.h"
 #include "panels/InsDati.h"
 #include "scena.h"
@@ -205,6 +207,21 @@ TEST(PiattaformaQt, LAnteprimaHaTuttoIlDisegno) {
   const QImage immagine(cartella.filePath("a.png"));
   EXPECT_EQ(std::max(immagine.width(), immagine.height()), 4000);
   EXPECT_FALSE(SalvaFoglioPng(foglio, cartella.filePath("manca/a.png")));
+  // A picture that cannot be written whole leaves the one of before.
+  for (bool (*salva)(const FoglioVisto&, const QString&) : {SalvaFoglioPdf, SalvaFoglioPng}) {
+    const QString nome = cartella.filePath("di_prima");
+    ScriviByte(Utf8(nome), "di prima");
+    {
+      const DiscoPieno pieno;
+      EXPECT_FALSE(salva(foglio, nome));
+    }
+    EXPECT_EQ(LeggiByte(Utf8(nome)), "di prima");
+    EXPECT_EQ(QDir(cartella.path()).entryList(QDir::Files | QDir::Hidden), (QStringList{"a.pdf", "a.png", "di_prima"}));
+    QFile::remove(nome);
+    ASSERT_TRUE(QDir().mkdir(nome));
+    EXPECT_FALSE(salva(foglio, nome));
+    QDir().rmdir(nome);
+  }
 }
 
 TEST(PiattaformaQt, LAnteprimaSiApreDalSuoComando) {

@@ -1,6 +1,7 @@
 // app/qt/anteprima.cpp - copy of the store, its painting, the files.
 #include "app/qt/anteprima.h"
 
+#include "app/qt/finestre.h"
 #include "app/qt/pitture.h"
 #include "core/file.h"
 #include "drawing/disegno.h"
