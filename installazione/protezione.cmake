@@ -1,0 +1,40 @@
+# Hardening of everything that is compiled, in a release without sanitizers: code at an address of its own, tables read-only once bound and
+# bound at the start, guarded stacks, checked copies, large frames touched page by page, landing pads of indirect jumps. What compiler,
+# linker or C library do not have is left out. None of it touches arithmetic.
+include(CheckCXXCompilerFlag)
+include(CheckCXXSourceCompiles)
+include(CheckLinkerFlag)
+include(CheckPIESupported)
+
+check_pie_supported(LANGUAGES CXX)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)          # a call within the program stays a direct one
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+if(NOT QB07_SANITIZE)
+  set(rilascio $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
+  foreach(opzione -fstack-protector-strong -fstack-clash-protection -fcf-protection)
+    string(MAKE_C_IDENTIFIER QB07_HA${opzione} nome)
+    check_cxx_compiler_flag(${opzione} ${nome})
+    if(${nome})
+      add_compile_options($<${rilascio}:${opzione}>)
+    endif()
+  endforeach()
+  foreach(opzione -Wl,-z,relro -Wl,-z,now)
+    string(MAKE_C_IDENTIFIER QB07_HA${opzione} nome)
+    check_linker_flag(CXX ${opzione} ${nome})
+    if(${nome})
+      add_link_options($<${rilascio}:${opzione}>)
+    endif()
+  endforeach()
+  # A level that the C library or the compiler has not ends in a warning of its headers.
+  foreach(livello 3 2)
+    set(CMAKE_REQUIRED_FLAGS "-O2 -Werror -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=${livello}")
+    check_cxx_source_compiles("#include <cstdio>\nint main() { return std::puts(\"\") < 0; }" QB07_HA_FORTIFY_${livello})
+    unset(CMAKE_REQUIRED_FLAGS)
+    if(QB07_HA_FORTIFY_${livello})
+      add_compile_options($<${rilascio}:-U_FORTIFY_SOURCE> $<${rilascio}:-D_FORTIFY_SOURCE=${livello}>)
+      break()
+    endif()
+  endforeach()
+endif()
