@@ -1,4 +1,4 @@
-// core/comando.cpp - the head of a command that names a program.
+// core/comando.cpp - a program by its path.
 #include "core/comando.h"
 
 #include "core/file.h"
@@ -16,23 +16,11 @@ static bool Eseguibile(const std::string& percorso) {
   return !errore && fs::is_regular_file(s) && (s.permissions() & esecuzione) != fs::perms::none;
 }
 
-// The executable file that this head of a command names, "" none.
-static std::string TrovaProgramma(std::string_view testa) {
-  if (testa.empty()) return {};
-  const std::string scritto = RisolviPercorso(testa);
+std::string TrovaProgramma(std::string_view programma) {
+  if (programma.empty() || programma.find('\0') != std::string_view::npos) return {};   // the system would cut the name at a NUL
+  const std::string scritto = RisolviPercorso(programma);
   if (Eseguibile(scritto)) return scritto;
-  const bool exe = testa.size() > 4 && UgualeSenzaMaiuscole(testa.substr(testa.size() - 4), ".exe");
-  const std::string altro = RisolviPercorso(exe ? std::string(testa.substr(0, testa.size() - 4)) : std::string(testa) + ".exe");
+  const bool exe = programma.size() > 4 && UgualeSenzaMaiuscole(programma.substr(programma.size() - 4), ".exe");
+  const std::string altro = RisolviPercorso(exe ? std::string(programma.substr(0, programma.size() - 4)) : std::string(programma) + ".exe");
   return Eseguibile(altro) ? altro : std::string();
-}
-
-bool DividiComando(std::string_view comando, std::string& programma, std::string& argomento) {
-  std::size_t fine = 0;
-  do {
-    fine = comando.find(' ', fine);
-    programma = TrovaProgramma(comando.substr(0, fine));
-    if (programma.empty() && fine != std::string_view::npos) ++fine;
-  } while (programma.empty() && fine != std::string_view::npos);
-  argomento = fine == std::string_view::npos ? std::string() : std::string(comando.substr(fine + 1));
-  return !programma.empty();
 }

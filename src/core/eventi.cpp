@@ -42,8 +42,12 @@ std::string RigaFile(const RichiestaFile& r, bool scelto, std::string_view perco
          SuUnaRiga(r.nomeIniziale) + " -> " + (scelto ? SuUnaRiga(RisolviPercorso(percorso)) : "Annulla");
 }
 
-std::string RigaProgramma(std::string_view comando) { return "[programma] " + SuUnaRiga(comando); }
-std::string RigaAvvia(std::string_view comando) { return "[avvia] " + SuUnaRiga(comando); }
+static std::string Comando(const char* genere, std::string_view programma, std::string_view argomento) {
+  return genere + SuUnaRiga(programma) + (argomento.empty() ? "" : " " + SuUnaRiga(argomento));
+}
+
+std::string RigaProgramma(std::string_view programma, std::string_view argomento) { return Comando("[programma] ", programma, argomento); }
+std::string RigaAvvia(std::string_view programma, std::string_view argomento) { return Comando("[avvia] ", programma, argomento); }
 std::string RigaTasti(std::string_view finestra, std::string_view tasti) {
   return "[tasti] " + SuUnaRiga(finestra) + " | " + SuUnaRiga(tasti);
 }

@@ -13,8 +13,8 @@ const char* NomeIcona(Icona icona);                           // critica, esclam
 std::string RigaMessaggio(std::string_view testo, std::string_view titolo, Icona icona);
 std::string RigaDomanda(std::string_view testo, std::string_view titolo, Icona icona, bool ok);
 std::string RigaFile(const RichiestaFile& r, bool scelto, std::string_view percorso);   // scelto false: Annulla
-std::string RigaProgramma(std::string_view comando);          // run to its end
-std::string RigaAvvia(std::string_view comando);              // started, not waited for
+std::string RigaProgramma(std::string_view programma, std::string_view argomento);      // run to its end; a blank between, if there is an argument
+std::string RigaAvvia(std::string_view programma, std::string_view argomento);          // started, not waited for
 std::string RigaTasti(std::string_view finestra, std::string_view tasti);
 std::string RigaTesto(std::string_view percorso);             // a text file shown
 std::string RigaAiuto(std::string_view percorso);             // the help file shown

@@ -18,8 +18,8 @@ Piattaforma PiattaformaAssente() {
   p.messaggio = [](const std::string&, const std::string&, Icona) { Assente("messaggio"); };
   p.domanda = [](const std::string&, const std::string&, Icona) -> bool { Assente("domanda"); };
   p.scegliFile = [](const RichiestaFile&, std::string&, int&) -> bool { Assente("scegliFile"); };
-  p.esegui = [](const std::string&) -> bool { Assente("esegui"); };
-  p.avvia = [](const std::string&) -> bool { Assente("avvia"); };
+  p.esegui = [](const std::string&, const std::string&) -> bool { Assente("esegui"); };
+  p.avvia = [](const std::string&, const std::string&) -> bool { Assente("avvia"); };
   p.attivaFinestra = [](const std::string&) -> bool { Assente("attivaFinestra"); };
   p.tasti = [](const std::string&, const std::string&) { Assente("tasti"); };
   p.mostraTesto = [](const std::string&) { Assente("mostraTesto"); };

@@ -23,8 +23,10 @@ struct Piattaforma {
   void (*messaggio)(const std::string& testo, const std::string& titolo, Icona) = nullptr;
   bool (*domanda)(const std::string& testo, const std::string& titolo, Icona) = nullptr;   // true OK, false Annulla
   bool (*scegliFile)(const RichiestaFile&, std::string& percorso, int& filtro) = nullptr;  // false Annulla; filtro from 1
-  bool (*esegui)(const std::string& comando) = nullptr;          // runs to its end; false: could not be started
-  bool (*avvia)(const std::string& comando) = nullptr;           // does not wait
+  // Outside programs: the program's path, suite path, and all that it is handed, as one argument (empty: none). Never joined into one line
+  // that would have to be cut again.
+  bool (*esegui)(const std::string& programma, const std::string& argomento) = nullptr;    // runs to its end; false: could not be started
+  bool (*avvia)(const std::string& programma, const std::string& argomento) = nullptr;     // does not wait
   bool (*attivaFinestra)(const std::string& titolo) = nullptr;   // false: no such window
   void (*tasti)(const std::string& finestra, const std::string& tasti) = nullptr;
   void (*mostraTesto)(const std::string& percorso) = nullptr;    // a finished text file, suite path

@@ -28,7 +28,7 @@ void ScriviDomanda(const std::string& percorso, std::initializer_list<std::strin
 }
 
 bool EseguiRicerca(const std::string& programma, const std::string& seguito) {
-  if (piattaforma.esegui(suite.DirProgra + programma + " |Diroot=" + suite.DirRoot + "|" + seguito)) return true;
+  if (piattaforma.esegui(suite.DirProgra + programma, "|Diroot=" + suite.DirRoot + "|" + seguito)) return true;
   Messaggio("Problemi con l'apertura dell'applicazione di ricerca", "Errore", Icona::Critica);
   return false;
 }

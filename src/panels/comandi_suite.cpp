@@ -40,7 +40,7 @@ static void ChiamaUnimis(Controllo& campo, const std::string& unita, int categor
   if (!Val(campo.testo, v)) return;
   const std::string argomenti = "|primcipale=0|uniprinctesto=" + unita + "|categoriadiingresso=" + std::to_string(categoria) + "|valoreingresso=" +
                                 NumeroPiano(v) + "|fileout=" + suite.DirLavoro + "\\TQ_fermix.tmp|";
-  if (!piattaforma.esegui(suite.DirProgra + "\\tq_fermix.exe " + argomenti)) return;
+  if (!piattaforma.esegui(suite.DirProgra + "\\tq_fermix.exe", argomenti)) return;
   FileLettura f;
   std::string riga;
   if (!ApriLettura(f, suite.DirLavoro + "\\tq_fermix.tmp") || !LeggiRiga(f, riga)) {

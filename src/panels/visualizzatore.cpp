@@ -30,7 +30,7 @@ static bool ChiamaVisualizzatore() {
     return true;
   }
   ScriviIngresso();
-  if (piattaforma.avvia(suite.DirProgra + "\\lumvet.exe")) return true;
+  if (piattaforma.avvia(suite.DirProgra + "\\lumvet.exe", "")) return true;
   Messaggio("Visualizzatore incompleto o mancante", "ERRORE", Icona::Esclamazione);
   return false;
 }

@@ -44,14 +44,14 @@ static bool RegFile(const RichiestaFile& r, std::string& percorso, int& filtro) 
   return scelto;
 }
 
-static bool Programma(const std::string& comando, std::string riga) {
+static bool Programma(const std::string& programma, const std::string& argomento, std::string riga) {
   if (!registratore.programmi) return false;
   Evento(std::move(riga));
-  return registratore.eseguito == nullptr || registratore.eseguito(comando);
+  return registratore.eseguito == nullptr || registratore.eseguito(programma, argomento);
 }
 
-static bool RegEsegui(const std::string& comando) { return Programma(comando, RigaProgramma(comando)); }
-static bool RegAvvia(const std::string& comando) { return Programma(comando, RigaAvvia(comando)); }
+static bool RegEsegui(const std::string& p, const std::string& a) { return Programma(p, a, RigaProgramma(p, a)); }
+static bool RegAvvia(const std::string& p, const std::string& a) { return Programma(p, a, RigaAvvia(p, a)); }
 
 static bool RegAttivaFinestra(const std::string& titolo) {
   for (const std::string& f : registratore.finestre)

@@ -16,7 +16,7 @@ struct Registratore {
   std::vector<bool> risposte;                             // queued answers to questions, first first; then OK
   std::vector<std::pair<std::string, int>> file;          // queued answers to file dialogs: path ("" = Annulla), filter; then Annulla
   bool programmi = false;                                 // outside programs can be started
-  bool (*eseguito)(const std::string& comando) = nullptr; // plays an outside program; false: could not be started
+  bool (*eseguito)(const std::string& programma, const std::string& argomento) = nullptr;   // plays an outside program; false: could not be started
   std::vector<std::string> finestre;                      // titles of the windows that can be activated
   std::vector<void (*)()> dentro;                         // what the user does in each modal panel that opens, first first
   std::vector<std::string> pannelli;                      // names of the panels opened, in order

@@ -136,9 +136,9 @@ static bool RobotScegliFile(const RichiestaFile& r, std::string& percorso, int& 
   return scelto;
 }
 
-static bool RobotEsegui(const std::string& comando) {
-  if (ospite.opzioni.senzaProgrammi || !robot.finestre.esegui(comando)) return false;
-  Stampa(RigaProgramma(comando));
+static bool RobotEsegui(const std::string& programma, const std::string& argomento) {
+  if (ospite.opzioni.senzaProgrammi || !robot.finestre.esegui(programma, argomento)) return false;
+  Stampa(RigaProgramma(programma, argomento));
   return true;
 }
 

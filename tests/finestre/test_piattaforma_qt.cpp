@@ -101,14 +101,14 @@ TEST(PiattaformaQt, IProgrammiSenzaShell) {
   f.write("#!/bin/sh\necho \"$#:$1\" > \"$0.esito\"\n");
   f.close();
   f.setPermissions(f.permissions() | QFile::ExeOwner);
-  EXPECT_TRUE(piattaforma.esegui(Utf8(programma) + ".exe |Diroot=a b| $HOME ; x"));
+  EXPECT_TRUE(piattaforma.esegui(Utf8(programma) + ".exe", "|Diroot=a b| $HOME ; x"));
   QFile esito(programma + ".esito");
   ASSERT_TRUE(esito.open(QIODevice::ReadOnly));
   EXPECT_EQ(esito.readAll(), "1:|Diroot=a b| $HOME ; x\n");
   EXPECT_FALSE(finestre.occupato);
-  EXPECT_FALSE(piattaforma.esegui(Utf8(cartella.filePath("manca.exe")) + " x"));
-  EXPECT_FALSE(piattaforma.avvia(Utf8(cartella.filePath("manca.exe"))));
-  EXPECT_TRUE(piattaforma.avvia(Utf8(programma)));
+  EXPECT_FALSE(piattaforma.esegui(Utf8(cartella.filePath("manca.exe")), "x"));
+  EXPECT_FALSE(piattaforma.avvia(Utf8(cartella.filePath("manca.exe")), ""));
+  EXPECT_TRUE(piattaforma.avvia(Utf8(programma), ""));
 }
 
 // What the toolkit computes while it paints is no fault of the program, and hides none.

@@ -137,7 +137,7 @@ TEST(Robustezza, InMezzoAUnProgrammaEsterno) {
     provato = true;
     QFile(basta).open(QIODevice::WriteOnly);
   });
-  EXPECT_TRUE(piattaforma.esegui(Utf8(f.fileName()) + ".exe x"));
+  EXPECT_TRUE(piattaforma.esegui(Utf8(f.fileName()) + ".exe", "x"));
   EXPECT_TRUE(provato);
   EXPECT_FALSE(finestre.finita);
   EXPECT_TRUE(s.principale->isVisible());

@@ -183,16 +183,16 @@ std::vector<std::string> CorpoRisultati() {
 // ---- answers of the programs ----
 
 std::string risposta;                        // what the program played here writes
-bool ScriveSondaOut(const std::string&) {
+bool ScriveSondaOut(const std::string&, const std::string&) {
   ScriviByte(suite.DirLavoro + "/SondaOut.txt", risposta);
   return true;
 }
-bool ScriveTq(const std::string&) {
+bool ScriveTq(const std::string&, const std::string&) {
   ScriviByte(suite.DirLavoro + "/TQ_fermix.tmp", risposta);
   return true;
 }
 
-void Programma(const std::string& cartella, bool (*eseguito)(const std::string&)) {
+void Programma(const std::string& cartella, bool (*eseguito)(const std::string&, const std::string&)) {
   suite.DirLavoro = cartella;
   registratore.programmi = true;
   registratore.eseguito = eseguito;

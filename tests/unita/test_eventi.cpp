@@ -40,8 +40,8 @@ TEST(Eventi, DialogoDiFileColPercorsoDelSistema) {
 }
 
 TEST(Eventi, ProgrammiETasti) {
-  EXPECT_EQ(RigaProgramma("c:\\p\\a.exe |x|"), "[programma] c:\\p\\a.exe |x|");
-  EXPECT_EQ(RigaAvvia("c:\\p\\a.exe"), "[avvia] c:\\p\\a.exe");
+  EXPECT_EQ(RigaProgramma("c:\\p\\a.exe", "|x|"), "[programma] c:\\p\\a.exe |x|");
+  EXPECT_EQ(RigaAvvia("c:\\p\\a.exe", ""), "[avvia] c:\\p\\a.exe");
   EXPECT_EQ(RigaTasti("FINESTRA", "^v"), "[tasti] FINESTRA | ^v");
   EXPECT_EQ(RigaDiario("LETTI 3, PRESI 2, DOPPI TOLTI 1"), "[importazione] LETTI 3, PRESI 2, DOPPI TOLTI 1");
 }

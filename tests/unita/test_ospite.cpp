@@ -13,6 +13,7 @@
 #include "app/batch/piattaforma_batch.h"
 #include "app/batch/processi.h"
 #include "corredo/registratore.h"
+#include "core/comando.h"
 #include "corredo/suite_prova.h"
 #include "model/stato.h"
 
@@ -78,7 +79,7 @@ static std::string Programma(const std::string& percorso, const std::string& fin
 TEST(Processi, IlRestoEUnArgomentoSolo) {
   const std::string cartella = CartellaProva("processi uno");        // a blank in the path
   Programma(cartella + "/Progra/attrezzo");
-  ASSERT_TRUE(EseguiProgramma(cartella + "\\progra\\ATTREZZO.exe |uno=1|  $(due) 'tre' ; exit"));
+  ASSERT_TRUE(EseguiProgramma(cartella + "\\progra\\ATTREZZO.exe", "|uno=1|  $(due) 'tre' ; exit"));
   EXPECT_EQ(LeggiByte(cartella + "/Progra/attrezzo.scritto"), "[|uno=1|  $(due) 'tre' ; exit]");
 }
 
@@ -86,15 +87,25 @@ TEST(Processi, ConESenzaExe) {
   const std::string cartella = CartellaProva("processi_due");
   Programma(cartella + "/uno");
   Programma(cartella + "/due.EXE");
-  std::string programma, argomento;
-  EXPECT_TRUE(DividiComando(cartella + "\\uno.exe a b", programma, argomento));
-  EXPECT_EQ(programma, cartella + "/uno");
-  EXPECT_EQ(argomento, "a b");
-  EXPECT_TRUE(DividiComando(cartella + "\\due", programma, argomento));
-  EXPECT_EQ(programma, cartella + "/due.EXE");
-  EXPECT_EQ(argomento, "");
-  EXPECT_TRUE(EseguiProgramma(cartella + "\\uno.exe"));              // no rest: no argument
+  EXPECT_EQ(TrovaProgramma(cartella + "\\UNO.exe"), cartella + "/uno");
+  EXPECT_EQ(TrovaProgramma(cartella + "\\due"), cartella + "/due.EXE");
+  EXPECT_TRUE(EseguiProgramma(cartella + "\\uno.exe", ""));          // no argument at all
   EXPECT_EQ(LeggiByte(cartella + "/uno.scritto"), "");
+}
+
+// Where the path has blanks, what stands at a shorter head of it is no program of ours; nor does a program with part of the argument in its name.
+TEST(Processi, NessunoPiantatoSullaStrada) {
+  const std::string cartella = CartellaProva("processi_piantati");
+  const std::string vero = Programma(cartella + "/radice con blank/progra/attrezzo");
+  const std::string falsi[] = {Programma(cartella + "/radice"), Programma(cartella + "/radice con.exe"), Programma(vero + ".exe uno")};
+  EXPECT_TRUE(EseguiProgramma(cartella + "\\radice con blank\\progra\\attrezzo.exe", "uno due"));
+  EXPECT_EQ(LeggiByte(vero + ".scritto"), "[uno due]");
+  const int processo = AvviaProgramma(cartella + "\\radice con blank\\progra\\attrezzo.exe", "");
+  ASSERT_GT(processo, 0);
+  EXPECT_EQ(waitpid(processo, nullptr, 0), processo);
+  EXPECT_FALSE(EseguiProgramma(cartella + "\\radice con blank\\progra\\manca.exe", "x"));
+  EXPECT_EQ(TrovaProgramma(cartella + "\\radice" + std::string("\0.exe", 5)), "");     // the system would cut it at the NUL
+  for (const std::string& f : falsi) EXPECT_EQ(LeggiByte(f + ".scritto"), "") << f;
 }
 
 TEST(Processi, NonAvviabili) {
@@ -104,22 +115,22 @@ TEST(Processi, NonAvviabili) {
   ScriviByte(cartella + "/binario.exe", std::string("\x01\x02\x00\x03", 4));
   chmod((cartella + "/binario.exe").c_str(), 0755);                  // executable bit, no program: no shell is asked to try
   for (const char* nome : {"\\manca.exe", "\\dati.exe", "\\cartella.exe", "\\binario.exe", ""}) {
-    EXPECT_FALSE(EseguiProgramma(cartella + nome + " x")) << nome;
-    EXPECT_EQ(AvviaProgramma(cartella + nome + " x"), 0) << nome;
+    EXPECT_FALSE(EseguiProgramma(cartella + nome, "x")) << nome;
+    EXPECT_EQ(AvviaProgramma(cartella + nome, "x"), 0) << nome;
   }
 }
 
 TEST(Processi, LEsitoNonConta) {
   const std::string cartella = CartellaProva("processi_quattro");
   Programma(cartella + "/fallisce", "exit 3\n");
-  EXPECT_TRUE(EseguiProgramma(cartella + "/fallisce"));
+  EXPECT_TRUE(EseguiProgramma(cartella + "/fallisce", ""));
 }
 
 TEST(Processi, NessunoResta) {
   const std::string cartella = CartellaProva("processi_cinque");
   Programma(cartella + "/attende", "while [ ! -e \"$0.via\" ]; do sleep 0.01; done\n");
-  EXPECT_TRUE(EseguiProgramma(Programma(cartella + "/breve")));
-  const int processo = AvviaProgramma(cartella + "/attende");
+  EXPECT_TRUE(EseguiProgramma(Programma(cartella + "/breve"), ""));
+  const int processo = AvviaProgramma(cartella + "/attende", "");
   ASSERT_GT(processo, 0);
   EXPECT_TRUE(ProgrammaVivo(processo));
   ScriviByte(cartella + "/attende.via", "");
@@ -189,12 +200,12 @@ TEST_F(Ospite, SenzaProgrammiNessunoParte) {
   const std::string cartella = CartellaProva("ospite_programmi");
   const std::string comando = Programma(cartella + "/attrezzo");
   ospite.opzioni.senzaProgrammi = true;
-  EXPECT_FALSE(piattaforma.esegui(comando));
-  EXPECT_FALSE(piattaforma.avvia(comando));
+  EXPECT_FALSE(piattaforma.esegui(comando, ""));
+  EXPECT_FALSE(piattaforma.avvia(comando, ""));
   EXPECT_EQ(Uscita(), "");
   ospite.opzioni.senzaProgrammi = false;
-  EXPECT_TRUE(piattaforma.esegui(comando));
-  EXPECT_FALSE(piattaforma.esegui(comando + "_manca"));
+  EXPECT_TRUE(piattaforma.esegui(comando, ""));
+  EXPECT_FALSE(piattaforma.esegui(comando + "_manca", ""));
   EXPECT_EQ(Uscita(), "[programma] " + comando + "\n");
 }
 
@@ -203,7 +214,7 @@ TEST_F(Ospite, FinestraDelProgrammaAvviato) {
   const std::string cartella = CartellaProva("ospite_finestra");
   const std::string comando = Programma(cartella + "/visore", "while [ ! -e \"$0.via\" ]; do sleep 0.01; done\n");
   EXPECT_FALSE(piattaforma.attivaFinestra("VISORE"));
-  ASSERT_TRUE(piattaforma.avvia(comando));
+  ASSERT_TRUE(piattaforma.avvia(comando, ""));
   EXPECT_TRUE(piattaforma.attivaFinestra("VISORE"));
   EXPECT_FALSE(piattaforma.attivaFinestra("ALTRA"));
   EXPECT_EQ(Uscita(), "[avvia] " + comando + "\n");

@@ -229,7 +229,7 @@ TEST_F(Pannelli_, DoppioClicChiamaLaCalcolatrice) {
   suite.FattForze = 0.01;
   Scrivi(InsDati, "TxtSN", 0, "12.50");
   registratore.programmi = true;
-  registratore.eseguito = [](const std::string&) {
+  registratore.eseguito = [](const std::string&, const std::string&) {
     ScriviByte(RisolviPercorso(suite.DirLavoro + "\\TQ_fermix.tmp"), "  7.25 \r\naltro\r\n");
     return true;
   };
@@ -348,7 +348,7 @@ TEST_F(Pannelli_, IngressoDelVisualizzatoreNonScritto) {
 TEST_F(Pannelli_, VisualizzatoreColPuntatoreDiAttesa) {
   static bool attesa;
   attesa = false;
-  piattaforma.avvia = [](const std::string&) { return attesa = registratore.attesa; };
+  piattaforma.avvia = [](const std::string&, const std::string&) { return attesa = registratore.attesa; };
   Premi(InsDati, "ApriVis");
   EXPECT_TRUE(attesa);
   EXPECT_FALSE(registratore.attesa);

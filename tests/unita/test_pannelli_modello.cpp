@@ -313,7 +313,7 @@ TEST_F(Pannelli_, LimiteDeiNomiOltreISediciBit) {
 
 TEST_F(Pannelli_, CercaINodiDiRiferimento) {
   registratore.programmi = true;
-  registratore.eseguito = [](const std::string&) {
+  registratore.eseguito = [](const std::string&, const std::string&) {
     ScriviByte(RisolviPercorso(suite.DirLavoro + "\\SondaOut.txt"), "12,15\r\n");
     return true;
   };
@@ -430,7 +430,7 @@ TEST_F(Pannelli_, LaSezioneDiUnAltroNodoNonConta) {
 
 TEST_F(Pannelli_, CercaIlNodoDellaSezione) {
   registratore.programmi = true;
-  registratore.eseguito = [](const std::string&) {
+  registratore.eseguito = [](const std::string&, const std::string&) {
     ScriviByte(RisolviPercorso(suite.DirLavoro + "\\SondaOut.txt"), "12\r\n");
     return true;
   };
@@ -458,7 +458,7 @@ TEST_F(Pannelli_, NodoSenzaAsteNonCambiaLaSezione) {
 TEST_F(Pannelli_, NodiDelModello) {
   Modello();
   registratore.programmi = true;
-  registratore.eseguito = [](const std::string&) {
+  registratore.eseguito = [](const std::string&, const std::string&) {
     ScriviByte(RisolviPercorso(suite.DirLavoro + "\\SondaOut.txt"), "0,2\r\n15\r\n1,5\r\nA\r\nB\r\n");
     return true;
   };
@@ -466,14 +466,14 @@ TEST_F(Pannelli_, NodiDelModello) {
   EXPECT_EQ(nodo.NumNodiStr, 1);
   EXPECT_EQ(nodo.NodiStr[1], 15);
   EXPECT_EQ(nodo.Sezione.Nome, "HEA200            ");     // bar 5 has section 1
-  registratore.eseguito = [](const std::string&) {
+  registratore.eseguito = [](const std::string&, const std::string&) {
     ScriviByte(RisolviPercorso(suite.DirLavoro + "\\SondaOut.txt"), "0,1\r\n77\r\n1,0\r\nA\r\nB\r\n");
     return true;
   };
   Premi(InsDati, "Command1");
   EXPECT_EQ(nodo.NodiStr[1], 15);                         // kind 1 names no node
   EXPECT_TRUE(std::none_of(registratore.eventi.begin(), registratore.eventi.end(), [](const std::string& e) { return e.starts_with("[messaggio]"); }));
-  registratore.eseguito = [](const std::string&) {
+  registratore.eseguito = [](const std::string&, const std::string&) {
     ScriviByte(RisolviPercorso(suite.DirLavoro + "\\SondaOut.txt"), "0,0\r\n78\r\n1,1\r\nA\r\nB\r\n");
     return true;
   };

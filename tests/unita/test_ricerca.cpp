@@ -38,7 +38,7 @@ std::string PercorsoRisposta() { return RisolviPercorso(suite.DirLavoro + "\\Son
 TEST_F(Ricerca, ElementoCercato) {
   ScriviByte(lavoro + "/SondaOut.txt", "vecchia\r\n");
   registratore.programmi = true;
-  registratore.eseguito = [](const std::string&) {
+  registratore.eseguito = [](const std::string&, const std::string&) {
     EXPECT_FALSE(EsisteFile(PercorsoRisposta()));         // the former answer is gone
     ScriviByte(suite.DirLavoro + "/SondaOut.txt", " 12,15 \r\n");
     return true;
@@ -55,20 +55,20 @@ TEST_F(Ricerca, ElementoCercato) {
 
 TEST_F(Ricerca, PrimoElementoPrimaDelTrattino) {
   registratore.programmi = true;
-  registratore.eseguito = [](const std::string&) {
+  registratore.eseguito = [](const std::string&, const std::string&) {
     ScriviByte(suite.DirLavoro + "/SondaOut.txt", "3-9,15\r\n");
     return true;
   };
   std::string campo;
   CercaElemento("t", campo, ELEMENTO_NODO, true);
   EXPECT_EQ(campo, "3");
-  registratore.eseguito = [](const std::string&) {
+  registratore.eseguito = [](const std::string&, const std::string&) {
     ScriviByte(suite.DirLavoro + "/SondaOut.txt", " 18 \r\n");
     return true;
   };
   CercaElemento("t", campo, ELEMENTO_NODO, true);
   EXPECT_EQ(campo, "18");                                 // no separator: the whole line
-  registratore.eseguito = [](const std::string&) {
+  registratore.eseguito = [](const std::string&, const std::string&) {
     ScriviByte(suite.DirLavoro + "/SondaOut.txt", ",4\r\n");
     return true;
   };
@@ -81,7 +81,7 @@ TEST_F(Ricerca, AnnullatoORigaVuotaLasciaIlCampo) {
   std::string campo = "7";
   CercaElemento("t", campo, ELEMENTO_NODO);
   EXPECT_EQ(campo, "7");
-  registratore.eseguito = [](const std::string&) {
+  registratore.eseguito = [](const std::string&, const std::string&) {
     ScriviByte(suite.DirLavoro + "/SondaOut.txt", "\r\n");
     return true;
   };
@@ -136,7 +136,7 @@ TEST_F(Ricerca, NodiDiUnaRicercaPassata) {
 
 TEST_F(Ricerca, NodiCercati) {
   registratore.programmi = true;
-  registratore.eseguito = [](const std::string&) {
+  registratore.eseguito = [](const std::string&, const std::string&) {
     ScriviByte(suite.DirLavoro + "/SondaOut.txt", "0,2\r\n15\r\n1,6\r\nColonna A\r\nNodo B\r\n");
     return true;
   };

@@ -53,18 +53,18 @@ static bool OspiteScegliFile(const RichiestaFile& r, std::string& percorso, int&
   return risposta.scelto;
 }
 
-static bool OspiteEsegui(const std::string& comando) {
-  if (ospite.opzioni.senzaProgrammi || !EseguiProgramma(comando)) return false;
-  Stampa(RigaProgramma(comando));
+static bool OspiteEsegui(const std::string& programma, const std::string& argomento) {
+  if (ospite.opzioni.senzaProgrammi || !EseguiProgramma(programma, argomento)) return false;
+  Stampa(RigaProgramma(programma, argomento));
   return true;
 }
 
-static bool OspiteAvvia(const std::string& comando) {
+static bool OspiteAvvia(const std::string& programma, const std::string& argomento) {
   if (ospite.opzioni.senzaProgrammi) return false;
-  const int processo = AvviaProgramma(comando);
+  const int processo = AvviaProgramma(programma, argomento);
   if (processo == 0) return false;
   ospite.avviati.push_back({processo, ospite.finestraCercata});
-  Stampa(RigaAvvia(comando));
+  Stampa(RigaAvvia(programma, argomento));
   return true;
 }
 

@@ -1,5 +1,5 @@
 // app/batch/processi.h - outside programs, run without a shell.
-// The command is read as core/comando.h tells. Output and input of the programs are shut, since the host's own carry the events
+// The program is found as core/comando.h tells. Output and input of the programs are shut, since the host's own carry the events
 // and the script.
 // Failure   false: missing, not executable, or the system could not start it.
 #pragma once
@@ -7,6 +7,6 @@
 
 #include <string>
 
-bool EseguiProgramma(const std::string& comando);        // to its end, whatever its exit status
-int AvviaProgramma(const std::string& comando);          // not waited for: its process number, 0 not started
+bool EseguiProgramma(const std::string& programma, const std::string& argomento);   // to its end, whatever its exit status
+int AvviaProgramma(const std::string& programma, const std::string& argomento);     // not waited for: its process number, 0 not started
 bool ProgrammaVivo(int processo);                        // false: ended, and reaped

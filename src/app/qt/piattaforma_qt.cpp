@@ -225,8 +225,8 @@ void MontaPiattaformaQt() {
   piattaforma.messaggio = QtMessaggio;
   piattaforma.domanda = QtDomanda;
   piattaforma.scegliFile = QtScegliFile;
-  piattaforma.esegui = [](const std::string& c) { const RiparoFault riparo; return EseguiProgrammaQt(c); };
-  piattaforma.avvia = [](const std::string& c) { const RiparoFault riparo; return AvviaProgrammaQt(c); };
+  piattaforma.esegui = [](const std::string& p, const std::string& a) { const RiparoFault riparo; return EseguiProgrammaQt(p, a); };
+  piattaforma.avvia = [](const std::string& p, const std::string& a) { const RiparoFault riparo; return AvviaProgrammaQt(p, a); };
   piattaforma.attivaFinestra = QtAttivaFinestra;
   piattaforma.tasti = QtTasti;
   piattaforma.mostraTesto = [](const std::string& p) { const RiparoFault riparo; MostraFileTesto(p); };

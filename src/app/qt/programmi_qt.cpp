@@ -6,20 +6,20 @@
 #include <QEventLoop>
 #include <QProcess>
 
-static bool Prepara(QProcess& p, const std::string& comando) {
-  std::string programma, argomento;
-  if (!DividiComando(comando, programma, argomento)) return false;
-  p.setProgram(Testo(programma));
+static bool Prepara(QProcess& p, const std::string& programma, const std::string& argomento) {
+  const std::string file = TrovaProgramma(programma);
+  if (file.empty()) return false;
+  p.setProgram(Testo(file));
   if (!argomento.empty()) p.setArguments({Testo(argomento)});
   p.setStandardInputFile(QProcess::nullDevice());
   p.setStandardOutputFile(QProcess::nullDevice());
   return true;
 }
 
-bool EseguiProgrammaQt(const std::string& comando) {
+bool EseguiProgrammaQt(const std::string& programma, const std::string& argomento) {
   QProcess p;
   p.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-  if (!Prepara(p, comando)) return false;
+  if (!Prepara(p, programma, argomento)) return false;
   p.start();
   if (!p.waitForStarted(-1)) return false;
   finestre.occupato = true;
@@ -33,7 +33,7 @@ bool EseguiProgrammaQt(const std::string& comando) {
   return true;
 }
 
-bool AvviaProgrammaQt(const std::string& comando) {
+bool AvviaProgrammaQt(const std::string& programma, const std::string& argomento) {
   QProcess p;
-  return Prepara(p, comando) && p.startDetached();
+  return Prepara(p, programma, argomento) && p.startDetached();
 }
