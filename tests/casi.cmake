@@ -18,6 +18,8 @@ if(TARGET qb07-batch)
   add_test(NAME prova_memoria COMMAND ${CMAKE_CURRENT_LIST_DIR}/corredo/prova-memoria $<TARGET_FILE:qb07-batch>)
   set_tests_properties(prova_memoria PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 300)
   add_test(NAME corredo_esegui_caso COMMAND ${CMAKE_CURRENT_LIST_DIR}/corredo/prova-esegui-caso $<TARGET_FILE:qb07-batch>)
+  add_test(NAME prova_canali COMMAND ${CMAKE_CURRENT_LIST_DIR}/corredo/prova-canali $<TARGET_FILE:qb07-batch>)
+  set_tests_properties(prova_canali PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 300)
   # What is installed works from where it lies, and a release is hardened.
   set(QB07_PROTETTA)
   if(CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo)$" AND NOT QB07_SANITIZE AND CMAKE_SYSTEM_NAME STREQUAL "Linux")

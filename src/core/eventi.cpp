@@ -15,6 +15,20 @@ std::string SuUnaRiga(std::string_view testo) {
   return r;
 }
 
+std::string PercorsoSuUnaRiga(std::string_view percorso) {
+  constexpr char CIFRE[] = "0123456789ABCDEF";
+  const std::string riga = SuUnaRiga(percorso);
+  std::string r;
+  for (std::size_t k = 0; k < riga.size(); ++k) {
+    auto c = static_cast<unsigned char>(riga[k]);
+    const bool secondi = c == 0xC2 && k + 1 < riga.size() && static_cast<unsigned char>(riga[k + 1]) >= 0x80 && static_cast<unsigned char>(riga[k + 1]) < 0xA0;
+    if (secondi) c = static_cast<unsigned char>(riga[++k]);     // U+0080 to U+009F, two bytes
+    if (secondi || c < 0x20 || c == 0x7F) r.append("\\x").append({CIFRE[c >> 4], CIFRE[c & 15]});
+    else r += riga[k];
+  }
+  return r;
+}
+
 const char* NomeIcona(Icona icona) {
   switch (icona) {
     case Icona::Critica: return "critica";
@@ -39,7 +53,7 @@ std::string RigaDomanda(std::string_view testo, std::string_view titolo, Icona i
 
 std::string RigaFile(const RichiestaFile& r, bool scelto, std::string_view percorso) {
   return std::string("[file] ") + (r.salva ? "salva" : "apri") + " | " + SuUnaRiga(r.titolo) + " | " + SuUnaRiga(r.filtro) + " | " +
-         SuUnaRiga(r.nomeIniziale) + " -> " + (scelto ? SuUnaRiga(RisolviPercorso(percorso)) : "Annulla");
+         PercorsoSuUnaRiga(r.nomeIniziale) + " -> " + (scelto ? PercorsoSuUnaRiga(RisolviPercorso(percorso)) : "Annulla");
 }
 
 static std::string Comando(const char* genere, std::string_view programma, std::string_view argomento) {
@@ -51,8 +65,8 @@ std::string RigaAvvia(std::string_view programma, std::string_view argomento) { 
 std::string RigaTasti(std::string_view finestra, std::string_view tasti) {
   return "[tasti] " + SuUnaRiga(finestra) + " | " + SuUnaRiga(tasti);
 }
-std::string RigaTesto(std::string_view percorso) { return "[testo] " + SuUnaRiga(RisolviPercorso(percorso)); }
-std::string RigaAiuto(std::string_view percorso) { return "[aiuto] " + SuUnaRiga(RisolviPercorso(percorso)); }
+std::string RigaTesto(std::string_view percorso) { return "[testo] " + PercorsoSuUnaRiga(RisolviPercorso(percorso)); }
+std::string RigaAiuto(std::string_view percorso) { return "[aiuto] " + PercorsoSuUnaRiga(RisolviPercorso(percorso)); }
 std::string RigaDiario(std::string_view riga) { return "[importazione] " + SuUnaRiga(riga); }
 
 std::string ConEstensione(const RichiestaFile& r, std::string_view percorso) {

@@ -11,6 +11,19 @@ TEST(Eventi, UnaRigaPerTesto) {
   EXPECT_EQ(SuUnaRiga("\r"), "\\n");
 }
 
+// A file's name may hold any byte. The two bytes of U+0085 are one control character; a letter of two bytes is none, nor is a lone byte.
+TEST(Eventi, NessunCaratterediControlloDaUnPercorso) {
+  EXPECT_EQ(PercorsoSuUnaRiga("c:\\a\nb\r\nc"), "c:\\a\\nb\\nc");
+  EXPECT_EQ(PercorsoSuUnaRiga("\x1b[2J\t\x7f\xC2\x85z"), "\\x1B[2J\\x09\\x7F\\x85z");
+  EXPECT_EQ(PercorsoSuUnaRiga("citt\xC3\xA0\xC2\xA0\x85\xC2"), "citt\xC3\xA0\xC2\xA0\x85\xC2");
+  const std::string cartella = CartellaProva("eventi_controllo");
+  EXPECT_EQ(RigaTesto(cartella + "\\a\n[fine]\x0B"), "[testo] " + cartella + "/a\\n[fine]\\x0B");
+  EXPECT_EQ(RigaAiuto(cartella + "\\\x1b"), "[aiuto] " + cartella + "/\\x1B");
+  RichiestaFile r;
+  r.nomeIniziale = "a\x1b";
+  EXPECT_EQ(RigaFile(r, true, cartella + "\\b\x08"), "[file] apri |  |  | a\\x1B -> " + cartella + "/b\\x08");
+}
+
 TEST(Eventi, QuattroIcone) {
   EXPECT_EQ(RigaMessaggio("T", "ERRORE", Icona::Critica), "[messaggio] critica | ERRORE | T");
   EXPECT_EQ(RigaMessaggio("T", "ERRORE !", Icona::Esclamazione), "[messaggio] esclamazione | ERRORE ! | T");

@@ -1,6 +1,7 @@
 // tests/unita/test_ospite.cpp - options, outside programs and the platform of the host without windows.
 #include <gtest/gtest.h>
 
+#include <signal.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
@@ -11,7 +12,7 @@
 #include "app/batch/disegno.h"
 #include "app/batch/opzioni.h"
 #include "app/batch/piattaforma_batch.h"
-#include "app/batch/processi.h"
+#include "app/batch/sistema.h"
 #include "corredo/registratore.h"
 #include "core/comando.h"
 #include "corredo/suite_prova.h"
@@ -106,6 +107,15 @@ TEST(Processi, NessunoPiantatoSullaStrada) {
   EXPECT_FALSE(EseguiProgramma(cartella + "\\radice con blank\\progra\\manca.exe", "x"));
   EXPECT_EQ(TrovaProgramma(cartella + "\\radice" + std::string("\0.exe", 5)), "");     // the system would cut it at the NUL
   for (const std::string& f : falsi) EXPECT_EQ(LeggiByte(f + ".scritto"), "") << f;
+}
+
+// An outside program starts with the signals as they are by default, whatever the host ignores.
+TEST(Processi, ISegnaliSonoQuelliNormali) {
+  const std::string cartella = CartellaProva("processi_segnali");
+  void (*const prima)(int) = signal(SIGPIPE, SIG_IGN);
+  EXPECT_TRUE(EseguiProgramma(Programma(cartella + "/attrezzo", "kill -PIPE $$\necho vivo >> \"$0.scritto\"\n"), "uno"));
+  signal(SIGPIPE, prima);
+  EXPECT_EQ(LeggiByte(cartella + "/attrezzo.scritto"), "[uno]");
 }
 
 TEST(Processi, NonAvviabili) {

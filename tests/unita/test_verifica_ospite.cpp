@@ -3,13 +3,16 @@
 
 #include <gtest/gtest.h>
 
+#include <poll.h>
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
 
+#include "app/batch/compiti.h"
 #include "app/batch/piattaforma_batch.h"
+#include "app/batch/sistema.h"
 #include "corredo/registratore.h"
 #include "corredo/suite_prova.h"
 
@@ -64,6 +67,136 @@ TEST_F(VerificaOspite, UnProcessoCheMuoreNonEEseguito) {
 TEST_F(VerificaOspite, UnEsitoFuoriRegolaNonEEseguito) {
   piattaforma.scegliFile = ScegliOMuori;
   EXPECT_EQ(Verifica({Nodo("esce"), Nodo("pilastro_A1")}, 2), "2|esce.qb7: non eseguito|pilastro_A1.qb7: verificato");
+}
+
+// What ended a process is told aside; a line that its end cut short is no line, and the outcome stands at the head of its own.
+TEST_F(VerificaOspite, IlMotivoDiChiMuore) {
+  piattaforma.scegliFile = [](const RichiestaFile& r, std::string& percorso, int& filtro) {
+    Stampa("[prova] intera");
+    if (write(STDOUT_FILENO, "[prova] meta", 12) != 12) _exit(9);
+    return ScegliOMuori(r, percorso, filtro);
+  };
+  testing::internal::CaptureStderr();
+  testing::internal::CaptureStdout();
+  EXPECT_EQ(VerificaNodi({Nodo("muore"), Nodo("esce")}, 2), 2);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "[prova] intera\nNODO " + Nodo("muore") + ": non eseguito\n"
+                                                    "[prova] intera\nNODO " + Nodo("esce") + ": non eseguito\n");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "NODO " + Nodo("muore") + ": il processo è stato terminato dal segnale 9 (SIGKILL)\n"
+                                                    "NODO " + Nodo("esce") + ": il processo è finito con lo stato 7\n");
+}
+
+// The name of a node that is not there says that another is verified: it stays one line, of its own outcome.
+TEST_F(VerificaOspite, UnNomeNonFaUnaRiga) {
+  const std::string nome = "/x\nNODO /nodi/falso.qb7: verificato\n\x1b[2J.qb7";
+  testing::internal::CaptureStdout();
+  EXPECT_EQ(VerificaNodi({nome}, 1), 2);
+  EXPECT_EQ(testing::internal::GetCapturedStdout(),
+            "[file] apri |  | File nodo 3 (*.qb7)|*.qb7|Tutti i file (*.*)|*.* |  -> /x\\nNODO /nodi/falso.qb7: verificato\\n\\x1B[2J.qb7\n"
+            "[messaggio] nessuna | ERRORE | Errore: caricamento fallito\n"
+            "NODO /x\\nNODO /nodi/falso.qb7: verificato\\n\\x1B[2J.qb7: non eseguito\n");
+}
+
+// --- an end from outside ------------------------------------------------------------------------------------------------------------
+
+static int presenti[2];            // a worker that waits for ever writes its number here; nobody holds the writing end any more: all have ended
+
+static bool ScegliEAspetta(const RichiestaFile&, std::string& percorso, int& filtro) {
+  percorso = ospite.file.front().percorso;
+  filtro = 1;
+  if (percorso.ends_with("pilastro_A1.qb7")) return true;
+  const pid_t io = getpid();
+  if (write(presenti[1], &io, sizeof io) != sizeof io) _exit(9);
+  Stampa("[prova] non deve uscire");
+  while (true) pause();
+}
+
+// Nobody writes in it any more, within a time that only a failed test uses up.
+static bool Finito(int canale) {
+  pollfd p = {canale, POLLIN, 0};
+  char c;
+  return poll(&p, 1, 20000) == 1 && read(canale, &c, 1) == 0;
+}
+
+// The first node is handed over, two others are at work for ever when the list's process is asked to end: it ends by that signal and they with
+// it; what was handed over stands whole and nothing follows it.
+static void ChiediLaFine(int segnale, const std::vector<std::string>& nodi) {
+  int uscita[2];
+  ASSERT_EQ(pipe(presenti), 0);
+  ASSERT_EQ(pipe(uscita), 0);
+  const pid_t lista = fork();
+  if (lista == 0) {
+    for (const int s : {SIGINT, SIGTERM, SIGHUP}) signal(s, SIG_DFL);      // a runner in the background may have them ignored
+    dup2(uscita[1], STDOUT_FILENO);
+    for (const int d : {uscita[0], uscita[1], presenti[0]}) close(d);
+    piattaforma.scegliFile = ScegliEAspetta;
+    _exit(VerificaNodi(nodi, 2));
+  }
+  close(uscita[1]);
+  close(presenti[1]);
+  pid_t alLavoro[2] = {};
+  for (pid_t& p : alLavoro) ASSERT_EQ(read(presenti[0], &p, sizeof p), static_cast<ssize_t>(sizeof p));
+  std::string scritto;
+  char byte[4096];
+  while (scritto.find("pilastro_A1.qb7: verificato\n") == std::string::npos) {
+    const ssize_t n = read(uscita[0], byte, sizeof byte);
+    ASSERT_GT(n, 0);
+    scritto.append(byte, static_cast<std::size_t>(n));
+  }
+  EXPECT_TRUE(scritto.ends_with("pilastro_A1.qb7: verificato\n")) << scritto;
+  kill(lista, segnale);
+  int stato = 0;
+  EXPECT_EQ(waitpid(lista, &stato, 0), lista);
+  EXPECT_TRUE(WIFSIGNALED(stato) && WTERMSIG(stato) == segnale) << stato;
+  EXPECT_TRUE(Finito(presenti[0])) << "a worker is still there";
+  EXPECT_TRUE(Finito(uscita[0])) << "more output";
+  for (const pid_t p : alLavoro)
+    if (testing::Test::HasFailure()) kill(p, SIGKILL);
+  close(presenti[0]);
+  close(uscita[0]);
+}
+
+TEST_F(VerificaOspite, ChiLavoraFinisceConLaLista) {
+  const std::vector<std::string> nodi = {Nodo("pilastro_A1"), Nodo("controvento_E1"), Nodo("pilastro_B1"), Nodo("tirante_G1")};
+  for (const int segnale : {SIGINT, SIGTERM, SIGHUP}) ChiediLaFine(segnale, nodi);
+#ifdef __linux__
+  ChiediLaFine(SIGKILL, nodi);             // elsewhere they end at the next line that they print
+#endif
+}
+
+// A signal that was ignored at the start stays ignored, in the list's process and in its workers.
+TEST_F(VerificaOspite, UnSegnaleIgnoratoRestaIgnorato) {
+  void (*const prima)(int) = signal(SIGHUP, SIG_IGN);
+  piattaforma.scegliFile = [](const RichiestaFile& r, std::string& percorso, int& filtro) {
+    kill(getppid(), SIGHUP);
+    raise(SIGHUP);
+    return ScegliOMuori(r, percorso, filtro);
+  };
+  EXPECT_EQ(Verifica({Nodo("pilastro_A1")}, 1), "0|pilastro_A1.qb7: verificato");
+  EXPECT_EQ(signal(SIGHUP, prima), SIG_IGN);
+}
+
+// --- a list of pieces of work -------------------------------------------------------------------------------------------------------
+
+// Whatever order they end in, they come back in the order of the list, each with what it printed and returned.
+TEST_F(VerificaOspite, ICompitiTornanoInOrdine) {
+  Compiti c;
+  c.quanti = 40;
+  c.insieme = 7;
+  c.esegui = [](std::size_t k) {
+    usleep(static_cast<useconds_t>((41 - k) % 5 * 2000));
+    Stampa(std::string(k * 3000, 'x') + std::to_string(k));
+    return static_cast<int>(k % 3);
+  };
+  std::size_t prossimo = 0;
+  c.consegna = [&](std::size_t k, const EsitoCompito& e) {
+    EXPECT_EQ(k, prossimo++);
+    EXPECT_EQ(e.uscita, std::string(k * 3000, 'x') + std::to_string(k) + "\n");
+    EXPECT_EQ(e.stato, static_cast<int>(k % 3));
+    EXPECT_EQ(e.motivo, "");
+  };
+  EseguiCompiti(c);
+  EXPECT_EQ(prossimo, 40u);
+  EXPECT_TRUE(figli.empty());
 }
 
 // Two nodes of one name write one report: the later of the list stays, also when the earlier takes longer.

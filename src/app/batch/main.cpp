@@ -5,7 +5,9 @@
 #include "app/batch/disegno.h"
 #include "app/batch/memoria.h"
 #include "app/batch/piattaforma_batch.h"
+#include "app/batch/sistema.h"
 #include "app/batch/verifica.h"
+#include "core/eventi.h"
 #include "core/file.h"
 #include "model/stato.h"
 #include "model/suite.h"
@@ -37,7 +39,7 @@ static bool LeggiCopione(const std::string& percorso, std::string& testo) {
   if (percorso == "-") {
     char byte[4096];
     for (std::size_t n = 0; (n = std::fread(byte, 1, sizeof byte, stdin)) > 0;) testo.append(byte, n);
-    return true;
+    return std::ferror(stdin) == 0;
   }
   FileLettura f;
   if (!ApriLettura(f, percorso)) return false;
@@ -48,7 +50,7 @@ static bool LeggiCopione(const std::string& percorso, std::string& testo) {
 static int ComandoEsegui() {
   std::string testo;
   if (!LeggiCopione(ospite.opzioni.argomenti[0], testo)) {
-    std::fprintf(stderr, "copione non leggibile: %s\n", ospite.opzioni.argomenti[0].c_str());
+    std::fprintf(stderr, "copione non leggibile: %s\n", PercorsoSuUnaRiga(ospite.opzioni.argomenti[0]).c_str());
     return 2;
   }
   CaricaCopione(testo);
@@ -76,6 +78,7 @@ static bool Ammesso(const RigaComandoOspite& r) {
 }
 
 int main(int argc, char** argv) {
+  PreparaCanali();
   if (LeggiOpzioni(argc, argv, ospite.opzioni))
     for (const RigaComandoOspite& r : COMANDI)
       if (ospite.opzioni.comando == r.nome && Ammesso(r)) {

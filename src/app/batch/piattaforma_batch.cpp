@@ -1,7 +1,7 @@
 // app/batch/piattaforma_batch.cpp - the operations of the platform without a screen.
 #include "app/batch/piattaforma_batch.h"
 
-#include "app/batch/processi.h"
+#include "app/batch/sistema.h"
 #include "core/eventi.h"
 #include "panels/pannelli.h"
 
@@ -9,9 +9,11 @@
 #include <cstdlib>
 
 void Stampa(const std::string& riga) {
-  std::fwrite(riga.data(), 1, riga.size(), stdout);
-  std::fputc('\n', stdout);
-  std::fflush(stdout);
+  std::string motivo;
+  if (ScriviUscita(riga + '\n', motivo)) return;
+  FinisciSeRichiesto();                   // no loss: a signal that asks for the end broke off the write
+  std::fprintf(stderr, "uscita standard persa: %s\n", motivo.c_str());
+  Esci(2);
 }
 
 int StatoUscita() {
@@ -20,6 +22,7 @@ int StatoUscita() {
 }
 
 void Esci(int stato) {
+  FermaFigli();
   std::fflush(stdout);
   std::fflush(stderr);
   std::_Exit(stato);                      // ends at once, as the program does: nothing is written at the end of a run

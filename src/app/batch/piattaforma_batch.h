@@ -41,7 +41,7 @@ struct StatoOspite {
 inline StatoOspite ospite;
 
 void MontaPiattaforma();                  // fills piattaforma
-void Stampa(const std::string& riga);     // one line on standard output, at once
+void Stampa(const std::string& riga);     // one line on standard output, at once; output that cannot be written ends the run, status 2
 void AvanzaTempo(int ms);                  // fires the timers that come due, the earliest first
 int StatoUscita();                        // 0, 1 or 2 for a run that ends now, its last line carried out
-[[noreturn]] void Esci(int stato);
+[[noreturn]] void Esci(int stato);        // ends the workers too
