@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <utility>
 
 namespace {
 
@@ -30,16 +31,22 @@ std::array<std::uint32_t, 64> Espandi(const std::array<unsigned char, 64>& blocc
   return w;
 }
 
+// One round; the eight words turn by their places instead of being moved. r: the round's number within eight.
+template <std::size_t r>
+void Giro(std::array<std::uint32_t, 8>& v, std::uint32_t kw) {
+  constexpr auto posto = [](std::size_t n) { return (n + 8 - r) % 8; };
+  const std::uint32_t a = v[posto(0)], b = v[posto(1)], c = v[posto(2)], e = v[posto(4)], f = v[posto(5)], g = v[posto(6)];
+  const std::uint32_t T1 = v[posto(7)] + (std::rotr(e, 6) ^ std::rotr(e, 11) ^ std::rotr(e, 25)) + ((e & f) ^ (~e & g)) + kw;
+  const std::uint32_t T2 = (std::rotr(a, 2) ^ std::rotr(a, 13) ^ std::rotr(a, 22)) + ((a & b) ^ (a & c) ^ (b & c));
+  v[posto(3)] += T1;
+  v[posto(7)] = T1 + T2;
+}
+
 void Comprimi(Sha256& s) {
   const std::array<std::uint32_t, 64> w = Espandi(s.blocco);
   std::array<std::uint32_t, 8> v = s.stato;      // a .. h
-  for (std::size_t t = 0; t < 64; ++t) {
-    const std::uint32_t S1 = std::rotr(v[4], 6) ^ std::rotr(v[4], 11) ^ std::rotr(v[4], 25);
-    const std::uint32_t T1 = v[7] + S1 + ((v[4] & v[5]) ^ (~v[4] & v[6])) + K[t] + w[t];
-    const std::uint32_t S0 = std::rotr(v[0], 2) ^ std::rotr(v[0], 13) ^ std::rotr(v[0], 22);
-    const std::uint32_t T2 = S0 + ((v[0] & v[1]) ^ (v[0] & v[2]) ^ (v[1] & v[2]));
-    v = {T1 + T2, v[0], v[1], v[2], v[3] + T1, v[4], v[5], v[6]};
-  }
+  for (std::size_t t = 0; t < 64; t += 8)
+    [&]<std::size_t... r>(std::index_sequence<r...>) { (Giro<r>(v, K[t + r] + w[t + r]), ...); }(std::make_index_sequence<8>());
   for (std::size_t k = 0; k < v.size(); ++k) s.stato[k] += v[k];
   s.pieni = 0;
 }

@@ -95,6 +95,7 @@ static void ValoriComuni(Lavoro& l) {
   CostruisciSaldature(l);
   InerziaTirafondi(*l.nodo, v.SommaR2, v.ArmZ, v.ArmY);
   InerziaSaldature(l, v.IzSald, v.IySald, v.IpSald, v.LungTz, v.LungTy);
+  DirezioniSaldature(l);
   v.AreaTf = AreaTirafondo(l);
   if (TensioniAmmissibili(l)) ResistenzeTA(l);
   else ResistenzeNTC(l);

@@ -88,6 +88,7 @@ static void SaldatureNervature(Lavoro& l, int c, int& lato) {
 
 void CostruisciSaldature(Lavoro& l) {
   const Nodo& nodo = *l.nodo;
+  l.usato = true;
   SaldatureColonna(l);
   l.NumSaldature = SALD_COLONNA;
   if (nodo.TipoNodo != 2) return;
@@ -126,6 +127,19 @@ static double QuotaTaglio(const Lavoro& l, int w) {
   return v.Ty / v.LungTy / G;
 }
 
+void DirezioniSaldature(Lavoro& l) {
+  StatoVerifica& v = l.verifica;
+  for (int w = 1; w <= UltimaSuPiastra(l); ++w) {
+    const Saldatura& d = l.ris.Saldature[w];
+    for (int k = 1; k <= 3; ++k) {
+      const double fi = d.Ang[2] - d.Ang[k] + PI_PROG / 2;
+      v.BraccioSald[w][k] = std::sqrt(d.PZ[k] * d.PZ[k] + d.PY[k] * d.PY[k]);
+      v.CosSald[w][k] = std::cos(fi);
+      v.SenSald[w][k] = std::sin(fi);
+    }
+  }
+}
+
 void TensioniSaldaturePiastra(Lavoro& l, int s) {
   const StatoVerifica& v = l.verifica;
   const double G = l.nodo->GolaCalc;
@@ -134,10 +148,9 @@ void TensioniSaldaturePiastra(Lavoro& l, int s) {
     const double taglio = QuotaTaglio(l, w);
     for (int k = 1; k <= 3; ++k) {
       d.SPrp[s][k] = v.Mz / v.IzSald * d.PY[k] + v.My / v.IySald * d.PZ[k] + v.N / (v.LungTz + v.LungTy) / G;
-      const double ro = std::sqrt(d.PZ[k] * d.PZ[k] + d.PY[k] * d.PY[k]) * v.Mt / v.IpSald;
-      const double fi = d.Ang[2] - d.Ang[k] + PI_PROG / 2;
-      d.TauPa[s][k] = taglio + ro * std::cos(fi);
-      d.TauPe[s][k] = ro * std::sin(fi);
+      const double ro = v.BraccioSald[w][k] * v.Mt / v.IpSald;
+      d.TauPa[s][k] = taglio + ro * v.CosSald[w][k];
+      d.TauPe[s][k] = ro * v.SenSald[w][k];
     }
   }
 }

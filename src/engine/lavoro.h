@@ -29,6 +29,8 @@ struct StatoVerifica {
   double SommaR2 = 0;                                    // mm2
   double IzSald = 0, IySald = 0, IpSald = 0;             // mm4, the group of welds
   double LungTz = 0, LungTy = 0;                         // mm, welds that carry Tz, Ty
+  double BraccioSald[SALD_PIASTRA + 1][4] = {};                    // mm, points of the welds on the plate from the centre
+  double CosSald[SALD_PIASTRA + 1][4] = {}, SenSald[SALD_PIASTRA + 1][4] = {};     // of the torque's shear there, along and across the weld
   double N = 0, Ty = 0, Tz = 0;                          // daN
   double Mt = 0, My = 0, Mz = 0;                         // daN mm
 };
@@ -62,6 +64,7 @@ struct Lavoro {
   const Suite* suite = nullptr;
   int TipoVer = MetodoTA;
 
+  bool usato = false;                                    // a table was built: no longer as a fresh one
   std::int16_t NumSaldature = 0;                         // 8, 40 or 44
   double SAmmCls = 0;                                    // daN/cm2, allowable pressure, by allowable stresses
   double TauCls = 0;                                     // bond stress, N/mm2 in effect

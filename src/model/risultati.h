@@ -8,6 +8,8 @@
 
 #include "model/node_model.h"
 
+constexpr int SALD_PIASTRA = 28;                        // welds 1..28 stand on the plate, those behind run up the column
+
 struct Saldatura {
   std::string Nome;                                     // "S" + index; empty until built
   double Lung = 0;                                      // mm, to one decimal

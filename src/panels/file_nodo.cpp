@@ -154,6 +154,7 @@ static void Svuota(Tabella&... t) {
 // The tables of the verification belong to the former node. What a verification does not rebuild by itself, and finds as an
 // earlier one left it, stays: plate stresses beside the anchors, geometry of the welds, the running bond limit.
 static void AzzeraRisultati() {
+  if (!lavoro.usato) return;
   Risultati& ris = lavoro.ris;
   Svuota(ris.SigmaTir, ris.TauTir, ris.SRfTir, ris.TiroTir, ris.FvEd, ris.FtEd, ris.Co1, ris.Co2, ris.Co3);
   Svuota(ris.SMaxCls, ris.SMaxPiastra, ris.SNerv);

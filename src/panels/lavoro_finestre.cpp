@@ -19,7 +19,7 @@ void LegaLavoro() {
 
 void AzzeraLavoro() {
   static const Lavoro VUOTO;
-  lavoro = VUOTO;
+  if (lavoro.usato) lavoro = VUOTO;
   LegaLavoro();
 }
 

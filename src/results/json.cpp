@@ -49,9 +49,16 @@ static void AggiungiComando(std::string& t, char c) {
   t += a;
 }
 
+// Stands in a text as it is.
+static bool Piano(char c) { return c >= 0x20 && c < 0x7f && c != '"' && c != '\\'; }
+
 void AggiungiTesto(std::string& t, std::string_view v) {
   t += '"';
   while (!v.empty()) {
+    const std::size_t piani = static_cast<std::size_t>(std::ranges::find_if_not(v, Piano) - v.begin());
+    t.append(v.substr(0, piani));
+    v.remove_prefix(piani);
+    if (v.empty()) break;
     const char c = v.front();
     std::size_t n = LunghezzaUtf8(v);
     if (n == 0) {
@@ -88,9 +95,7 @@ void Chiudi(Scrittura& j, char parentesi) {
 }
 
 void Nome(Scrittura& j, std::string_view nome) {
-  Virgola(j);
-  AggiungiTesto(j.testo, nome);
-  j.testo += ':';
+  j.testo.append(j.primo ? "\"" : ",\"").append(nome).append("\":");
   j.primo = true;                  // no comma between a name and its value
 }
 

@@ -21,7 +21,7 @@ struct Scrittura {
 };
 void Apri(Scrittura& j, char parentesi);                    // '{' or '['
 void Chiudi(Scrittura& j, char parentesi);                  // '}' or ']'
-void Nome(Scrittura& j, std::string_view nome);             // of the member that follows
+void Nome(Scrittura& j, std::string_view nome);             // of the member that follows; a name of our own, without signs to escape
 void Nullo(Scrittura& j);
 void Valore(Scrittura& j, double v);
 void Valore(Scrittura& j, int v);

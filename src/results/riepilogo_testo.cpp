@@ -43,12 +43,12 @@ static const Criterio* CriterioDi(std::string_view metodo, std::string_view id) 
   return nullptr;
 }
 
+// Element, then sextet: the sextet's name may be cut.
 static std::string Dove(const Letto& riga, const Criterio* c, const Letto* nomeSestetto) {
-  std::string t = "sest. " + Cerca(riga, "sestetto")->testo;
-  if (!TestoDi(nomeSestetto).empty()) (t += ' ') += Entro(TestoDi(nomeSestetto), 16);
   const int e = static_cast<int>(NumeroDi(Cerca(riga, "elemento")));
-  if (e > 0) t += std::string(c != nullptr && c->elementi == Elementi::Saldature ? ", S" : ", tir. ") + std::to_string(e);
-  return t;
+  std::string t;
+  if (e > 0) t = (c != nullptr && c->elementi == Elementi::Saldature ? "S" : "tir. ") + std::to_string(e) + ", ";
+  return (t += "sest. ").append(Cerca(riga, "sestetto")->testo).append(" ").append(TestoDi(nomeSestetto));
 }
 
 static const Letto* NomeSestetto(const Letto* sestetti, const Letto& riga) {

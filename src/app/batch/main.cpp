@@ -5,6 +5,7 @@
 #include "app/batch/disegno.h"
 #include "app/batch/memoria.h"
 #include "app/batch/piattaforma_batch.h"
+#include "app/batch/riepilogo.h"
 #include "app/batch/sistema.h"
 #include "app/batch/verifica.h"
 #include "core/eventi.h"
@@ -12,10 +13,11 @@
 #include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
+#include "results/riepilogo.h"
 
 #include <cstdint>
 #include <cstdio>
-#include <thread>
+#include <string>
 
 static void AvviaProgrammaOspite() {
   suite.Decimale = ospite.opzioni.decimale != 0 ? ospite.opzioni.decimale : DecimaleSistema();
@@ -25,9 +27,7 @@ static void AvviaProgrammaOspite() {
 
 static int ComandoVerifica() {
   AvviaProgrammaOspite();
-  const unsigned nuclei = std::thread::hardware_concurrency();
-  const int processi = ospite.opzioni.processi > 0 ? ospite.opzioni.processi : nuclei > 0 ? static_cast<int>(nuclei) : 1;
-  return VerificaNodi(ospite.opzioni.argomenti, processi);
+  return VerificaNodi(ospite.opzioni.argomenti, ProcessiInsieme());
 }
 
 static int ComandoDisegno() {
@@ -35,21 +35,9 @@ static int ComandoDisegno() {
   return DisegnaNodo(ospite.opzioni.argomenti[0], ospite.opzioni.argomenti[1]);
 }
 
-static bool LeggiCopione(const std::string& percorso, std::string& testo) {
-  if (percorso == "-") {
-    char byte[4096];
-    for (std::size_t n = 0; (n = std::fread(byte, 1, sizeof byte, stdin)) > 0;) testo.append(byte, n);
-    return std::ferror(stdin) == 0;
-  }
-  FileLettura f;
-  if (!ApriLettura(f, percorso)) return false;
-  testo = f.byte;
-  return true;
-}
-
 static int ComandoEsegui() {
   std::string testo;
-  if (!LeggiCopione(ospite.opzioni.argomenti[0], testo)) {
+  if (!LeggiTestoOspite(ospite.opzioni.argomenti[0], testo)) {
     std::fprintf(stderr, "copione non leggibile: %s\n", PercorsoSuUnaRiga(ospite.opzioni.argomenti[0]).c_str());
     return 2;
   }
@@ -60,32 +48,43 @@ static int ComandoEsegui() {
   return copione.fermato ? 2 : StatoUscita();
 }
 
-struct RigaComandoOspite {
-  const char* nome;
-  std::size_t minimo, massimo;     // arguments
-  int (*esegui)();
-  bool (*ammesso)() = nullptr;     // of the arguments; null: any
-};
-static constexpr RigaComandoOspite COMANDI[] = {
-  { "verifica", 1, SIZE_MAX, ComandoVerifica },
-  { "disegno", 2, 2, ComandoDisegno, [] { return FormatoAmmesso(ospite.opzioni.argomenti[1]); } },
-  { "esegui", 1, 1, ComandoEsegui },
+static constexpr Verbo VERBI[] = {
+  { "verifica", "NODO.qb7...", "verifica ogni nodo e scrive la sua relazione", 1, SIZE_MAX, ComandoVerifica },
+  { "disegno", "NODO.qb7 USCITA.dis|.dxf|.grb|.svg", "scrive il disegno esecutivo del nodo", 2, 2, ComandoDisegno,
+    [] { return FormatoAmmesso(ospite.opzioni.argomenti[1]); } },
+  { "esegui", "COPIONE", "esegue un copione, una istruzione per riga (- per lo standard input)", 1, 1, ComandoEsegui },
+  { "riepilogo", "[NODO.qb7...]", "giudica ogni nodo e dà tutti i controlli come dati, senza relazione", 0, SIZE_MAX, ComandoRiepilogo,
+    [] { return !ospite.opzioni.argomenti.empty() || !ospite.opzioni.elenco.empty(); }, "--formato --righe --uscita --elenco --riprendi" },
 };
 
-static bool Ammesso(const RigaComandoOspite& r) {
+static bool Ammesso(const Verbo& v) {
   const std::size_t n = ospite.opzioni.argomenti.size();
-  return n >= r.minimo && n <= r.massimo && (r.ammesso == nullptr || r.ammesso());
+  return n >= v.minimo && n <= v.massimo && (v.ammesso == nullptr || v.ammesso());
+}
+
+static int UsoErrato(const std::string& motivo) {
+  std::fprintf(stderr, "errore: %s\n%s", SuUnaRiga(motivo).c_str(), Uso(VERBI).c_str());
+  return 2;
+}
+
+// --help and --version; the verb may stand anywhere. Output that cannot be written is status 2.
+static int Informa() {
+  const Opzioni& o = ospite.opzioni;
+  const Verbo* v = TrovaVerbo(VERBI, o.comando);
+  if (v == nullptr) v = TrovaVerbo(VERBI, o.rigaComando);
+  if (o.versione) StampaTesto(std::string("qb07-batch ") + VERSIONE + "\n");
+  else StampaTesto(v != nullptr ? UsoVerbo(*v) : Uso(VERBI));
+  return 0;
 }
 
 int main(int argc, char** argv) {
   PreparaCanali();
-  if (LeggiOpzioni(argc, argv, ospite.opzioni))
-    for (const RigaComandoOspite& r : COMANDI)
-      if (ospite.opzioni.comando == r.nome && Ammesso(r)) {
-        MontaPiattaforma();
-        PreparaMemoria();
-        Esci(r.esegui());
-      }
-  std::fputs(USO, stderr);
-  return 2;
+  std::string motivo;
+  if (!LeggiOpzioni(argc, argv, VERBI, ospite.opzioni, motivo)) return UsoErrato(motivo);
+  if (ospite.opzioni.aiuto || ospite.opzioni.versione) return Informa();
+  const Verbo& v = *TrovaVerbo(VERBI, ospite.opzioni.comando);
+  if (!Ammesso(v)) return UsoErrato(std::string(v.nome) + ": argomenti non validi");
+  MontaPiattaforma();
+  PreparaMemoria();
+  Esci(v.esegui());
 }

@@ -3,17 +3,40 @@
 
 #include "app/batch/sistema.h"
 #include "core/eventi.h"
+#include "core/file.h"
 #include "panels/pannelli.h"
 
 #include <cstdio>
 #include <cstdlib>
+#include <thread>
+#include <utility>
 
-void Stampa(const std::string& riga) {
+void Stampa(const std::string& riga) { StampaTesto(riga + '\n'); }
+
+void StampaTesto(const std::string& testo) {
   std::string motivo;
-  if (ScriviUscita(riga + '\n', motivo)) return;
+  if (ScriviUscita(testo, motivo)) return;
   FinisciSeRichiesto();                   // no loss: a signal that asks for the end broke off the write
   std::fprintf(stderr, "uscita standard persa: %s\n", motivo.c_str());
   Esci(2);
+}
+
+bool LeggiTestoOspite(const std::string& percorso, std::string& testo) {
+  if (percorso == "-") {
+    char byte[4096];
+    for (std::size_t n = 0; (n = std::fread(byte, 1, sizeof byte, stdin)) > 0;) testo.append(byte, n);
+    return std::ferror(stdin) == 0;
+  }
+  FileLettura f;
+  if (!ApriLettura(f, percorso)) return false;
+  testo = std::move(f.byte);
+  return true;
+}
+
+int ProcessiInsieme() {
+  if (ospite.opzioni.processi > 0) return ospite.opzioni.processi;
+  const unsigned nuclei = std::thread::hardware_concurrency();
+  return nuclei > 0 ? static_cast<int>(nuclei) : 1;
 }
 
 int StatoUscita() {

@@ -42,6 +42,9 @@ inline StatoOspite ospite;
 
 void MontaPiattaforma();                  // fills piattaforma
 void Stampa(const std::string& riga);     // one line on standard output, at once; output that cannot be written ends the run, status 2
+void StampaTesto(const std::string& testo);  // the same without a line end
+bool LeggiTestoOspite(const std::string& percorso, std::string& testo);   // a file, or standard input for "-"
+int ProcessiInsieme();                    // as many as the options say, or one a core
 void AvanzaTempo(int ms);                  // fires the timers that come due, the earliest first
 int StatoUscita();                        // 0, 1 or 2 for a run that ends now, its last line carried out
 [[noreturn]] void Esci(int stato);        // ends the workers too

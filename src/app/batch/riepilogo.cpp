@@ -3,9 +3,10 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <memory>
+#include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "app/batch/compiti.h"
@@ -15,6 +16,8 @@
 #include "core/eventi.h"
 #include "core/file.h"
 #include "model/stato.h"
+#include "panels/lavoro_finestre.h"
+#include "panels/programma.h"
 #include "results/riepilogo.h"
 
 constexpr int ENTRAMBI[] = {MetodoTA, MetodoSLU};
@@ -25,12 +28,16 @@ struct Incarico {                  // one node by one method
 };
 
 struct CorsaRiepilogo {
-  const Opzioni& o;
+  const Opzioni& o = ospite.opzioni;
   std::vector<Incarico> incarichi;
   std::vector<RigaRipresa> ripresa;
   FormatoRiepilogo formato = FormatoRiepilogo::Json;
   std::string suiteSha;
   std::string uscita;              // gathered, when it goes to a file
+  FotografiaProgramma inizio;      // the panels right behind the start
+  bool toccato = false;            // in a worker: a joint was loaded since
+  std::map<std::size_t, std::string> fatti;      // objects that wait for their turn
+  std::size_t emessi = 0;
   std::string ultimoErrore;
   int stato = 0;
 };
@@ -98,21 +105,20 @@ static bool LeggiRipresa(CorsaRiepilogo& c) {
 
 constexpr char PRESA = '=';        // in front of the position of an earlier line that holds
 
-static int StatoDi(StatoNodo s) { return static_cast<int>(s); }
-
+// Without reading the whole: inside a text the quotes of this member would be escaped.
 static int StatoOggetto(std::string_view oggetto) {
-  json::Letto v;
-  if (!json::Leggi(oggetto, v)) return 2;
-  const std::string_view stato = json::TestoDi(json::Cerca(v, "stato"));
+  constexpr std::string_view MEMBRO = "\"stato\":\"";
+  const std::size_t dove = oggetto.find(MEMBRO);
+  if (dove == std::string_view::npos) return 2;
+  const std::string_view resto = oggetto.substr(dove + MEMBRO.size());
   for (int k = 0; k < 3; ++k)
-    if (stato == NOME_STATO[k]) return k;
+    if (resto.starts_with(std::string(NOME_STATO[k]) + '"')) return k;
   return 2;
 }
 
-static bool Riprende(const CorsaRiepilogo& c, const NodoGiudicato& n, int& stato) {
+static bool Riprende(const CorsaRiepilogo& c, const NodoGiudicato& n) {
   for (std::size_t k = 0; k < c.ripresa.size(); ++k) {
     if (c.ripresa[k].percorso != n.percorso || !RipresaVale(c.ripresa[k], n, c.o.tutteLeRighe)) continue;
-    stato = StatoOggetto(c.ripresa[k].oggetto);
     Stampa(PRESA + std::to_string(k));
     return true;
   }
@@ -131,21 +137,22 @@ static NodoGiudicato Prepara(const CorsaRiepilogo& c, const Incarico& i) {
   return n;
 }
 
-static int Lavora(const CorsaRiepilogo& c, const Incarico& i) {
+// One line: the object, or the earlier one that holds. The panels start as behind the start, the tables clean.
+static void Lavora(CorsaRiepilogo& c, const Incarico& i) {
   NodoGiudicato n = Prepara(c, i);
-  int stato = 2;
-  if (i.metodo >= 0 && Riprende(c, n, stato)) return stato;
-  const std::unique_ptr<Lavoro> l = std::make_unique<Lavoro>();
+  if (i.metodo >= 0 && Riprende(c, n)) return;
+  if (c.toccato) RipristinaProgramma(*c.inizio);
+  AzzeraLavoro();
+  c.toccato = true;
   if (!CaricaMuto(i.percorso)) {
     NonCaricato(n);
   } else {
     if (i.metodo >= 0) ScegliMetodoMuto(i.metodo);
     n.metodo = nodo.TipoVer;
-    if (i.metodo < 0 && Riprende(c, n, stato)) return stato;
-    GiudicaMuto(n, *l);
+    if (i.metodo < 0 && Riprende(c, n)) return;
+    GiudicaMuto(n, lavoro);
   }
   Stampa(NodoInJson(n, c.o.tutteLeRighe));
-  return StatoDi(n.stato);
 }
 
 // ---- output ----
@@ -163,24 +170,74 @@ static void Emetti(CorsaRiepilogo& c, const std::string& testo) {
   else c.uscita += testo;
 }
 
-static void Consegna(CorsaRiepilogo& c, std::size_t k, const EsitoCompito& e) {
-  std::string_view riga = e.uscita;
-  if (riga.ends_with('\n')) riga.remove_suffix(1);
-  std::string perso;
-  if (!e.motivo.empty() || riga.empty()) {
-    perso = NodoPersoInJson(Prepara(c, c.incarichi[k]), e.motivo.empty() ? "il processo non ha dato un risultato" : e.motivo, c.o.tutteLeRighe);
-    riga = perso;
+// The next one of the list, and all behind it that are there.
+static void EmettiPronti(CorsaRiepilogo& c) {
+  for (auto f = c.fatti.find(c.emessi); f != c.fatti.end(); f = c.fatti.find(c.emessi)) {
+    const std::string& riga = f->second;
+    const bool presa = riga.front() == PRESA;
+    const RigaRipresa* r = presa ? &c.ripresa[static_cast<std::size_t>(std::stoul(riga.substr(1)))] : nullptr;
+    const std::string_view oggetto = presa ? std::string_view(r->oggetto) : std::string_view(riga);
+    if (presa && c.formato == FormatoRiepilogo::Jsonl) Emetti(c, r->riga + "\n");
+    else Emetti(c, PezzoRiepilogo(c.formato, oggetto, c.emessi == 0));
+    const int stato = StatoOggetto(oggetto);
+    if (stato == 2) DiErrore(c, oggetto);
+    c.stato = std::max(c.stato, stato);
+    c.fatti.erase(f);
+    ++c.emessi;
+    const std::size_t n = c.incarichi.size();
+    if (ErroriSuTerminale()) std::fprintf(stderr, "\r%zu/%zu%s", c.emessi, n, c.emessi == n ? "\n" : "");
   }
-  int stato = e.motivo.empty() ? e.stato : 2;
-  const bool presa = riga.front() == PRESA;
-  const RigaRipresa* r = presa ? &c.ripresa[static_cast<std::size_t>(std::stoul(std::string(riga.substr(1))))] : nullptr;
-  const std::string_view oggetto = presa ? std::string_view(r->oggetto) : riga;
-  if (presa && c.formato == FormatoRiepilogo::Jsonl) Emetti(c, r->riga + "\n");
-  else Emetti(c, PezzoRiepilogo(c.formato, oggetto, k == 0));
-  if (stato == 2) DiErrore(c, oggetto);
-  c.stato = std::max(c.stato, stato);
-  if (ErroriSuTerminale()) std::fprintf(stderr, "\r%zu/%zu%s", k + 1, c.incarichi.size(), k + 1 == c.incarichi.size() ? "\n" : "");
 }
+
+// ---- workers ----
+
+// Pieces of work that one process does one behind the other, by their position in the list.
+using Blocco = std::vector<std::size_t>;
+constexpr std::size_t MASSIMO_BLOCCO = 64;
+
+static std::vector<Blocco> InBlocchi(std::size_t quanti, std::size_t processi) {
+  const std::size_t lungo = std::clamp<std::size_t>((quanti + 2 * processi - 1) / (2 * processi), 1, MASSIMO_BLOCCO);
+  std::vector<Blocco> blocchi;
+  for (std::size_t k = 0; k < quanti; ++k) {
+    if (k % lungo == 0) blocchi.emplace_back();
+    blocchi.back().push_back(k);
+  }
+  return blocchi;
+}
+
+// What the process has printed line by line belongs to its pieces in their order. It died at the first piece without a line: that one is lost;
+// those behind it come again, each in a process of its own.
+static void Ritira(CorsaRiepilogo& c, const Blocco& b, const EsitoCompito& e, std::vector<Blocco>& ancora) {
+  std::vector<std::string> righe = Righe(e.uscita);
+  std::erase_if(righe, [](const std::string& r) { return !r.starts_with('{') && !r.starts_with(PRESA); });     // the message of a lack of memory
+  for (std::size_t k = 0; k < b.size(); ++k) {
+    if (k < righe.size()) c.fatti[b[k]] = std::move(righe[k]);
+    else if (k > righe.size()) ancora.push_back({b[k]});
+    else c.fatti[b[k]] = NodoPersoInJson(Prepara(c, c.incarichi[b[k]]), e.motivo.empty() ? TESTO_MEMORIA : e.motivo, c.o.tutteLeRighe);
+  }
+}
+
+static void Esegui(CorsaRiepilogo& c) {
+  std::vector<Blocco> blocchi = InBlocchi(c.incarichi.size(), static_cast<std::size_t>(ProcessiInsieme()));
+  while (!blocchi.empty()) {
+    std::vector<Blocco> ancora;
+    Compiti lavori;
+    lavori.quanti = blocchi.size();
+    lavori.insieme = ProcessiInsieme();
+    lavori.esegui = [&](std::size_t b) {
+      for (const std::size_t k : blocchi[b]) Lavora(c, c.incarichi[k]);
+      return 0;
+    };
+    lavori.consegna = [&](std::size_t b, const EsitoCompito& e) {
+      Ritira(c, blocchi[b], e, ancora);
+      EmettiPronti(c);
+    };
+    EseguiCompiti(lavori);
+    blocchi = std::move(ancora);
+  }
+}
+
+// ---- the verb ----
 
 static bool Avvia(CorsaRiepilogo& c) {
   MontaPiattaformaMuta();
@@ -205,17 +262,13 @@ static bool ScriviUscitaSuFile(CorsaRiepilogo& c) {
 }
 
 int ComandoRiepilogo() {
-  CorsaRiepilogo c = {.o = ospite.opzioni};
+  CorsaRiepilogo c;
   c.formato = FormatoScelto(c.o);
   if (!RaccogliIncarichi(c) || !LeggiRipresa(c) || !Avvia(c)) return 2;
   c.suiteSha = Sha256Suite();
+  c.inizio = FotografaProgramma();
   Emetti(c, TestaRiepilogo(c.formato));
-  Compiti lavori;
-  lavori.quanti = c.incarichi.size();
-  lavori.insieme = ProcessiInsieme();
-  lavori.esegui = [&c](std::size_t k) { return Lavora(c, c.incarichi[k]); };
-  lavori.consegna = [&c](std::size_t k, const EsitoCompito& e) { Consegna(c, k, e); };
-  EseguiCompiti(lavori);
+  Esegui(c);
   Emetti(c, PiedeRiepilogo(c.formato));
   return ScriviUscitaSuFile(c) ? c.stato : 2;
 }

@@ -16,6 +16,8 @@
 void PreparaCanali();
 // The whole text at once. False: not written, and the reason in Italian.
 bool ScriviUscita(std::string_view testo, std::string& motivo);
+bool UscitaSuTerminale();          // a person reads the output
+bool ErroriSuTerminale();
 
 // ---- outside programs ----
 

@@ -42,6 +42,9 @@ static std::string Motivo(int errore) {
   }
 }
 
+bool UscitaSuTerminale() { return isatty(STDOUT_FILENO) == 1; }
+bool ErroriSuTerminale() { return isatty(STDERR_FILENO) == 1; }
+
 bool ScriviUscita(std::string_view testo, std::string& motivo) {
   while (!testo.empty()) {
     const ssize_t scritti = write(STDOUT_FILENO, testo.data(), testo.size());

@@ -29,8 +29,8 @@ void MontaPiattaformaMuta() {
   piattaforma.messaggio = Raccogli;
   piattaforma.domanda = Rispondi;
   piattaforma.scegliFile = NominaFile;
-  piattaforma.esegui = [](const std::string&) { return false; };
-  piattaforma.avvia = [](const std::string&) { return false; };
+  piattaforma.esegui = [](const std::string&, const std::string&) { return false; };
+  piattaforma.avvia = [](const std::string&, const std::string&) { return false; };
   piattaforma.attivaFinestra = [](const std::string&) { return false; };
   piattaforma.tasti = [](const std::string&, const std::string&) {};
   piattaforma.mostraTesto = [](const std::string&) {};
