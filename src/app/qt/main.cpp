@@ -8,9 +8,11 @@
 #include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
+#include "results/riepilogo.h"
 
 #include <cstdio>
 #include <new>
+#include <string_view>
 
 static std::string RigaComando() {
   const QStringList argomenti = QCoreApplication::arguments().mid(1);
@@ -27,7 +29,22 @@ static bool Avvia() {
   }
 }
 
+// --help and --version alone, without a window.
+static bool Informa(int argc, char** argv) {
+  if (argc != 2) return false;
+  const std::string_view a = argv[1];
+  if (a == "--version") std::printf("qb07 %s\n", VERSIONE);
+  else if (a == "--help")
+    std::printf("uso: qb07 \"|diroot=<radice della suite>|\"\n"
+                "  --help     questo testo\n"
+                "  --version  nome e versione del programma\n"
+                "Senza finestre: qb07-batch --help\n");
+  else return false;
+  return true;
+}
+
 int main(int argc, char** argv) {
+  if (Informa(argc, argv)) return std::fflush(stdout) == 0 ? 0 : 2;
   Applicazione programma(argc, argv);
   QApplication::setApplicationName("qb07");
   QGuiApplication::setDesktopFileName("qb07");

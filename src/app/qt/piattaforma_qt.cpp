@@ -7,6 +7,7 @@
 #include "app/qt/quadro.h"
 #include "app/qt/sagome.h"
 #include "core/eventi.h"
+#include "core/fault.h"
 #include "core/file.h"
 #include "panels/InsDati.h"
 #include "panels/Soll3D.h"
@@ -24,17 +25,19 @@
 #include <QTimer>
 #include <QTreeView>
 
-#include <cfenv>
 #include <utility>
 
 namespace {
 
-struct RiparoFault {
-  std::fexcept_t prima{};
-  RiparoFault() { std::fegetexceptflag(&prima, FE_ALL_EXCEPT); }
-  ~RiparoFault() { std::fesetexceptflag(&prima, FE_ALL_EXCEPT); }
-  RiparoFault(const RiparoFault&) = delete;
-  RiparoFault& operator=(const RiparoFault&) = delete;
+// An operation of the platform whose own arithmetic is not the program's: the flags are as before at its end.
+template <auto operazione>
+struct Riparata;
+template <class Esito, class... Argomento, Esito (*operazione)(Argomento...)>
+struct Riparata<operazione> {
+  static Esito Chiama(Argomento... a) {
+    const RiparoFault riparo;
+    return operazione(a...);
+  }
 };
 
 // ---- boxes ----
@@ -74,12 +77,10 @@ bool Riquadro(const std::string& testo, const std::string& titolo, Icona icona, 
 }
 
 void QtMessaggio(const std::string& testo, const std::string& titolo, Icona icona) {
-  const RiparoFault riparo;
   Riquadro(testo, titolo, icona, false);
 }
 
 bool QtDomanda(const std::string& testo, const std::string& titolo, Icona icona) {
-  const RiparoFault riparo;
   return Riquadro(testo, titolo, icona, true);
 }
 
@@ -111,7 +112,6 @@ void Allarga(QFileDialog& d) {
 }
 
 bool QtScegliFile(const RichiestaFile& r, std::string& percorso, int& filtro) {
-  const RiparoFault riparo;
   if (finestre.finita) return false;
   const FrecciaNelRiquadro freccia;
   QFileDialog d(FinestraDavanti(), Testo(r.titolo));
@@ -131,7 +131,6 @@ bool QtScegliFile(const RichiestaFile& r, std::string& percorso, int& filtro) {
 // ---- timers, pointer, focus ----
 
 void QtTimer(Temporizzatore quale, int ms, void (*scaduto)()) {
-  const RiparoFault riparo;
   static constexpr const char* NOMI[] = {"Timer1", "TimerSel"};
   const char* nome = NOMI[static_cast<int>(quale)];
   auto* t = qApp->findChild<QTimer*>(nome);
@@ -155,7 +154,6 @@ void QtTimer(Temporizzatore quale, int ms, void (*scaduto)()) {
 }
 
 void QtAttesa(bool si) {
-  const RiparoFault riparo;
   const QCursor* ora = QApplication::overrideCursor();
   const bool acceso = ora != nullptr && ora->shape() == Qt::WaitCursor;
   if (si && !acceso) QApplication::setOverrideCursor(Qt::WaitCursor);
@@ -163,30 +161,17 @@ void QtAttesa(bool si) {
 }
 
 void QtFuoco(Controllo& c) {
-  const RiparoFault riparo;
   if (const Legame* l = LegameDi(c)) l->oggetto->setFocus(Qt::OtherFocusReason);
 }
 
 void QtAggiorna(Controllo& c) {
-  const RiparoFault riparo;
   if (&c == &insDati.Nodo)
     if (const Legame* l = LegameDi(c)) static_cast<Quadro*>(l->oggetto)->Campiture(CampitureNodo());
   Dipingi(c);
 }
 
-void QtApri(const Pannello& p, bool modale) {
-  const RiparoFault riparo;
-  ApriPannello(p, modale);
-}
-
-void QtChiudi(const Pannello& p) {
-  const RiparoFault riparo;
-  ChiudiPannello(p);
-}
-
 // The counts of an import stand on the panel that was used for it.
 void QtDiario(const std::string& riga) {
-  const RiparoFault riparo;
   if (const FinestraPannello* f = FinestraDi(Soll3D))
     if (auto* esito = f->finestra->findChild<QLabel*>("_esito")) esito->setText(Testo(riga));
 }
@@ -195,16 +180,6 @@ void QtDiario(const std::string& riga) {
 void QtFine() {
   finestre.finita = true;
   QCoreApplication::exit(0);
-}
-
-bool QtAttivaFinestra(const std::string& titolo) {
-  const RiparoFault riparo;
-  return AttivaFinestraEsterna(titolo);
-}
-
-void QtTasti(const std::string& finestra, const std::string& tasti) {
-  const RiparoFault riparo;
-  TastiAFinestraEsterna(finestra, tasti);
 }
 
 }  // namespace
@@ -222,21 +197,21 @@ QStringList FiltriDialogo(const std::string& filtro) {
 char DecimaleDelDesktop() { return QLocale::system().decimalPoint() == "," ? ',' : '.'; }
 
 void MontaPiattaformaQt() {
-  piattaforma.messaggio = QtMessaggio;
-  piattaforma.domanda = QtDomanda;
-  piattaforma.scegliFile = QtScegliFile;
-  piattaforma.esegui = [](const std::string& p, const std::string& a) { const RiparoFault riparo; return EseguiProgrammaQt(p, a); };
-  piattaforma.avvia = [](const std::string& p, const std::string& a) { const RiparoFault riparo; return AvviaProgrammaQt(p, a); };
-  piattaforma.attivaFinestra = QtAttivaFinestra;
-  piattaforma.tasti = QtTasti;
-  piattaforma.mostraTesto = [](const std::string& p) { const RiparoFault riparo; MostraFileTesto(p); };
-  piattaforma.mostraAiuto = [](const std::string& p) { const RiparoFault riparo; MostraFileAiuto(p); };
-  piattaforma.timer = QtTimer;
-  piattaforma.apri = QtApri;
-  piattaforma.chiudi = QtChiudi;
-  piattaforma.aggiorna = QtAggiorna;
-  piattaforma.fuoco = QtFuoco;
-  piattaforma.attesa = QtAttesa;
-  piattaforma.diario = QtDiario;
+  piattaforma.messaggio = Riparata<QtMessaggio>::Chiama;
+  piattaforma.domanda = Riparata<QtDomanda>::Chiama;
+  piattaforma.scegliFile = Riparata<QtScegliFile>::Chiama;
+  piattaforma.esegui = Riparata<EseguiProgrammaQt>::Chiama;
+  piattaforma.avvia = Riparata<AvviaProgrammaQt>::Chiama;
+  piattaforma.attivaFinestra = Riparata<AttivaFinestraEsterna>::Chiama;
+  piattaforma.tasti = Riparata<TastiAFinestraEsterna>::Chiama;
+  piattaforma.mostraTesto = Riparata<MostraFileTesto>::Chiama;
+  piattaforma.mostraAiuto = Riparata<MostraFileAiuto>::Chiama;
+  piattaforma.timer = Riparata<QtTimer>::Chiama;
+  piattaforma.apri = Riparata<ApriPannello>::Chiama;
+  piattaforma.chiudi = Riparata<ChiudiPannello>::Chiama;
+  piattaforma.aggiorna = Riparata<QtAggiorna>::Chiama;
+  piattaforma.fuoco = Riparata<QtFuoco>::Chiama;
+  piattaforma.attesa = Riparata<QtAttesa>::Chiama;
+  piattaforma.diario = Riparata<QtDiario>::Chiama;
   piattaforma.fine = QtFine;
 }
