@@ -3,6 +3,7 @@
 // Exit      0 done and every sextet verified, 1 done and some sextet is not verified, 2 not done.
 #include "app/batch/copione.h"
 #include "app/batch/disegno.h"
+#include "app/batch/immagine.h"
 #include "app/batch/memoria.h"
 #include "app/batch/piattaforma_batch.h"
 #include "app/batch/riepilogo.h"
@@ -55,6 +56,8 @@ static constexpr Verbo VERBI[] = {
   { "esegui", "COPIONE", "esegue un copione, una istruzione per riga (- per lo standard input)", 1, 1, ComandoEsegui },
   { "riepilogo", "[NODO.qb7...]", "giudica ogni nodo e dà tutti i controlli come dati, senza relazione", 0, SIZE_MAX, ComandoRiepilogo,
     [] { return !ospite.opzioni.argomenti.empty() || !ospite.opzioni.elenco.empty(); }, "--formato --righe --uscita --elenco --riprendi" },
+  { "immagine", "NODO.qb7 USCITA.svg", "disegna un sestetto: pressioni, asse neutro, tirafondi e saldature", 2, 2, ComandoImmagine, UscitaImmagineAmmessa,
+    "--sestetto" },
 };
 
 static bool Ammesso(const Verbo& v) {

@@ -46,6 +46,13 @@ static bool Righe(Opzioni& o, std::string_view v) {
   return v == "tutte" || v == "governanti";
 }
 
+static bool Sestetto(Opzioni& o, std::string_view v) {
+  if (v == "governante") return true;
+  const char* fine = v.data() + v.size();
+  const auto [dove, errore] = std::from_chars(v.data(), fine, o.sestetto);
+  return errore == std::errc() && dove == fine && o.sestetto >= 1;
+}
+
 template <std::string Opzioni::*nome>
 static bool NomeFile(Opzioni& o, std::string_view v) {
   o.*nome = v;
@@ -67,6 +74,7 @@ static constexpr RigaOpzione OPZIONI[] = {
   { "--senza-programmi", "",            "non avvia altri programmi", SenzaProgrammi, true },
   { "--formato=",        "json|jsonl|csv|csv-it|testo", "forma del risultato (senza: testo a terminale, altrimenti json)", Formato, false },
   { "--righe=",          "governanti|tutte", "quali controlli (senza: governanti)", Righe, false },
+  { "--sestetto=",       "N|governante", "quale gruppo di sollecitazioni (senza: quello che governa)", Sestetto, false },
   { "--uscita=",         "FILE",        "scrive il risultato nel file, per intero o per nulla", NomeFile<&Opzioni::uscita>, false },
   { "--elenco=",         "FILE|-",      "altri nodi, uno per riga, da un file o dallo standard input", NomeFile<&Opzioni::elenco>, false },
   { "--riprendi=",       "FILE",        "riprende le righe ancora valide di un risultato jsonl", NomeFile<&Opzioni::riprendi>, false },

@@ -17,6 +17,7 @@ struct Opzioni {
   bool senzaProgrammi = false;            // every outside program counts as not started
   std::string formato;                    // of the output, empty: by where it goes
   bool tutteLeRighe = false;              // all rows, not the governing ones
+  int sestetto = 0;                       // 1-based, 0 the governing one
   std::string uscita, elenco, riprendi;   // files: the output, a list of nodes, an earlier output
   bool aiuto = false, versione = false;
   std::string rigaComando;                // the first argument that is no option: the start takes it whole

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "app/batch/compiti.h"
+#include "app/batch/dati.h"
 #include "app/batch/piattaforma_batch.h"
 #include "app/batch/sistema.h"
 #include "app/muto/ospite_muto.h"
@@ -41,8 +42,6 @@ struct CorsaRiepilogo {
   std::string ultimoErrore;
   int stato = 0;
 };
-
-static void Errore(const std::string& testo) { std::fprintf(stderr, "errore: %s\n", SuUnaRiga(testo).c_str()); }
 
 // ---- what to do ----
 
@@ -239,16 +238,6 @@ static void Esegui(CorsaRiepilogo& c) {
 
 // ---- the verb ----
 
-static bool Avvia(CorsaRiepilogo& c) {
-  MontaPiattaformaMuta();
-  muto.rispondiOk = c.o.rispondiOk;
-  const bool avviato = AvviaMuto(c.o.rigaComando, c.o.decimale != 0 ? c.o.decimale : DecimaleSistema());
-  const std::size_t avvisi = muto.riquadri.size() - (avviato || muto.riquadri.empty() ? 0 : 1);
-  for (std::size_t k = 0; k < avvisi; ++k) std::fprintf(stderr, "avviso: %s\n", SuUnaRiga(muto.riquadri[k].testo).c_str());
-  if (!avviato) Errore(muto.riquadri.empty() ? "avvio non riuscito" : muto.riquadri.back().testo);
-  return avviato;
-}
-
 static FormatoRiepilogo FormatoScelto(const Opzioni& o) {
   for (const RigaFormatoRiepilogo& f : FORMATI_RIEPILOGO)
     if (o.formato == f.nome) return f.formato;
@@ -264,7 +253,7 @@ static bool ScriviUscitaSuFile(CorsaRiepilogo& c) {
 int ComandoRiepilogo() {
   CorsaRiepilogo c;
   c.formato = FormatoScelto(c.o);
-  if (!RaccogliIncarichi(c) || !LeggiRipresa(c) || !Avvia(c)) return 2;
+  if (!RaccogliIncarichi(c) || !LeggiRipresa(c) || !AvviaPerDati()) return 2;
   c.suiteSha = Sha256Suite();
   c.inizio = FotografaProgramma();
   Emetti(c, TestaRiepilogo(c.formato));
