@@ -18,7 +18,7 @@ constexpr int DECIMALI_RAPPORTO = 3;
 // Cut to so many characters, the last one a point where something was left out.
 static std::string Entro(std::string_view t, std::size_t caratteri) {
   if (NumCaratteri(t) <= caratteri) return std::string(t);
-  return PrimiCaratteri(t, static_cast<int>(caratteri) - 1) + ".";
+  return PrimiCaratteri(t, caratteri - 1) + ".";
 }
 
 static std::string Rapporto(double r) {
@@ -61,7 +61,7 @@ static std::string RigaTabella(const Letto& nodo, const Letto& riga) {
   const Criterio* c = CriterioDi(TestoDi(Cerca(nodo, "metodo")), TestoDi(Cerca(riga, "id")));
   const double r = NumeroDi(Cerca(riga, "rapporto")), peso = NumeroDi(Cerca(riga, "sfruttamento"));
   std::string t = VeroDi(Cerca(riga, "passa")) ? "  si'  " : "  NO   ";
-  t += AllineaSinistra(Entro(c != nullptr ? c->nome : TestoDi(Cerca(riga, "id")), COLONNE_NOME), static_cast<int>(COLONNE_NOME));
+  t += AllineaSinistra(Entro(c != nullptr ? c->nome : TestoDi(Cerca(riga, "id")), COLONNE_NOME), COLONNE_NOME);
   const std::string rapporto = Rapporto(r);
   t.append(rapporto.size() < 8 ? 8 - rapporto.size() : 0, ' ').append(rapporto).append("  ").append(Barra(peso)).append("  ");
   return Entro(t + Dove(riga, c, NomeSestetto(Cerca(nodo, "sestetti"), riga)), COLONNE) + "\n";

@@ -12,6 +12,7 @@
 #include "corredo/suite_prova.h"
 #include "drawing/disegno.h"
 #include "drawing/formats/grb_stili.h"
+#include "engine/Saldature.h"
 #include "model/materiali.h"
 #include "model/node_model.h"
 #include "model/stato.h"
@@ -436,6 +437,9 @@ TEST_F(AzzeramentoInMemoria, JobSteelThatIsRefusedTellsSoInTheReset) {
 TEST_F(AzzeramentoInMemoria, TheProgramGoesBackToItsStart) {
   UtenteSceglie(InsDati, insDati.TipoVer[1], 1);
   Scatena(InsDati, insDati.Singolo, Evento::Cambio);
+  CostruisciSaldature(lavoro);                           // as a verification or a drawing begins
+  lavoro.righe.resize(3);
+  verifica.AreaTf = 245;
   ris.SMaxCls[3] = 5;
   ris.Saldature[50].TauPa[200][3] = 1;
   stiliGrb.NumStili = 4;
@@ -449,6 +453,11 @@ TEST_F(AzzeramentoInMemoria, TheProgramGoesBackToItsStart) {
   EXPECT_EQ(VoceScelta(insDati.TipoVer[0]), 0);
   EXPECT_EQ(ris.SMaxCls[3], 0);
   EXPECT_EQ(ris.Saldature[50].TauPa[200][3], 0);
+  EXPECT_EQ(ris.Saldature[1].Nome, "");
+  EXPECT_EQ(lavoro.NumSaldature, 0);
+  EXPECT_TRUE(lavoro.righe.empty());
+  EXPECT_EQ(verifica.AreaTf, 0);
+  EXPECT_TRUE(lavoro.nodo == &nodo && lavoro.suite == &suite);
   EXPECT_EQ(stiliGrb.NumStili, 0);
   EXPECT_EQ(disegno.NumLinee, 0);
   EXPECT_EQ(suite.NumProfili, 0);

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
-#include <memory>
 
 #include "corredo/lavoro_prova.h"
 #include "corredo/nodo_prova.h"
@@ -362,36 +361,24 @@ TEST_F(CalcoliTest, DueVerificheUguali) {              // the tables in sight ar
 
 // ---- the tables as they stay in sight, against those of a Lavoro of its own
 
-namespace {
-
-std::unique_ptr<Lavoro> LavoroSuo() {
-  auto l = std::make_unique<Lavoro>();
-  l->nodo = &nodo;
-  l->suite = &suite;
-  l->TipoVer = nodo.TipoVer;
-  return l;
-}
-
-}  // namespace
-
 TEST_F(CalcoliTest, TabelleInVistaTA) {
   nodo.TipoNodo = 2;
   SestettoProva(-20000, 500, 0, 0, 90000, 0);
   ris.SMaxCls[3] = ris.SigmaTir[1][5] = 1;             // beyond the sextets, beyond the anchors: as they were
-  const auto suo = LavoroSuo();
-  ASSERT_TRUE(EseguiVerifica(*suo));
+  const auto suo = CreaLavoroSuo();
+  ASSERT_TRUE(EseguiVerifica(suo->l));
   ASSERT_TRUE(VerificaNodoFinestre());
   for (int s = 1; s <= 2; ++s) {
     for (int i = 1; i <= 4; ++i) {
-      EXPECT_EQ(ris.SigmaTir[s][i], suo->ris.SigmaTir[s][i] * 100);
-      EXPECT_EQ(ris.TauTir[s][i], suo->ris.TauTir[s][i] * 100);
-      EXPECT_EQ(ris.SRfTir[s][i], suo->ris.SRfTir[s][i] * 100);
-      EXPECT_EQ(ris.TiroTir[s][i], suo->ris.TiroTir[s][i]);
+      EXPECT_EQ(ris.SigmaTir[s][i], suo->l.ris.SigmaTir[s][i] * 100);
+      EXPECT_EQ(ris.TauTir[s][i], suo->l.ris.TauTir[s][i] * 100);
+      EXPECT_EQ(ris.SRfTir[s][i], suo->l.ris.SRfTir[s][i] * 100);
+      EXPECT_EQ(ris.TiroTir[s][i], suo->l.ris.TiroTir[s][i]);
     }
-    EXPECT_EQ(ris.SMaxPiastra[s], suo->ris.SMaxPiastra[s] * 100);
-    EXPECT_EQ(ris.SMaxCls[s], suo->ris.SMaxCls[s] * 100);
-    for (int p = 1; p <= 8; ++p) EXPECT_EQ(ris.SNerv[s][p], suo->ris.SNerv[s][p]);
-    for (int w = 1; w <= 40; ++w) EXPECT_EQ(ris.Saldature[w].TauPa[s][1], suo->ris.Saldature[w].TauPa[s][1]);
+    EXPECT_EQ(ris.SMaxPiastra[s], suo->l.ris.SMaxPiastra[s] * 100);
+    EXPECT_EQ(ris.SMaxCls[s], suo->l.ris.SMaxCls[s] * 100);
+    for (int p = 1; p <= 8; ++p) EXPECT_EQ(ris.SNerv[s][p], suo->l.ris.SNerv[s][p]);
+    for (int w = 1; w <= 40; ++w) EXPECT_EQ(ris.Saldature[w].TauPa[s][1], suo->l.ris.Saldature[w].TauPa[s][1]);
     EXPECT_GT(ris.SMaxPiastra[s] * ris.SMaxCls[s] * ris.TauTir[s][1] * ris.SNerv[s][1], 0);
   }
   EXPECT_EQ(ris.SMaxCls[3] + ris.SigmaTir[1][5], 2);
@@ -402,29 +389,29 @@ TEST_F(CalcoliTest, TabelleInVistaTA) {
 TEST_F(CalcoliTest, TabelleInVistaSLU) {               // weld stresses x 10^2, every sextet and weld in use, points 1 to 3
   nodo.TipoVer = 1;
   SestettoProva(40000, 500, 3000, 7000, 90000, 110000);
-  const auto suo = LavoroSuo();
-  ASSERT_TRUE(EseguiVerifica(*suo));
+  const auto suo = CreaLavoroSuo();
+  ASSERT_TRUE(EseguiVerifica(suo->l));
   for (int s = 1; s <= 3; ++s) ris.Saldature[9].SPrp[s][1] = ris.Saldature[2].SPrp[3][1] = ris.Co1[3][1] = ris.SMaxPiastra[3] = 1;
   ASSERT_TRUE(VerificaNodoFinestre());
   for (int s = 1; s <= 2; ++s) {
     for (int w = 1; w <= 8; ++w)
       for (int k = 1; k <= 3; ++k) {
-        const Saldatura &d = ris.Saldature[w], &e = suo->ris.Saldature[w];
+        const Saldatura &d = ris.Saldature[w], &e = suo->l.ris.Saldature[w];
         EXPECT_EQ(d.SPrp[s][k], e.SPrp[s][k] * 100);
         EXPECT_EQ(d.TauPa[s][k], e.TauPa[s][k] * 100);
         EXPECT_EQ(d.TauPe[s][k], e.TauPe[s][k] * 100);
       }
-    for (int w = 1; w <= 8; ++w) EXPECT_EQ(ris.Saldature[w].SEq1[s], suo->ris.Saldature[w].SEq1[s]);
+    for (int w = 1; w <= 8; ++w) EXPECT_EQ(ris.Saldature[w].SEq1[s], suo->l.ris.Saldature[w].SEq1[s]);
     for (int i = 1; i <= 4; ++i) {
-      EXPECT_NEAR(ris.Co1[s][i], suo->ris.Co1[s][i], 0.00501);
+      EXPECT_NEAR(ris.Co1[s][i], suo->l.ris.Co1[s][i], 0.00501);
       EXPECT_NEAR(100 * ris.Co1[s][i], std::round(100 * ris.Co1[s][i]), 1e-9);
-      EXPECT_NEAR(100 * ris.Co2[s][i], std::round(100 * suo->ris.Co2[s][i]), 1e-9);
-      EXPECT_NEAR(100 * ris.Co3[s][i], std::round(100 * suo->ris.Co3[s][i]), 1e-9);
-      EXPECT_EQ(ris.SigmaTir[s][i], suo->ris.SigmaTir[s][i]);
-      EXPECT_EQ(ris.FtEd[s][i], suo->ris.FtEd[s][i]);
+      EXPECT_NEAR(100 * ris.Co2[s][i], std::round(100 * suo->l.ris.Co2[s][i]), 1e-9);
+      EXPECT_NEAR(100 * ris.Co3[s][i], std::round(100 * suo->l.ris.Co3[s][i]), 1e-9);
+      EXPECT_EQ(ris.SigmaTir[s][i], suo->l.ris.SigmaTir[s][i]);
+      EXPECT_EQ(ris.FtEd[s][i], suo->l.ris.FtEd[s][i]);
     }
-    EXPECT_EQ(ris.SMaxPiastra[s], suo->ris.SMaxPiastra[s] * 100);
-    EXPECT_EQ(ris.SMaxCls[s], suo->ris.SMaxCls[s] * 100);
+    EXPECT_EQ(ris.SMaxPiastra[s], suo->l.ris.SMaxPiastra[s] * 100);
+    EXPECT_EQ(ris.SMaxCls[s], suo->l.ris.SMaxCls[s] * 100);
   }
   for (int s = 1; s <= 3; ++s) EXPECT_EQ(ris.Saldature[9].SPrp[s][1], 1);
   EXPECT_EQ(ris.Saldature[2].SPrp[3][1] + ris.Co1[3][1] + ris.SMaxPiastra[3], 3);
@@ -433,23 +420,23 @@ TEST_F(CalcoliTest, TabelleInVistaSLU) {               // weld stresses x 10^2, 
 // A fault of the checks leaves in sight what was reached: of a weld, the anchors of its sextet, not its plate; of the ratios, nothing.
 TEST_F(CalcoliTest, TabelleInVistaFinoAlFault) {
   SestettoProva(-20000, 500, 0, 0, 90000, 0);
-  const auto suo = LavoroSuo();
-  ASSERT_TRUE(CalcolaTabelle(*suo));
+  const auto suo = CreaLavoroSuo();
+  ASSERT_TRUE(CalcolaTabelle(suo->l));
   nodo.MatAcc.Nome = "ignoto";
   EXPECT_FALSE(VerificaNodoFinestre());
   EXPECT_EQ(lavoro.fermo.sestetto, 1);
   EXPECT_EQ(lavoro.fermo.criterio, TA_SALD);
   EXPECT_EQ(lavoro.fermo.elemento, 1);
-  for (int i = 1; i <= 4; ++i) EXPECT_EQ(ris.SigmaTir[1][i], suo->ris.SigmaTir[1][i] * 100) << i;
-  EXPECT_EQ(ris.SMaxPiastra[1], suo->ris.SMaxPiastra[1]);
-  EXPECT_EQ(ris.SMaxCls[1], suo->ris.SMaxCls[1]);
-  EXPECT_EQ(ris.SigmaTir[2][1], suo->ris.SigmaTir[2][1]);
+  for (int i = 1; i <= 4; ++i) EXPECT_EQ(ris.SigmaTir[1][i], suo->l.ris.SigmaTir[1][i] * 100) << i;
+  EXPECT_EQ(ris.SMaxPiastra[1], suo->l.ris.SMaxPiastra[1]);
+  EXPECT_EQ(ris.SMaxCls[1], suo->l.ris.SMaxCls[1]);
+  EXPECT_EQ(ris.SigmaTir[2][1], suo->l.ris.SigmaTir[2][1]);
   // The anchor's strength is null: its first anchor was come to.
   Prepara();
   nodo.MatTir.Fyk = 0;
   EXPECT_FALSE(VerificaNodoFinestre());
   EXPECT_EQ(lavoro.fermo.criterio, TA_TIR_COEFF);
   EXPECT_EQ(lavoro.fermo.elemento, 1);
-  EXPECT_NE(ris.SigmaTir[1][1], suo->ris.SigmaTir[1][1]);
-  EXPECT_NEAR(ris.SigmaTir[1][2], suo->ris.SigmaTir[1][2], 1e-12);
+  EXPECT_NE(ris.SigmaTir[1][1], suo->l.ris.SigmaTir[1][1]);
+  EXPECT_NEAR(ris.SigmaTir[1][2], suo->l.ris.SigmaTir[1][2], 1e-12);
 }

@@ -180,6 +180,7 @@ TEST_F(FileNodo, RisultatiDelNodoDiPrima) {
   ris.SigmaTir[1][1] = ris.SMaxCls[1] = ris.SNerv[200][8] = ris.FvEd[1][1] = ris.Saldature[3].SEq1[1] = 9;
   ris.SPiastraTir[1][1][5] = ris.Saldature[9].Lung = 7;
   ::lavoro.NumSaldature = 44;
+  ::lavoro.usato = true;                                 // as after a verification
   Carica(lavoro + "pilastro_A1.qb7");
   EXPECT_EQ(ris.SigmaTir[1][1], 0);
   EXPECT_EQ(ris.SMaxCls[1], 0);

@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <cstdint>
 #include <thread>
 
 #include "app/batch/disegno.h"
@@ -22,9 +23,19 @@ static const StatoOspite OSPITE_VUOTO;
 
 // --- options ----------------------------------------------------------------------------------------------------------------------
 
-static bool Leggi(std::vector<const char*> argomenti, Opzioni& o) {
+static constexpr Verbo VERBI[] = {
+  { "verifica", "NODO.qb7...", "", 1, SIZE_MAX, nullptr },
+  { "esegui", "COPIONE", "", 1, 1, nullptr },
+  { "dati", "[NODO.qb7...]", "", 0, SIZE_MAX, nullptr, nullptr, "--formato --righe --uscita" },
+};
+
+static bool Leggi(std::vector<const char*> argomenti, Opzioni& o, std::string* perche = nullptr) {
+  std::string motivo;
   argomenti.insert(argomenti.begin(), "qb07-batch");
-  return LeggiOpzioni(static_cast<int>(argomenti.size()), argomenti.data(), o);
+  const bool letta = LeggiOpzioni(static_cast<int>(argomenti.size()), argomenti.data(), VERBI, o, motivo);
+  EXPECT_EQ(motivo.empty(), letta);
+  if (perche != nullptr) *perche = motivo;
+  return letta;
 }
 
 TEST(OpzioniOspite, Predefinite) {
@@ -65,7 +76,42 @@ TEST(OpzioniOspite, UsoErrato) {
   }
   Opzioni o;
   EXPECT_FALSE(Leggi({}, o));
-  EXPECT_FALSE(Leggi({"|diroot=/suite|", "verifica"}, o));
+  EXPECT_TRUE(Leggi({"|diroot=/suite|", "verifica"}, o));            // how many arguments, the verb's own row tells
+  EXPECT_TRUE(o.argomenti.empty());
+  EXPECT_FALSE(Leggi({"|diroot=/suite|", "altro", "a.qb7"}, o));
+}
+
+// Options of one verb are wrong usage elsewhere, wherever they stand; so are both methods where no data are told.
+TEST(OpzioniOspite, DelVerbo) {
+  Opzioni o;
+  ASSERT_TRUE(Leggi({"--formato=csv-it", "--righe=tutte", "x", "dati", "--uscita=f.csv", "--metodo=entrambi"}, o));
+  EXPECT_EQ(o.formato, "csv-it");
+  EXPECT_TRUE(o.tutteLeRighe && o.entrambi);
+  EXPECT_EQ(o.uscita, "f.csv");
+  EXPECT_EQ(o.metodo, -1);
+  std::string motivo;
+  for (const char* opzione : {"--formato=json", "--righe=tutte", "--uscita=f", "--metodo=entrambi"}) {
+    Opzioni altro;
+    EXPECT_FALSE(Leggi({"x", "verifica", "a.qb7", opzione}, altro, &motivo)) << opzione;
+    EXPECT_EQ(motivo.substr(0, motivo.find_first_of("=:")), std::string(opzione).substr(0, std::string(opzione).find('=')));
+  }
+  for (const char* opzione : {"--elenco=f", "--formato=xml", "--righe=", "--uscita="}) {
+    Opzioni altro;
+    EXPECT_FALSE(Leggi({"x", "dati", opzione}, altro)) << opzione;
+  }
+}
+
+TEST(OpzioniOspite, AiutoSenzaIlResto) {
+  for (const char* opzione : {"--help", "--version"}) {
+    Opzioni o;
+    ASSERT_TRUE(Leggi({opzione}, o)) << opzione;
+    EXPECT_EQ(o.aiuto, std::string(opzione) == "--help");
+    EXPECT_EQ(o.versione, !o.aiuto);
+  }
+  const std::string uso = Uso(VERBI);
+  for (const Verbo& v : VERBI) EXPECT_NE(uso.find(std::string(v.nome) + " " + v.argomenti), std::string::npos) << v.nome;
+  EXPECT_EQ(TrovaVerbo(VERBI, "esegui"), &VERBI[1]);
+  EXPECT_EQ(TrovaVerbo(VERBI, "esegu"), nullptr);
 }
 
 // --- outside programs -------------------------------------------------------------------------------------------------------------

@@ -35,5 +35,7 @@ TEST(Programma, OgniRecordTornaAlSuoInizio) {
   std::set<std::string> nomi = Dichiarati();
   EXPECT_GT(nomi.size(), 20u);
   EXPECT_EQ(nomi.erase("piattaforma"), 1u);                // the operations of the outside stay
+  EXPECT_EQ(nomi.erase("lavoro"), 1u);                     // has a reset of its own, which ties it to the joint
+  EXPECT_NE(azzera.find("  AzzeraLavoro();"), std::string::npos);
   for (const std::string& n : nomi) EXPECT_NE(azzera.find("  " + n + " = "), std::string::npos) << n;
 }

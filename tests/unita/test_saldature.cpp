@@ -21,7 +21,10 @@ struct SaldatureTest : testing::Test {
     CostruisciSaldature(lavoro);
     Inerzie();
   }
-  static void Inerzie() { InerziaSaldature(lavoro, verifica.IzSald, verifica.IySald, verifica.IpSald, verifica.LungTz, verifica.LungTy); }
+  static void Inerzie() {
+    InerziaSaldature(lavoro, verifica.IzSald, verifica.IySald, verifica.IpSald, verifica.LungTz, verifica.LungTy);
+    DirezioniSaldature(lavoro);
+  }
   static void Azioni(double N, double Ty, double Tz, double Mt, double My, double Mz) {
     verifica.N = N;
     verifica.Ty = Ty;
