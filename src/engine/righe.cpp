@@ -163,14 +163,14 @@ static void Compila(const Lavoro& l, RigaControllo& r) {
   r.passa = c.passa(r.domanda, r.limite);
 }
 
-// The first row whose numbers raise a fault, or no row: then it came up in the limits of the sextet, told by `s` alone.
+// The first row whose numbers raise a fault or are none; without one it came up in the welds, whose stresses are combined before the rows.
 static PuntoFermo TrovaFermo(const Lavoro& l, int s) {
   for (RigaControllo r : RigheSestetto(l, s)) {
     AzzeraFault();
     Compila(l, r);
-    if (FaultAritmetico()) return {true, s, r.criterio, r.elemento};
+    if (FaultAritmetico() || !std::isfinite(r.grezza)) return {true, s, r.criterio, r.elemento};
   }
-  return {true, s, 0, 0};
+  return {true, s, l.TipoVer == MetodoTA ? int{TA_SALD} : int{SLU_SALD_1}, 0};
 }
 
 static bool GiudicaSestetto(Lavoro& l, int s, const std::vector<RigaControllo>& modello) {
