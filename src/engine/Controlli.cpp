@@ -53,12 +53,13 @@ static void Fori(Confronti& c, const Nodo& n, int) {
 }
 
 static void FuoriTerra(Confronti& c, const Nodo& n, int) { NonOltre(c, n.TfHMalta + n.SpessPiastra + 2 * n.TfFi, n.TfLFt); }
-// The hole's diameter stands where a length of thread would: the wider the hole, the easier the check passes (unsafe).
+// The hole's diameter stands where a length of thread would: the check is unsafe where the hole is wider than the thread is long.
 static void Filettatura(Confronti& c, const Nodo& n, int) { NonSotto(c, n.TfHMalta - n.TfFi, n.TfLFt - n.TfDForo); }
 static void Foro(Confronti& c, const Nodo& n, int) { Oltre(c, n.TfDForo, n.TfFi); }
 static void Malta(Confronti& c, const Nodo& n, int) { Oltre(c, n.TfHMalta, n.TfFi); }
 
-// D[1..4]: distance of the anchors from the plate's four edges, each by one anchor (the extra ones lie on the same lines);
+// D[1..4]: distance of the anchors from the plate's four edges, each by one anchor. The others lie on the same lines where the panel placed
+// them; a node file may put them elsewhere, unseen here (unsafe);
 // F[1..4]: from the column's or the ribs' face to the anchor.
 struct Distanze { double D[4 + 1], F[4 + 1]; };
 

@@ -59,7 +59,7 @@ struct SezioneDiTaglio {
   double pa, pb, qa, qb;           // rectangle
   double L, W;                     // its length across the cut, the cut's width
   bool lungoP;                     // the arm lies along p (cuts 1, 2): M about the q axis, transverse coordinate q
-  double segnoP;                   // arm |segnoP p - B/2 - SP| (cuts 1, 2) or |q - H/2| (cuts 3, 4; in cut 3 to the far face: a longer arm, safe)
+  double segnoP;                   // arm |segnoP p - B/2 - SP| (cuts 1, 2) or |q - H/2| (cuts 3, 4; in cut 3 to the far face: a longer arm, safe unless the anchor relieves the strip)
   double segnoMom;                 // of the moment integral that becomes M2
   double segnoM2;                  // of the anchors' terms in M2
   int tir[2];                      // anchors always
@@ -101,7 +101,7 @@ static Azioni AzioniTaglio(const Lavoro& l, const SezioneDiTaglio& g) {
   z.V = c.V;
   z.M = g.lungoP ? c.MomentoP : c.MomentoQ;
   z.M2 = g.segnoMom * (g.lungoP ? c.MomentoQ : c.MomentoP);
-  z.M -= g.L / 2 * z.V;            // the same sign in cuts 1 and 2, though they lie at opposite ends: cut 2 keeps the smaller lever arm of the two (unsafe there)
+  z.M -= g.L / 2 * z.V;            // right in cuts 2 and 3; in cuts 1 and 4 about the plate's outer edge: too small where the pressure grows outward (unsafe)
   SommaTiranti(l, z, g, g.tir, 2);
   const int& extra = SCHEMI[SchemaTir(*l.nodo)].lato[g.lato];
   if (extra > 0) SommaTiranti(l, z, g, &extra, 1);
@@ -145,8 +145,8 @@ static double TensioniNervature(Lavoro& l, int s, const SezioneDiTaglio& g, cons
   return J;
 }
 
-// The plate with the throats of the rib welds; in cuts 3 and 4 the ribs count too, J stays that of the ribs, and the bending
-// goes across the welds: the transverse stress, which weighs more in the ratio (safe).
+// The plate with the throats of the rib welds. In cuts 3 and 4 the ribs count too and lower the stress, bending goes across the welds, where by
+// allowable stresses it weighs a hundredth in one of the two sums, and the torsion adds nothing to their shear (unsafe, each of the three).
 static void TensioniSaldatureNervature(Lavoro& l, int s, const SezioneDiTaglio& g, const Azioni& z, double JNerv) {
   const Nodo& nodo = *l.nodo;
   const double HN = nodo.HNerv, SP = nodo.SpNerv, G = nodo.GolaCalc, t = nodo.SpessPiastra;

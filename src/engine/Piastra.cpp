@@ -71,7 +71,7 @@ static void LuciLarghezze(const Nodo& nodo, Strisce& c, const double* armZ, cons
   }
   // Places 5 to 8 by pattern. A span named holds for both spans of its direction, nullptr takes the corners' formula.
   // Neighbours a, b: no anchor stands there, the place lends the mean widths of two corners.
-  const double nulla = 0, intera = H / 2 - SP;           // pattern 1 deducts the whole rib, pattern 2 half of it: spans of eight anchors come out shorter
+  const double nulla = 0, intera = H / 2 - SP;           // pattern 1 spans between the ribs, pattern 2 between their mid-lines: more to the strip along Y, over less (either side)
   struct Posto { int opzione, i; const double *luceZ, *luceY; int a, b; };
   const Posto POSTI[] = {
     { 2, 5, nullptr, &Yr,     0, 0 }, { 2, 6, nullptr, &Yr,     0, 0 }, { 2, 7, &Zr,    &nulla,  3, 4 }, { 2, 8, &Zr,    &nulla,  1, 2 },

@@ -108,7 +108,7 @@ static void PoligonoIniziale(StatoPresInfl& p) {
 }
 
 // An odd number of rising edges met by a ray from the point towards smaller x. Falling edges are not looked at: an anchor beyond
-// the plate's right edge counts as inside, so that concrete which is not there is taken out (a little less stiff there: safe).
+// the plate's right edge counts as inside, so that concrete which is not there is taken out (nearly always safe, otherwise by some tenths of a per cent).
 bool DentroRegione(const StatoPresInfl& p, double x, double y) {
   int incroci = 0;
   for (int j = 1; j <= p.NumVertici; ++j) {

@@ -66,7 +66,7 @@ struct Lavoro {
 
   bool usato = false;                                    // a table was built: no longer as a fresh one
   std::int16_t NumSaldature = 0;                         // 8, 40 or 44
-  double SAmmCls = 0;                                    // daN/cm2, allowable pressure, by allowable stresses
+  double SAmmCls = 0;                                    // N/mm2, allowable pressure; compared with daN/cm2 as it is: a tenth (safe)
   double TauCls = 0;                                     // bond stress, N/mm2 in effect
   StatoVerifica verifica = {};
   StatoPresInfl presInfl = {};

@@ -14,14 +14,14 @@ struct LimitiTA {                  // of one sextet; load class II raises the st
   double SAdmPiastra = 0, SAdmNerv = 0;      // by the plate's and the ribs' thickness, up to and over 40 mm
   double SAdmTir = 0, TauAdmTir = 0;         // anchor: normal and shear stress
   double SRfAdm = 0;                         // bearing of the anchor on the plate
-  double SAdmSald = 0;                       // welds: the limit up to 40 mm, whatever the thickness: over 40 mm a little high (unsafe)
+  double SAdmSald = 0;                       // welds: the limit up to 40 mm, whatever the thickness: over it by a tenth high (unsafe)
   double TadRd = 0;                          // bond, the lesser of this sextet's anchor limit and of all earlier ones
 };
 
 struct LimitiSLU {
   double FdPiastra = 0, FdNerv = 0;          // design strength by thickness, up to 40 mm inclusive, or over
   double Fcd = 0;                            // concrete, 0.85 0.83 Rck / GammaC
-  double SLim1 = 0, SLim2 = 0;               // welds, Beta1 Fyk and Beta2 Fyk
+  double SLim1 = 0, SLim2 = 0;               // welds, Beta1 Fyk and Beta2 Fyk, of up to 40 mm whatever the thickness (unsafe over it)
 };
 
 // Bearing coefficient of the joint: 2.5, or the smallest edge distance over the diameter; of anchors 1, 2 and 3, on whose lines the

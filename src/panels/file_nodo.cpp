@@ -175,7 +175,7 @@ void CaricaNodo() {
   FileLettura f;
   if (!ApriLettura(f, percorso)) passi.fallito = true;
   LeggiNodo(f, EseguiPasso);
-  gradiLetti = {nodo.MatAcc.Nome, nodo.MatTir.Nome, nodo.MatCls.Nome};
+  gradiLetti = {nodo.MatAcc.Nome, nodo.MatTir.Nome, nodo.MatCls.Nome, true};
   ControllaMateriali();
   MostraPiastra();
   MostraTipologia();

@@ -38,11 +38,13 @@ static void UncinoTA(const Contesto& c, std::vector<std::string>& t) {
 
 static void Grado(const char* materiale, const std::string& nelFile, const std::string& usato, std::vector<std::string>& t) {
   const std::string_view a = Rifila(nelFile), b = Rifila(usato);
-  if (a.empty() || a == b) return;
-  t.push_back(std::string(materiale) + ": il file del nodo indica \"" + std::string(a) + "\", la verifica usa i valori di \"" + std::string(b) + "\".");
+  if (a == b) return;
+  const std::string indica = a.empty() ? "non indica alcun grado" : "indica \"" + std::string(a) + "\"";
+  t.push_back(std::string(materiale) + ": il file del nodo " + indica + ", la verifica usa i valori di \"" + std::string(b) + "\".");
 }
 
 static void GradoDiverso(const Contesto& c, std::vector<std::string>& t) {
+  if (!c.gradi.letti) return;
   Grado("Acciaio", c.gradi.acciaio, c.nodo.MatAcc.Nome, t);
   Grado("Tirafondi", c.gradi.tirafondi, c.nodo.MatTir.Nome, t);
   Grado("Calcestruzzo", c.gradi.calcestruzzo, c.nodo.MatCls.Nome, t);
@@ -68,12 +70,10 @@ static void SpessoreOltre40(const Contesto& c, std::vector<std::string>& t) {
 static bool FuoriADestra(const Nodo& n, int i) { return n.TfZ[i] > n.LatoZ && n.TfY[i] >= 0 && n.TfY[i] < n.LatoY; }
 
 static void TirafondoFuori(const Contesto& c, std::vector<std::string>& t) {
-  if (!ConSestetti(c)) return;
-  for (int i = 1; i <= c.nodo.NTir; ++i)
-    if (FuoriADestra(c.nodo, i)) {
-      t.push_back("Tirafondo " + std::to_string(i) + " oltre il lato destro della piastra: conta come immerso nel calcestruzzo.");
-      return;
-    }
+  std::string quali;
+  for (int i = 1; i <= c.nodo.NTir && ConSestetti(c); ++i)
+    if (FuoriADestra(c.nodo, i)) quali += (quali.empty() ? "" : ", ") + std::to_string(i);
+  if (!quali.empty()) t.push_back("Tirafondi oltre il lato destro della piastra (n. " + quali + "): contano come immersi nel calcestruzzo.");
 }
 
 static void Diametro(const Contesto& c, std::vector<std::string>& t) {

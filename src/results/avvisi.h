@@ -11,7 +11,10 @@ struct Avviso {
   std::string id, testo;           // testo: Italian
 };
 
-// The grades that the node file names; an empty name is not compared.
-struct GradiFile { std::string acciaio, tirafondi, calcestruzzo; };
+// The grades that the node file names. letti false: there is no file, nothing is compared.
+struct GradiFile {
+  std::string acciaio, tirafondi, calcestruzzo;
+  bool letti = false;
+};
 
 std::vector<Avviso> AvvisiNodo(const Nodo& nodo, int metodo, const Suite& suite, const GradiFile& gradi, const Lavoro* giudicato);

@@ -17,7 +17,7 @@ void AggiungiNumero(std::string& t, double v) {
     return;
   }
   char a[40];
-  t.append(a, std::to_chars(a, a + sizeof a, v).ptr);
+  t.append(a, std::to_chars(a, a + sizeof a, v == 0 ? 0.0 : v).ptr);         // no minus before a zero
 }
 
 void AggiungiNumero(std::string& t, int v) {

@@ -2,6 +2,7 @@
 // CSV       RFC 4180 with LF, or for Italian spreadsheets: semicolon, decimal comma, byte order mark, CR LF. A text that a spreadsheet
 //           would take for a formula gets an apostrophe in front.
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -146,14 +147,42 @@ std::string PiedeRiepilogo(FormatoRiepilogo f) { return f == FormatoRiepilogo::J
 
 // ---- an earlier output ----
 
+// The members that every object has, with their kinds: n null, t text, l list, o object.
+struct MembroAtteso { std::string_view nome; std::string_view generi; };
+static constexpr MembroAtteso MEMBRI[] = {
+  { "schema", "t" },   { "programma", "o" },      { "percorso", "t" },       { "sha256", "nt" },   { "nome", "t" },       { "metodo", "nt" },
+  { "stato", "t" },    { "motivo", "nt" },        { "opzioni", "o" },        { "suite_sha256", "nt" }, { "nodi_struttura", "l" }, { "ingresso", "no" },
+  { "geometria", "nl" }, { "sestetti", "l" },     { "governanti", "no" },    { "avvisi", "l" },
+};
+
+static char LetteraDi(const Letto& v) {
+  using enum Letto::Genere;
+  switch (v.genere) {
+    case Nullo: return 'n';
+    case Testo: return 't';
+    case Lista: return 'l';
+    case Oggetto: return 'o';
+    default: return '-';
+  }
+}
+
+static bool Risultato(const Letto& v) {
+  for (const MembroAtteso& m : MEMBRI) {
+    const Letto* x = Cerca(v, m.nome);
+    if (x == nullptr || m.generi.find(LetteraDi(*x)) == std::string_view::npos) return false;
+  }
+  const Letto& programma = *Cerca(v, "programma");
+  return TestoDi(Cerca(v, "schema")) == SCHEMA_RIEPILOGO && TestoDi(Cerca(programma, "nome")) == "qb07-batch" &&
+         !TestoDi(Cerca(programma, "versione")).empty() && !TestoDi(Cerca(v, "percorso")).empty() &&
+         std::ranges::find(NOME_STATO, TestoDi(Cerca(v, "stato"))) != std::end(NOME_STATO);
+}
+
 EsitoRipresa LeggiRigaRipresa(std::string_view riga, bool intera, RigaRipresa& r) {
   Letto v;
-  if (!json::Leggi(riga, v)) return intera ? EsitoRipresa::NonValida : EsitoRipresa::Troncata;
-  const Letto* programma = Cerca(v, "programma");
-  if (TestoDi(Cerca(v, "schema")) != SCHEMA_RIEPILOGO || programma == nullptr || TestoDi(Cerca(v, "percorso")).empty() || Cerca(v, "stato") == nullptr)
-    return EsitoRipresa::NonValida;
+  if (!json::Leggi(riga, v)) return intera || !riga.starts_with('{') ? EsitoRipresa::NonValida : EsitoRipresa::Troncata;
+  if (!Risultato(v)) return EsitoRipresa::NonValida;
   r = {};
-  if (TestoDi(Cerca(*programma, "versione")) != VERSIONE) return EsitoRipresa::Letta;      // another version's: worked out anew
+  if (TestoDi(Cerca(*Cerca(v, "programma"), "versione")) != VERSIONE) return EsitoRipresa::Letta;      // another version's: worked out anew
   r.percorso = TestoDi(Cerca(v, "percorso"));
   r.metodo = TestoDi(Cerca(v, "metodo"));
   for (const std::string_view nome : {std::string_view("schema"), std::string_view("programma")}) {
@@ -170,6 +199,8 @@ bool RipresaVale(const RigaRipresa& r, const NodoGiudicato& atteso, bool tutteLe
   Letto v;
   if (r.oggetto.empty() || r.percorso != atteso.percorso || atteso.sha256.empty() || !json::Leggi(r.oggetto, v)) return false;
   const Letto* opzioni = Cerca(v, "opzioni");
+  const Letto* ingresso = Cerca(v, "ingresso");
+  if (ingresso == nullptr || ingresso->genere != Letto::Genere::Oggetto) return false;      // lost, perhaps by no fault of the file: tried again
   if (opzioni == nullptr || TestoDi(Cerca(v, "sha256")) != atteso.sha256 || TestoDi(Cerca(v, "suite_sha256")) != atteso.suite_sha256) return false;
   const bool stesseOpzioni = atteso.metodo >= 0 && TestoDi(Cerca(*opzioni, "metodo")) == NOME_METODO[atteso.metodo] &&
                              TestoDi(Cerca(*opzioni, "decimale")) == std::string_view(&atteso.decimale, 1) &&

@@ -7,7 +7,10 @@
 #include "app/muto/ospite_muto.h"
 #include "core/eventi.h"
 
-void Errore(const std::string& testo) { std::fprintf(stderr, "errore: %s\n", SuUnaRiga(testo).c_str()); }
+void Errore(const std::string& testo) {
+  const char* pulisci = ospite.progresso ? "\r\033[K" : "";        // the count that stands there
+  std::fprintf(stderr, "%serrore: %s\n", pulisci, PercorsoSuUnaRiga(testo).c_str());
+}
 
 bool AvviaPerDati() {
   const Opzioni& o = ospite.opzioni;

@@ -26,6 +26,7 @@ static bool Giudica(NodoGiudicato& n) {
 }
 
 int ComandoImmagine() {
+  ospite.dati = true;
   const Opzioni& o = ospite.opzioni;
   if (!AvviaPerDati()) return 2;
   NodoGiudicato n;

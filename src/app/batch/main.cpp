@@ -16,6 +16,7 @@
 #include "panels/InsDati.h"
 #include "results/riepilogo.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <string>
@@ -49,13 +50,17 @@ static int ComandoEsegui() {
   return copione.fermato ? 2 : StatoUscita();
 }
 
+static bool SenzaVuoti() {
+  return std::ranges::none_of(ospite.opzioni.argomenti, [](const std::string& a) { return a.empty(); });
+}
+
 static constexpr Verbo VERBI[] = {
   { "verifica", "NODO.qb7...", "verifica ogni nodo e scrive la sua relazione", 1, SIZE_MAX, ComandoVerifica },
   { "disegno", "NODO.qb7 USCITA.dis|.dxf|.grb|.svg", "scrive il disegno esecutivo del nodo", 2, 2, ComandoDisegno,
     [] { return FormatoAmmesso(ospite.opzioni.argomenti[1]); } },
   { "esegui", "COPIONE", "esegue un copione, una istruzione per riga (- per lo standard input)", 1, 1, ComandoEsegui },
   { "riepilogo", "[NODO.qb7...]", "giudica ogni nodo e dà tutti i controlli come dati, senza relazione", 0, SIZE_MAX, ComandoRiepilogo,
-    [] { return !ospite.opzioni.argomenti.empty() || !ospite.opzioni.elenco.empty(); }, "--formato --righe --uscita --elenco --riprendi" },
+    [] { return (!ospite.opzioni.argomenti.empty() || !ospite.opzioni.elenco.empty()) && SenzaVuoti(); }, "--formato --righe --uscita --elenco --riprendi" },
   { "immagine", "NODO.qb7 USCITA.svg", "disegna un sestetto: pressioni, asse neutro, tirafondi e saldature", 2, 2, ComandoImmagine, UscitaImmagineAmmessa,
     "--sestetto" },
 };
@@ -72,6 +77,7 @@ static int UsoErrato(const std::string& motivo) {
 
 // --help and --version; the verb may stand anywhere. Output that cannot be written is status 2.
 static int Informa() {
+  ospite.dati = true;
   const Opzioni& o = ospite.opzioni;
   const Verbo* v = TrovaVerbo(VERBI, o.comando);
   if (v == nullptr) v = TrovaVerbo(VERBI, o.rigaComando);

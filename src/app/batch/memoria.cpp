@@ -5,6 +5,7 @@
 #include "core/eventi.h"
 #include "model/suite.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <new>
 #include <string>
@@ -17,7 +18,8 @@ static void* riserva = nullptr;
 static void MemoriaEsaurita() {
   std::free(riserva);
   riserva = nullptr;
-  Stampa(riga);
+  if (ospite.dati && !ospite.lavorante) std::fprintf(stderr, "errore: %s\n", TESTO_MEMORIA);
+  else Stampa(riga);
   Esci(2);
 }
 

@@ -17,16 +17,27 @@ void StampaTesto(const std::string& testo) {
   std::string motivo;
   if (ScriviUscita(testo, motivo)) return;
   FinisciSeRichiesto();                   // no loss: a signal that asks for the end broke off the write
-  std::fprintf(stderr, "uscita standard persa: %s\n", motivo.c_str());
+  std::fprintf(stderr, "%suscita standard persa: %s\n", ospite.dati ? "errore: " : "", motivo.c_str());
   Esci(2);
 }
 
+static bool LeggiTutto(std::FILE* f, std::string& testo) {
+  char byte[4096];
+  for (std::size_t n = 0; (n = std::fread(byte, 1, sizeof byte, f)) > 0;) testo.append(byte, n);
+  return std::ferror(f) == 0;
+}
+
+bool LeggiFlusso(const std::string& percorso, std::string& testo) {
+  if (percorso == "-") return LeggiTutto(stdin, testo);
+  std::FILE* f = std::fopen(RisolviPercorso(percorso).c_str(), "rb");
+  if (f == nullptr) return false;
+  const bool letto = LeggiTutto(f, testo);
+  std::fclose(f);
+  return letto;
+}
+
 bool LeggiTestoOspite(const std::string& percorso, std::string& testo) {
-  if (percorso == "-") {
-    char byte[4096];
-    for (std::size_t n = 0; (n = std::fread(byte, 1, sizeof byte, stdin)) > 0;) testo.append(byte, n);
-    return std::ferror(stdin) == 0;
-  }
+  if (percorso == "-") return LeggiTutto(stdin, testo);
   FileLettura f;
   if (!ApriLettura(f, percorso)) return false;
   testo = std::move(f.byte);

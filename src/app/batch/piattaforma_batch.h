@@ -35,6 +35,9 @@ struct StatoOspite {
   std::vector<ProgrammaAvviato> avviati;
   std::string finestraCercata;            // the last window that was not found
   bool avviato = false;                   // the start has ended well
+  bool dati = false;                      // the output is data or information: failures go to standard error, as "errore: ..."
+  bool progresso = false;                 // a count stands on the terminal's line
+  bool lavorante = false;                 // a worker: its output is a channel
   bool nonVerificato = false;             // a verification of this run found a sextet that is not verified
   void (*dentroModale)(const Pannello& p) = nullptr;   // works inside a modal panel until it closes; null: nobody does
 };
@@ -44,6 +47,7 @@ void MontaPiattaforma();                  // fills piattaforma
 void Stampa(const std::string& riga);     // one line on standard output, at once; output that cannot be written ends the run, status 2
 void StampaTesto(const std::string& testo);  // the same without a line end
 bool LeggiTestoOspite(const std::string& percorso, std::string& testo);   // a file, or standard input for "-"
+bool LeggiFlusso(const std::string& percorso, std::string& testo);        // the same of anything that can be read, a pipe too
 int ProcessiInsieme();                    // as many as the options say, or one a core
 void AvanzaTempo(int ms);                  // fires the timers that come due, the earliest first
 int StatoUscita();                        // 0, 1 or 2 for a run that ends now, its last line carried out

@@ -16,6 +16,7 @@
 #include "app/muto/ospite_muto.h"
 #include "core/eventi.h"
 #include "core/file.h"
+#include "core/testo.h"
 #include "model/stato.h"
 #include "panels/lavoro_finestre.h"
 #include "panels/programma.h"
@@ -59,12 +60,14 @@ static std::vector<std::string> Righe(std::string_view t) {
 
 static bool LeggiElenco(const std::string& nome, std::vector<std::string>& percorsi) {
   std::string testo;
-  if (!LeggiTestoOspite(nome, testo)) {
+  if (!LeggiFlusso(nome, testo)) {
     Errore("--elenco=" + nome + ": elenco non leggibile");
     return false;
   }
+  constexpr std::string_view MARCA_UTF8 = "\xEF\xBB\xBF";
+  if (testo.starts_with(MARCA_UTF8)) testo.erase(0, MARCA_UTF8.size());
   for (std::string& r : Righe(testo))
-    if (!r.empty()) percorsi.push_back(std::move(r));
+    if (!Rifila(r).empty()) percorsi.push_back(std::move(r));
   return true;
 }
 
@@ -132,7 +135,7 @@ static NodoGiudicato Prepara(const CorsaRiepilogo& c, const Incarico& i) {
   n.decimale = suite.Decimale;
   n.rispondiOk = c.o.rispondiOk;
   n.suite_sha256 = c.suiteSha;
-  Sha256File(i.percorso, n.sha256);
+  Sha256File(FileDelNodo(i.percorso), n.sha256);
   return n;
 }
 
@@ -169,6 +172,14 @@ static void Emetti(CorsaRiepilogo& c, const std::string& testo) {
   else c.uscita += testo;
 }
 
+// For a person who waits: only where the result itself does not come to the same screen.
+static void MostraProgresso(const CorsaRiepilogo& c) {
+  if (!ErroriSuTerminale() || (c.o.uscita.empty() && UscitaSuTerminale())) return;
+  const std::size_t n = c.incarichi.size();
+  ospite.progresso = c.emessi < n;
+  std::fprintf(stderr, "\r%zu/%zu%s", c.emessi, n, ospite.progresso ? "" : "\n");
+}
+
 // The next one of the list, and all behind it that are there.
 static void EmettiPronti(CorsaRiepilogo& c) {
   for (auto f = c.fatti.find(c.emessi); f != c.fatti.end(); f = c.fatti.find(c.emessi)) {
@@ -183,8 +194,7 @@ static void EmettiPronti(CorsaRiepilogo& c) {
     c.stato = std::max(c.stato, stato);
     c.fatti.erase(f);
     ++c.emessi;
-    const std::size_t n = c.incarichi.size();
-    if (ErroriSuTerminale()) std::fprintf(stderr, "\r%zu/%zu%s", c.emessi, n, c.emessi == n ? "\n" : "");
+    MostraProgresso(c);
   }
 }
 
@@ -224,6 +234,7 @@ static void Esegui(CorsaRiepilogo& c) {
     lavori.quanti = blocchi.size();
     lavori.insieme = ProcessiInsieme();
     lavori.esegui = [&](std::size_t b) {
+      ospite.lavorante = true;
       for (const std::size_t k : blocchi[b]) Lavora(c, c.incarichi[k]);
       return 0;
     };
@@ -251,6 +262,7 @@ static bool ScriviUscitaSuFile(CorsaRiepilogo& c) {
 }
 
 int ComandoRiepilogo() {
+  ospite.dati = true;
   CorsaRiepilogo c;
   c.formato = FormatoScelto(c.o);
   if (!RaccogliIncarichi(c) || !LeggiRipresa(c) || !AvviaPerDati()) return 2;

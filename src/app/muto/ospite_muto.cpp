@@ -52,6 +52,12 @@ bool AvviaMuto(const std::string& rigaComando, char decimale) {
   return CaricaInsDati(rigaComando) && !muto.finito;
 }
 
+std::string FileDelNodo(const std::string& percorso) {
+  RichiestaFile r;
+  r.estensione = "qb7";
+  return ConEstensione(r, percorso);
+}
+
 bool CaricaMuto(const std::string& percorso) {
   muto.riquadri.clear();
   muto.file = percorso;

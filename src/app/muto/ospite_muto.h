@@ -25,6 +25,7 @@ void MontaPiattaformaMuta();             // fills piattaforma
 bool AvviaMuto(const std::string& rigaComando, char decimale);
 // The load command on a file. False: it ended in its failure box. Grades that the file names: gradiLetti.
 bool CaricaMuto(const std::string& percorso);
+std::string FileDelNodo(const std::string& percorso);     // what that command opens: a name without a point gets .qb7
 void ScegliMetodoMuto(int metodo);       // as the user does behind the load: grades follow it
 
 std::string Sha256Suite();               // of the suite's files that a verification depends on; a missing file counts as such
