@@ -24,5 +24,3 @@ struct Edizione {
   void (*nomeSald)(const std::string& testo, double x1, double x2, double y1, double y2, double vx, double vy, bool sopra) = nullptr;
 };
 inline Edizione edizione;
-
-Edizione EdizioneDis();            // DIS, DXF, SVG: texts of the store with sizes and colours of the options

@@ -6,8 +6,9 @@
 
 #include "drawing/Quote.h"
 #include "drawing/disegno.h"
-#include "drawing/esecutivo.h"
+#include "drawing/pezzi.h"
 #include "drawing/saldature_dis.h"
+#include "drawing/tavola.h"
 #include "model/stato.h"
 #include "model/suite.h"
 

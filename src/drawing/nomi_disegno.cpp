@@ -3,10 +3,10 @@
 
 #include "drawing/Quote.h"
 #include "drawing/disegno.h"
-#include "drawing/esecutivo.h"
 #include "drawing/font.h"
 #include "drawing/formats/grb_stili.h"
 #include "drawing/formats/tipi_linea.h"
+#include "drawing/tavola.h"
 
 static constexpr RigaNome NOMI[] = {
   // Store

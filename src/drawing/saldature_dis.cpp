@@ -7,7 +7,7 @@
 #include "core/numeri.h"
 #include "drawing/Quote.h"
 #include "drawing/edizione.h"
-#include "drawing/esecutivo.h"
+#include "drawing/tavola.h"
 #include "engine/Saldature.h"
 #include "model/stato.h"
 #include "model/suite.h"

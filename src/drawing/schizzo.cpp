@@ -3,7 +3,6 @@
 
 #include <cmath>
 
-#include "core/aritmetica.h"
 #include "core/numeri.h"
 #include "drawing/disegno.h"
 #include "drawing/pianta.h"
@@ -41,7 +40,6 @@ static void Nervature(Tela& t, int s) {
 
 void DisegnaNodo(Tela& tela) {
   CalcolaSmussi();
-  if (passi.fallito) return;
   PulisciTela(tela);
   if (SenzaMisure(tela)) return;
   const double Dy = MaxDi(nodo.Sezione.H, nodo.LatoY), Dz = MaxDi(nodo.Sezione.B, nodo.LatoZ);

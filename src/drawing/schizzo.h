@@ -5,6 +5,6 @@
 #include "drawing/tela.h"
 #include "model/node_model.h"
 
-// Repaints the plan whole. Where a step of the running command has failed only the chamfers follow, the canvas stays as it was.
+// Repaints the plan whole; the chamfers of the ribs are worked out for it.
 void DisegnaNodo(Tela& tela);
 void DisegnaSezImport(Tela& tela, const Sezione& sezione);

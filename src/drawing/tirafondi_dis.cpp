@@ -5,7 +5,8 @@
 #include "drawing/Quote.h"
 #include "drawing/disegno.h"
 #include "drawing/edizione.h"
-#include "drawing/esecutivo.h"
+#include "drawing/pezzi.h"
+#include "drawing/tavola.h"
 #include "model/stato.h"
 #include "model/suite.h"
 

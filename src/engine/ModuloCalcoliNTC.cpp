@@ -3,7 +3,6 @@
 
 #include <cmath>
 
-#include "core/diametri.h"
 #include "core/numeri.h"
 #include "core/testo.h"
 #include "engine/Tirafondi.h"

@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "core/diametri.h"
+#include "core/area_resistente.h"
 #include "core/numeri.h"
 
 void InerziaTirafondi(const Nodo& nodo, double& somma, double (&armZ)[MaxTir + 1], double (&armY)[MaxTir + 1]) {

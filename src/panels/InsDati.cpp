@@ -2,47 +2,24 @@
 // Each field stores the moment it changes, and every change of geometry rebuilds the anchor positions.
 #include "panels/InsDati.h"
 
-#include <cmath>
 #include <string>
 
 #include "core/aritmetica.h"
 #include "core/numeri.h"
 #include "core/piattaforma.h"
+#include "drawing/pianta.h"
 #include "drawing/schizzo.h"
 #include "model/node_model.h"
 #include "model/regole_nodo.h"
 #include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati_eventi.h"
+#include "panels/valori.h"
 
 constexpr int MS_STATO = 800;              // rest of the pointer before the status line shows
 constexpr std::int32_t COLORE_SCHEDE = 0xFFFFD2;      // RGB(210, 255, 255)
 constexpr std::int32_t COLORE_VERSIONE = 0x6464FF;    // RGB(255, 100, 100)
 constexpr std::int32_t COLORE_BIANCO = 0xFFFFFF;
-
-// ---- values ----
-
-bool LeggiCampo(const Controllo& c, double& v) {
-  if (Val(c.testo, v)) return true;
-  passi.fallito = true;
-  return false;
-}
-
-bool AssegnaFinito(double& variabile, double v) {
-  if (!std::isfinite(v)) {
-    SegnalaFault();
-    return false;
-  }
-  variabile = v;
-  return true;
-}
-
-void ImpostaNumero(Controllo& c, double v) {
-  if (std::isfinite(v))
-    ImpostaTesto(c, NumeroPiano(v));
-  else
-    passi.fallito = true;
-}
 
 // ---- section and plate ----
 
@@ -172,7 +149,8 @@ void InsDati_ComboEsposizione(int) { nodo.Esposizione = insDati.ComboEsposizione
 // ---- plan ----
 
 void RidisegnaNodo() {
-  DisegnaNodo(insDati.telaNodo);
+  if (passi.fallito) CalcolaSmussi();        // the canvas stays as it was
+  else DisegnaNodo(insDati.telaNodo);
   piattaforma.aggiorna(insDati.Nodo);
 }
 

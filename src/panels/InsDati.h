@@ -47,6 +47,7 @@ struct StatoVerificaPannello {
 inline StatoVerificaPannello verificaPannello;
 
 void PreparaInsDati();                                // the panel as created: rows, captions, pictures, first choices
+void DisegnaSegniTipo();                              // the anchors' marks on the pictures of the typologies
 
 // Start and reset.
 // The whole start in its order; at its end the panel is opened (piattaforma.apri). False: it ended in a message and fine().
@@ -54,13 +55,12 @@ bool CaricaInsDati(const std::string& rigaComando);
 void AzzeraNodo();                                    // the reset of a node, through the fields
 
 // Fields and model.
-void ImpostaNumero(Controllo& c, double v);           // a field's text from a number; one that is not finite is a failed step
 void ScriviTitolo();                                  // caption from nodo.NomeNodo
 void PosizioniTirafondi();                            // NTir, TfZ, TfY from DTf 1..4, the sides and the pattern
 void AggiornaTFLab();                                 // the anchor's read-only labels
 void AggiornaGeomp();                                 // H, B, A, E, R of the section
 void InsDati_LatoTxt_Invio(int indice);               // sides from margins or margins from sides, as GeoP says; anchors; plan
-void RidisegnaNodo();                                 // the plan, unless a step of the running command has failed
+void RidisegnaNodo();                                 // the plan; where a step of the running command has failed only the ribs' chamfers
 void ImpostaStato(const char* testo);                 // status line after 800 ms
 
 // Load list (panels/lista_soll.cpp).

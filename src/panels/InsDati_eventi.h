@@ -65,9 +65,3 @@ const char* InsDati_Label30_Stato(int i);
 // The window, the status line.
 void InsDati_Mostrato();                              // the first time: colours, plan, title of the search tool
 void InsDati_Passa(const char* testo);
-
-// Values. A typed number that overflows is a failed step, a result that is not finite an arithmetic fault; false, and the
-// variable keeps its value.
-struct Controllo;
-bool LeggiCampo(const Controllo& c, double& v);       // numeric head of the text, 0 for none
-bool AssegnaFinito(double& variabile, double v);

@@ -10,6 +10,7 @@
 #include "model/suite.h"
 #include "panels/InsDati_eventi.h"
 #include "panels/righe.h"
+#include "panels/valori.h"
 #include "panels/visualizzatore.h"
 
 namespace {

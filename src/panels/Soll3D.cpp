@@ -52,6 +52,8 @@ void Soll3D_TuttiCdc2(int) {
 
 void Soll3D_Cerca(int i) {
   if (i == 0) {
+    selezione.nodi = &soll3D.NodiTxt;
+    selezione.aste = &soll3D.AsteTxt;
     piattaforma.apri(Selezione, true);
     return;
   }

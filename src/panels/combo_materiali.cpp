@@ -18,6 +18,7 @@
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"
 #include "panels/PropMateriali.h"
+#include "panels/valori.h"
 
 constexpr const char* PROFILI = "PROFILI";   // column and plates
 constexpr const char* BULLONI = "BULLONI";   // anchors

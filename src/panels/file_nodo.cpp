@@ -17,6 +17,7 @@
 #include "panels/FormTF.h"
 #include "panels/InsDati.h"
 #include "panels/lavoro_finestre.h"
+#include "panels/valori.h"
 
 // The name and the caption change before anything is read or written, also when that fails then.
 static bool ScegliFileNodo(bool salva, std::string& percorso) {

@@ -4,7 +4,7 @@
 #include "core/aritmetica.h"
 #include "core/numeri.h"
 #include "core/piattaforma.h"
-#include "drawing/esecutivo.h"
+#include "drawing/tavola.h"
 #include "engine/Calcoli.h"
 #include "engine/Controlli.h"
 #include "engine/righe.h"

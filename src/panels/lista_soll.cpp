@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/aritmetica.h"
+#include "core/nomi_file.h"
 #include "core/numeri.h"
 #include "core/piattaforma.h"
 #include "model/node_model.h"
@@ -13,7 +14,7 @@
 #include "model/suite.h"
 #include "panels/InsDati.h"
 #include "panels/InsDati_eventi.h"
-#include "core/nomi_file.h"
+#include "panels/valori.h"
 
 constexpr int NumRighe = 5;
 constexpr int ScrollMin = 3;               // value of the bar at which the rows show groups 1 to 5

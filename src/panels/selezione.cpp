@@ -9,7 +9,6 @@
 #include "link/ricerca.h"
 #include "model/node_model.h"
 #include "model/stato.h"
-#include "panels/Soll3D.h"
 #include "panels/righe.h"
 
 namespace {
@@ -47,7 +46,7 @@ FiltroAste FiltroDalPannello() {
 std::string AsteDeiNodi() {
   bool troppi = false;
   std::string lista;
-  if (!LeggiLista(soll3D.NodiTxt.testo, nodo.NodiStr, MaxNodiStr, nodo.NumNodiStr, troppi)) return lista;
+  if (selezione.nodi == nullptr || !LeggiLista(selezione.nodi->testo, nodo.NodiStr, MaxNodiStr, nodo.NumNodiStr, troppi)) return lista;
   CercaAste({nodo.NodiStr + 1, static_cast<std::size_t>(nodo.NumNodiStr)}, FiltroDalPannello(), lista);
   return lista;
 }
@@ -57,7 +56,7 @@ void Selezione_Cerca(int) {
   std::string lista = AsteDeiNodi();
   if (!lista.empty()) {
     lista.pop_back();                        // the last comma
-    ImpostaTesto(soll3D.AsteTxt, lista);
+    ImpostaTesto(*selezione.aste, lista);
   }
   piattaforma.attesa(false);
   piattaforma.chiudi(Selezione);

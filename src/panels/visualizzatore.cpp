@@ -4,7 +4,7 @@
 #include "core/file.h"
 #include "core/numeri.h"
 #include "core/piattaforma.h"
-#include "drawing/formats/formati.h"
+#include "drawing/formats/scrittori.h"
 #include "model/stato.h"
 #include "model/suite.h"
 

@@ -2,7 +2,7 @@
 // and the blanks behind a left-aligned one stay.
 #include <cmath>
 
-#include "core/diametri.h"
+#include "core/area_resistente.h"
 #include "core/numeri.h"
 #include "engine/Saldature.h"
 #include "engine/righe.h"

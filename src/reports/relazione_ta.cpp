@@ -1,6 +1,6 @@
 // reports/relazione_ta.cpp - report by allowable stresses (CNR 10011/88). Items joined by tabs. Values are judged after Arrotonda1 or
 // Arrotonda2 and shown rounded with ties to even: at a half the number on paper may lie on the other side of its verdict.
-#include "core/diametri.h"
+#include "core/area_resistente.h"
 #include "core/numeri.h"
 #include "engine/limiti.h"
 #include "engine/righe.h"

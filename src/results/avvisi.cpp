@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "core/diametri.h"
+#include "core/area_resistente.h"
 #include "core/fault.h"
 #include "core/testo.h"
 #include "model/regole_nodo.h"

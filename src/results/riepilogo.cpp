@@ -5,7 +5,7 @@
 
 #include <utility>
 
-#include "core/diametri.h"
+#include "core/area_resistente.h"
 #include "core/testo.h"
 #include "engine/fatti.h"
 #include "results/governanti.h"

@@ -8,10 +8,13 @@
 #include "core/aritmetica.h"
 #include "corredo/nodo_disegno.h"
 #include "corredo/registratore.h"
-#include "drawing/edizione.h"
+#include "drawing/edizione_dis.h"
 #include "drawing/esecutivo.h"
 #include "drawing/formats/formati.h"
+#include "drawing/pezzi.h"
 #include "drawing/pianta.h"
+#include "drawing/tavola.h"
+#include "drawing/viste.h"
 #include "model/suite.h"
 
 class FoglioDisegno : public ::testing::Test {

@@ -5,6 +5,7 @@
 #include "app/qt/finestre.h"
 #include "app/qt/legame.h"
 #include "app/qt/lingua.h"
+#include "app/qt/montaggio.h"
 #include "app/qt/piattaforma_qt.h"
 #include "core/eventi.h"
 #include "model/stato.h"

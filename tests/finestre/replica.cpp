@@ -5,6 +5,7 @@
 #include "app/batch/piattaforma_batch.h"
 #include "app/qt/finestre.h"
 #include "app/qt/lingua.h"
+#include "app/qt/montaggio.h"
 #include "core/file.h"
 #include "mani.h"
 #include "model/stato.h"

@@ -3,6 +3,7 @@
 
 #include "app/qt/finestre.h"
 #include "app/qt/legame.h"
+#include "app/qt/montaggio.h"
 #include "app/qt/piattaforma_qt.h"
 #include "corredo/suite_prova.h"
 #include "model/stato.h"

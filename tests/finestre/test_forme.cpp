@@ -1,6 +1,7 @@
 // finestre/test_forme.cpp - every control of every panel has its widget of the right kind, and every widget its control.
 #include "app/qt/finestre.h"
 #include "app/qt/legame.h"
+#include "app/qt/montaggio.h"
 #include "panels/InsDati.h"
 #include "panels/pannelli.h"
 

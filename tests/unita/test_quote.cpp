@@ -9,7 +9,7 @@
 #include "corredo/registratore.h"
 #include "drawing/Quote.h"
 #include "drawing/disegno.h"
-#include "drawing/edizione.h"
+#include "drawing/edizione_dis.h"
 #include "drawing/saldature_dis.h"
 #include "model/stato.h"
 #include "model/suite.h"

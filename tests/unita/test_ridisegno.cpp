@@ -83,3 +83,15 @@ TEST_F(Ridisegno, NonDopoUnPassoFallito) {
   EXPECT_EQ(tratti.size(), prima);
   EXPECT_EQ(nodo.NTir, 4);
 }
+
+// The joint may hold half of what was typed: the plan in sight stays, the chamfers follow the ribs.
+TEST_F(Ridisegno, DopoUnPassoFallitoSeguonoSoloGliSmussi) {
+  nodo.HNerv = 90;
+  passi.fallito = true;
+  RidisegnaNodo();
+  EXPECT_TRUE(tratti.empty());
+  EXPECT_EQ(nodo.NervTaglio, 30);            // 90 / 3
+  passi = {};
+  RidisegnaNodo();
+  EXPECT_FALSE(tratti.empty());
+}

@@ -10,6 +10,7 @@
 #include "drawing/formats/formati.h"
 #include "drawing/formats/grb_edizione.h"
 #include "drawing/formats/grb_stili.h"
+#include "drawing/formats/scrittori.h"
 #include "model/stato.h"
 #include "model/suite.h"
 

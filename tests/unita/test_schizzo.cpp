@@ -171,17 +171,6 @@ TEST_F(Schizzo, OttoTirafondiOttoCerchi) {
   }
 }
 
-TEST_F(Schizzo, DopoUnPassoFallitoSeguonoSoloGliSmussi) {
-  DisegnaNodo(t);
-  const std::size_t prima = t.tratti.size();
-  nodo.NTir = 0;
-  nodo.HNerv = 90;
-  passi.fallito = true;
-  DisegnaNodo(t);
-  EXPECT_EQ(t.tratti.size(), prima);
-  EXPECT_EQ(nodo.NervTaglio, 30);            // 90 / 3
-}
-
 TEST_F(Schizzo, TelaSenzaMisure) {
   t.altezza = 0;
   DisegnaNodo(t);

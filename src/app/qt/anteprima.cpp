@@ -5,9 +5,9 @@
 #include "app/qt/pitture.h"
 #include "core/file.h"
 #include "drawing/disegno.h"
-#include "drawing/edizione.h"
+#include "drawing/edizione_dis.h"
+#include "drawing/esecutivo.h"
 #include "drawing/formats/carta.h"
-#include "drawing/formats/formati.h"
 
 #include <QBuffer>
 #include <QImage>

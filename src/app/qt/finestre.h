@@ -1,14 +1,12 @@
-// app/qt/finestre.h - the windows of the panels: made once at the start, shown and hidden as the program asks.
+// app/qt/finestre.h - the windows of the panels, shown and hidden as the program asks. Made once, at the start (app/qt/montaggio.h).
 // State     finestre: the windows, what is going on. Lives as long as the process.
 // Rule      a window paints its panel's records and turns input into their events; no rule of the program lives here.
 #pragma once
+#include "app/qt/testi.h"
 #include "panels/controlli.h"
 
 #include <QString>
-#include <QStringList>
 
-#include <string>
-#include <string_view>
 #include <vector>
 
 class QEventLoop;
@@ -30,13 +28,6 @@ struct StatoFinestre {
 };
 inline StatoFinestre finestre;
 
-inline QString Testo(std::string_view t) { return QString::fromUtf8(t.data(), static_cast<qsizetype>(t.size())); }
-inline std::string Utf8(const QString& t) { return t.toStdString(); }
-
-QWidget* NuovaFinestra(const Pannello& p);           // a fresh window from the panel's form, tied to nothing; the caller owns it
-// Makes and ties all windows. The differences between forms and records, one a line; none: all is well.
-QStringList CreaFinestre();
-void DistruggiFinestre();
 FinestraPannello* FinestraDi(const Pannello& p);     // nullptr: not made
 void ApriPannello(const Pannello& p, bool modale);   // modal: returns when the panel has closed
 void ChiudiPannello(const Pannello& p);

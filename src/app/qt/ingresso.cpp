@@ -109,7 +109,7 @@ static void CollegaPagine(QTabWidget& schede) {
 
 // ---- signals ----
 
-void CollegaIngresso(Legame& l) {
+static void CollegaIngresso(Legame& l) {
   const Legame* p = &l;
   QWidget* w = l.oggetto;
   switch (l.riga->genere) {
@@ -143,6 +143,12 @@ void CollegaIngresso(Legame& l) {
     case Genere::Etichetta:
     case Genere::Immagine: break;
   }
+}
+
+void CollegaPannello(const Pannello& p) {
+  for (const RigaPannello& r : p.righe)
+    for (int i = r.primo; i <= r.ultimo; ++i)
+      if (Legame* l = LegameDi(r.controllo[i - r.primo])) CollegaIngresso(*l);
 }
 
 // ---- pointer ----

@@ -1,10 +1,8 @@
 // app/qt/legame.cpp - one row a kind: which widgets serve it, how it is painted.
 #include "app/qt/legame.h"
 
-#include "app/qt/finestre.h"
-#include "app/qt/ingresso.h"
 #include "app/qt/quadro.h"
-#include "panels/pannelli.h"
+#include "app/qt/testi.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -209,7 +207,6 @@ void LegaPannello(const Pannello& p, QWidget& forma) {
       legami.perOggetto[l.oggetto] = &l;
       if (gruppo != nullptr) gruppo->addButton(static_cast<QAbstractButton*>(l.oggetto));
       PreparaOggetto(l);
-      CollegaIngresso(l);
     }
   }
 }

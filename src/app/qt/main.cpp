@@ -3,6 +3,7 @@
 #include "app/qt/applicazione.h"
 #include "app/qt/finestre.h"
 #include "app/qt/lingua.h"
+#include "app/qt/montaggio.h"
 #include "app/qt/piattaforma_qt.h"
 #include "app/qt/pitture.h"
 #include "model/stato.h"

@@ -1,23 +1,10 @@
 // drawing/formats/formati.cpp - the table of the drawing's formats.
 #include "drawing/formats/formati.h"
 
-#include "core/aritmetica.h"
 #include "core/testo.h"
-#include "drawing/disegno.h"
-#include "drawing/edizione.h"
+#include "drawing/edizione_dis.h"
 #include "drawing/esecutivo.h"
 #include "drawing/formats/scrittori.h"
-
-bool DisegnaFoglio() {
-  AzzeraFault();
-  AzzeraDisegno();
-  disegno.DestDis = GENDIS;
-  DisegnoEsecutivo();
-  disegno.DestDis = {};
-  if (!FaultAritmetico()) return true;
-  MostraFault();
-  return false;
-}
 
 static bool DisegnaEdizioneDis() {
   edizione = EdizioneDis();

@@ -13,11 +13,5 @@ struct Formato {
 constexpr int NumFormati = 4;
 extern const Formato FORMATI[NumFormati];              // the row is the filter that the user chose, less one
 
-// The sheet into the store, in the edition that edizione holds. False: a fault, with its box; the destination is reset.
-bool DisegnaFoglio();
-
 // tipo "DIS", "DXF" or "SVG", in any case; any other: nothing, false.
 bool EsportaDisegno(const std::string& nomeFile, int silenzioso, std::string_view tipo);
-
-bool ComandoGrb(const std::string& nomeFile, int silenzioso);
-bool EsportaGrb(const std::string& nomeFile, int silenzioso);

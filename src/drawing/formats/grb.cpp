@@ -8,7 +8,7 @@
 #include "core/testo.h"
 #include "core/zone.h"
 #include "drawing/disegno.h"
-#include "drawing/formats/formati.h"
+#include "drawing/esecutivo.h"
 #include "drawing/formats/grb_edizione.h"
 #include "drawing/formats/scrittori.h"
 #include "model/suite.h"

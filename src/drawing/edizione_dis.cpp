@@ -1,5 +1,5 @@
-// drawing/edizione.cpp - the edition of DIS, DXF and SVG: texts and dimensions as lines, circles and texts of the store.
-#include "drawing/edizione.h"
+// drawing/edizione_dis.cpp - the edition of DIS, DXF and SVG: texts and dimensions as lines, circles and texts of the store.
+#include "drawing/edizione_dis.h"
 
 #include "drawing/Quote.h"
 #include "drawing/disegno.h"
