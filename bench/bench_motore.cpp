@@ -1,4 +1,4 @@
-// bench/bench_motore.cpp - the engine's cost: the solver alone per sextet; tables and whole verification of 200 sextets, without and with ribs.
+// bench/bench_motore.cpp - the engine's cost: the solver alone a sextet; tables, whole verification of 200 sextets, without and with ribs.
 // Loads with a fixed seed: from plain compression to large eccentricities on both axes, some of them pulls.
 #include <benchmark/benchmark.h>
 

@@ -111,7 +111,7 @@ static double Errore(double interna, double carico, double minimo) {
   return 100 * std::fabs(interna - carico) / base;
 }
 
-// The section's My turns z against N (a positive My presses negative z), Mz turns y upward.
+// The section's My turns z against N (a positive My presses positive z), Mz turns y upward.
 static double Residuo(const Lavoro& l, int s, Azioni tutto) {
   const Nodo& n = *l.nodo;
   for (int i = 1; i <= n.NTir; ++i) AggiungiForza(tutto, l.verifica.AreaTf * Valore(l, s, PostoTirafondo(n, i)) * E_BARRA, PostoTirafondo(n, i));

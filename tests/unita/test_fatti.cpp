@@ -161,6 +161,7 @@ TEST_F(FattiTest, AssePerUnVertice) {
   FattiSestetto f = F();
   Asse(f, -200, -150, 200, 250);
   EXPECT_NEAR(f.area_compressa, 40, 1e-12);            // 80000 of 200000 mm2
+  EXPECT_EQ(ParteCompressa(lavoro, 1).n, 3);
   // From corner to corner, on a square plate.
   nodo.LatoZ = 500;
   Piano(0, 0x1p-14, 0x1p-14);
@@ -242,6 +243,12 @@ TEST_F(FattiTest, CalcestruzzoSpostato) {
   Pressione(-3, 0, 0);
   N = -3 * (200000 - 980);
   Risultante(F(), N / 1000, 3 * 245 * (210 - 150) / N, 0);
+  SchemaProva(0);
+  nodo.TfY[1] = 0;                                     // on the upper edge: counted; on the lower one: not
+  nodo.TfY[4] = 500;
+  Pressione(-3, 0, 0);
+  N = -3 * (200000 - 735);
+  Risultante(F(), N / 1000, -3 * 245 * 150 / N, -3 * 245 * 250 / N);       // (-150, -250), (150, -200), (-150, 200)
   // Anchors that are pulled displace nothing: triangle of 350 mm from the upper edge, zero at y = 100; those at y = 200 stand beyond it.
   SchemaProva(0);
   Pressione(-6 * 100 / 350.0, 0, 6 / 350.0);
@@ -299,9 +306,9 @@ TEST_F(FattiTest, DopoIlSolutore) {
   for (double& a : suite.DiamArea) a = 1e-6;           // the anchors hold nothing
   struct Riga { double kz, ky, area, K; };             // eccentricities over the sides; K = pmax A / |N|
   const Riga RIGHE[] = {
-    { 0, 0, 100, 1 },      { 0.1, 0, 100, 1.6 },  { 0, -0.12, 100, 1.72 }, { 0.05, 0.05, 100, 1.6 },    // kern: 1 + 6 k
-    { 0.3, 0, 60, 10 / 3.0 }, { 0, 0.4, 30, 20 / 3.0 },                                                   // one axis: depth 3 (1/2 - k), 2 / (3 (1/2 - k))
-    { 0.3, 0.3, 100 * 0.5 * 0.8 * 0.8, 3 / (8 * 0.2 * 0.2) },                                             // a corner: legs 4 (1/2 - k)
+    { 0, 0, 100, 1 },      { 0.1, 0, 100, 1.6 },  { 0, -0.12, 100, 1.72 }, { 0.05, 0.05, 100, 1.6 },     // kern: 1 + 6 k
+    { 0.3, 0, 60, 10 / 3.0 }, { 0, 0.4, 30, 20 / 3.0 },                // one axis: depth 3 (1/2 - k), 2 / (3 (1/2 - k))
+    { 0.3, 0.3, 100 * 0.5 * 0.8 * 0.8, 3 / (8 * 0.2 * 0.2) },            // a corner: legs 4 (1/2 - k)
   };
   nodo.NumSoll = 0;
   for (const Riga& r : RIGHE) SestettoProva(-40000, 0, 0, 0, r.kz * 40000 * 40, r.ky * 40000 * 50);

@@ -16,6 +16,7 @@
 #include "drawing/formats/scrittori.h"
 #include "drawing/pezzi.h"
 #include "drawing/saldature_dis.h"
+#include "drawing/tavola.h"
 #include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"

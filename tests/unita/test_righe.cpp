@@ -585,9 +585,11 @@ Coppia DueNodi() {
 std::vector<double> Impronta(const Lavoro& l) {
   std::vector<double> v = { l.verifica.AreaTf, l.verifica.IzSald, l.verifica.LungTy, l.ris.TadRd, l.ris.FvRd, l.SAmmCls, l.TauCls,
                             l.CoeffRifollamento, l.limitiSLU.SLim1, double(l.NumSaldature), double(l.verificato), double(l.diagnosi.size()) };
-  for (const RigaControllo& r : l.righe) v.insert(v.end(), { double(r.sestetto), double(r.criterio), double(r.elemento), r.grezza, r.domanda, r.limite, double(r.passa) });
+  for (const RigaControllo& r : l.righe)
+    v.insert(v.end(), { double(r.sestetto), double(r.criterio), double(r.elemento), r.grezza, r.domanda, r.limite, double(r.passa) });
   for (int s = 1; s <= l.nodo->NumSoll; ++s) {
-    v.insert(v.end(), { l.ris.SMaxCls[s], l.ris.SMaxPiastra[s], l.piani[s].P[1], l.piani[s].P[2], l.piani[s].P[3], double(l.piani[s].IterPres) });
+    const PianoSestetto& p = l.piani[s];
+    v.insert(v.end(), { l.ris.SMaxCls[s], l.ris.SMaxPiastra[s], p.P[1], p.P[2], p.P[3], double(p.IterPres) });
     v.insert(v.end(), std::begin(l.ris.SigmaTir[s]), std::end(l.ris.SigmaTir[s]));
     v.insert(v.end(), std::begin(l.ris.SNerv[s]), std::end(l.ris.SNerv[s]));
     for (const Saldatura& d : l.ris.Saldature) v.insert(v.end(), std::begin(d.TauPa[s]), std::end(d.TauPa[s]));
