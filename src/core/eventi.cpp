@@ -39,16 +39,16 @@ const char* NomeIcona(Icona icona) {
   return "nessuna";
 }
 
-static std::string Riquadro(const char* genere, std::string_view testo, std::string_view titolo, Icona icona) {
+static std::string RigaRiquadro(const char* genere, std::string_view testo, std::string_view titolo, Icona icona) {
   return std::string(genere) + NomeIcona(icona) + " | " + SuUnaRiga(titolo) + " | " + SuUnaRiga(testo);
 }
 
 std::string RigaMessaggio(std::string_view testo, std::string_view titolo, Icona icona) {
-  return Riquadro("[messaggio] ", testo, titolo, icona);
+  return RigaRiquadro("[messaggio] ", testo, titolo, icona);
 }
 
 std::string RigaDomanda(std::string_view testo, std::string_view titolo, Icona icona, bool ok) {
-  return Riquadro("[domanda] ", testo, titolo, icona) + (ok ? " -> OK" : " -> Annulla");
+  return RigaRiquadro("[domanda] ", testo, titolo, icona) + (ok ? " -> OK" : " -> Annulla");
 }
 
 std::string RigaFile(const RichiestaFile& r, bool scelto, std::string_view percorso) {

@@ -21,6 +21,19 @@ constexpr std::int32_t COLORE_SCHEDE = 0xFFFFD2;      // RGB(210, 255, 255)
 constexpr std::int32_t COLORE_VERSIONE = 0x6464FF;    // RGB(255, 100, 100)
 constexpr std::int32_t COLORE_BIANCO = 0xFFFFFF;
 
+// ---- anchors ----
+
+// A distance that is no number leaves its anchors where they stand.
+static void PosizioniDaiCampi() {
+  double *const Z = nodo.TfZ, *const Y = nodo.TfY;
+  double dz1 = 0, dz2 = 0, dy1 = 0, dy2 = 0;            // mm, from the plate's edges
+  if (LeggiCampo(insDati.DTf[1], dz1)) Z[1] = Z[3] = dz1;
+  if (LeggiCampo(insDati.DTf[2], dz2) && AssegnaFinito(Z[2], nodo.LatoZ - dz2)) Z[4] = Z[2];
+  if (LeggiCampo(insDati.DTf[3], dy1)) Y[1] = Y[2] = dy1;
+  if (LeggiCampo(insDati.DTf[4], dy2) && AssegnaFinito(Y[3], nodo.LatoY - dy2)) Y[4] = Y[3];
+  PosizioniExtra(nodo);
+}
+
 // ---- section and plate ----
 
 void AggiornaGeomp() {
@@ -61,7 +74,7 @@ void InsDati_LatoTxt(int i) {
       case 4: nodo.SpessPiastra = v; break;
     }
   }
-  PosizioniTirafondi();
+  PosizioniDaiCampi();
 }
 
 static void LatiDaMargini() {
@@ -84,7 +97,7 @@ void InsDati_LatoTxt_Invio(int) {
     LatiDaMargini();
   else
     MarginiDaLati();
-  PosizioniTirafondi();
+  PosizioniDaiCampi();
   RidisegnaNodo();
 }
 
@@ -107,24 +120,13 @@ void InsDati_GolaTxt(int) {
   if (LeggiCampo(insDati.GolaTxt, nodo.Gola)) nodo.GolaCalc = GolaDaLato(nodo.Gola);
 }
 
-// ---- anchors ----
+// ---- pattern ----
 
-// A distance that is no number leaves its anchors where they stand.
-void PosizioniTirafondi() {
-  double *const Z = nodo.TfZ, *const Y = nodo.TfY;
-  double dz1 = 0, dz2 = 0, dy1 = 0, dy2 = 0;            // mm, from the plate's edges
-  if (LeggiCampo(insDati.DTf[1], dz1)) Z[1] = Z[3] = dz1;
-  if (LeggiCampo(insDati.DTf[2], dz2) && AssegnaFinito(Z[2], nodo.LatoZ - dz2)) Z[4] = Z[2];
-  if (LeggiCampo(insDati.DTf[3], dy1)) Y[1] = Y[2] = dy1;
-  if (LeggiCampo(insDati.DTf[4], dy2) && AssegnaFinito(Y[3], nodo.LatoY - dy2)) Y[4] = Y[3];
-  PosizioniExtra(nodo);
-}
-
-void InsDati_DTf(int) { PosizioniTirafondi(); }
+void InsDati_DTf(int) { PosizioniDaiCampi(); }
 
 void InsDati_OptionNTir(int) {
   nodo.OptionNTir = VoceScelta(insDati.OptionNTir[0]);
-  PosizioniTirafondi();
+  PosizioniDaiCampi();
   RidisegnaNodo();
 }
 

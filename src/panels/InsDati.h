@@ -56,7 +56,6 @@ void AzzeraNodo();                                    // the reset of a node, th
 
 // Fields and model.
 void ScriviTitolo();                                  // caption from nodo.NomeNodo
-void PosizioniTirafondi();                            // NTir, TfZ, TfY from DTf 1..4, the sides and the pattern
 void AggiornaTFLab();                                 // the anchor's read-only labels
 void AggiornaGeomp();                                 // H, B, A, E, R of the section
 void InsDati_LatoTxt_Invio(int indice);               // sides from margins or margins from sides, as GeoP says; anchors; plan

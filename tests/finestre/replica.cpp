@@ -30,7 +30,7 @@ static void Diario(QtMsgType, const QMessageLogContext&, const QString& testo) {
 }
 
 int main(int argc, char** argv) {
-  if (!LeggiOpzioni(argc, argv, ospite.opzioni) || ospite.opzioni.comando != "esegui" || ospite.opzioni.argomenti.size() != 1) {
+  if (!LeggiArgomenti(argc, argv, ospite.opzioni) || ospite.opzioni.comando != "esegui" || ospite.opzioni.argomenti.size() != 1) {
     std::fputs(USO, stderr);
     return 2;
   }

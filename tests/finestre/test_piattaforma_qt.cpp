@@ -173,7 +173,7 @@ static int PagineStampate(int colonne, int righe, const QString& file) {
   {
     QPdfWriter carta(file);
     carta.setPageSize(QPageSize(QPageSize::A4));
-    StampaTesto(riga.repeated(righe), carattere, carta);
+    StampaDocumento(riga.repeated(righe), carattere, carta);
   }
   QFile f(file);
   if (!f.open(QIODevice::ReadOnly)) return 0;

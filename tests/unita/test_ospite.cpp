@@ -32,7 +32,7 @@ static constexpr Verbo VERBI[] = {
 static bool Leggi(std::vector<const char*> argomenti, Opzioni& o, std::string* perche = nullptr) {
   std::string motivo;
   argomenti.insert(argomenti.begin(), "qb07-batch");
-  const bool letta = LeggiOpzioni(static_cast<int>(argomenti.size()), argomenti.data(), VERBI, o, motivo);
+  const bool letta = LeggiArgomenti(static_cast<int>(argomenti.size()), argomenti.data(), VERBI, o, motivo);
   EXPECT_EQ(motivo.empty(), letta);
   if (perche != nullptr) *perche = motivo;
   return letta;
@@ -214,10 +214,10 @@ TEST(DisegnoOspite, Stato) {
   MontaPiattaforma();
   testing::internal::CaptureStdout();
   for (const char* tipo : {".dis", ".dxf", ".grb", ".svg"}) {
-    EXPECT_EQ(DisegnaNodo(nodo, radice + "/uscita" + tipo), 0) << tipo;
+    EXPECT_EQ(DisegnaNodoOspite(nodo, radice + "/uscita" + tipo), 0) << tipo;
     EXPECT_NE(LeggiByte(radice + "/uscita" + tipo), "") << tipo;
-    EXPECT_EQ(DisegnaNodo(nodo, radice + "/manca/uscita" + tipo), 2) << tipo;
-    EXPECT_EQ(DisegnaNodo(radice + "/manca.qb7", radice + "/senza" + tipo), 2) << tipo;
+    EXPECT_EQ(DisegnaNodoOspite(nodo, radice + "/manca/uscita" + tipo), 2) << tipo;
+    EXPECT_EQ(DisegnaNodoOspite(radice + "/manca.qb7", radice + "/senza" + tipo), 2) << tipo;
     EXPECT_EQ(LeggiByte(radice + "/senza" + tipo), "") << tipo;
   }
   testing::internal::GetCapturedStdout();

@@ -19,7 +19,7 @@ static int RigaFormato(const std::string& uscita) {
 
 bool FormatoAmmesso(const std::string& uscita) { return RigaFormato(uscita) >= 0; }
 
-int DisegnaNodo(const std::string& percorso, const std::string& uscita) {
+int DisegnaNodoOspite(const std::string& percorso, const std::string& uscita) {
   if (!CaricaNodoOspite(percorso)) return 2;
   const int riga = RigaFormato(uscita);
   if (*FORMATI[riga].filtro == '\0') return FORMATI[riga].esporta(uscita, 1) ? 0 : 2;

@@ -4,4 +4,4 @@
 #include <string>
 
 bool FormatoAmmesso(const std::string& uscita);      // the extension, in any case, is one of the formats
-int DisegnaNodo(const std::string& percorso, const std::string& uscita);
+int DisegnaNodoOspite(const std::string& percorso, const std::string& uscita);

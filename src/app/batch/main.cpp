@@ -34,7 +34,7 @@ static int ComandoVerifica() {
 
 static int ComandoDisegno() {
   AvviaProgrammaOspite();
-  return DisegnaNodo(ospite.opzioni.argomenti[0], ospite.opzioni.argomenti[1]);
+  return DisegnaNodoOspite(ospite.opzioni.argomenti[0], ospite.opzioni.argomenti[1]);
 }
 
 static int ComandoEsegui() {
@@ -89,7 +89,7 @@ static int Informa() {
 int main(int argc, char** argv) {
   PreparaCanali();
   std::string motivo;
-  if (!LeggiOpzioni(argc, argv, VERBI, ospite.opzioni, motivo)) return UsoErrato(motivo);
+  if (!LeggiArgomenti(argc, argv, VERBI, ospite.opzioni, motivo)) return UsoErrato(motivo);
   if (ospite.opzioni.aiuto || ospite.opzioni.versione) return Informa();
   const Verbo& v = *TrovaVerbo(VERBI, ospite.opzioni.comando);
   if (!Ammesso(v)) return UsoErrato(std::string(v.nome) + ": argomenti non validi");

@@ -122,7 +122,7 @@ static bool LeggiArgomenti(int argc, const char* const* argv, Opzioni& o, std::v
   return true;
 }
 
-bool LeggiOpzioni(int argc, const char* const* argv, std::span<const Verbo> verbi, Opzioni& o, std::string& motivo) {
+bool LeggiArgomenti(int argc, const char* const* argv, std::span<const Verbo> verbi, Opzioni& o, std::string& motivo) {
   std::vector<const RigaOpzione*> usate;
   if (!LeggiArgomenti(argc, argv, o, usate, motivo)) return false;
   if (o.aiuto || o.versione) return true;

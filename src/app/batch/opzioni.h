@@ -36,7 +36,7 @@ struct Verbo {
 };
 
 // Options that the verb does not know are wrong usage, told by `motivo`. With --help or --version the rest may be missing.
-bool LeggiOpzioni(int argc, const char* const* argv, std::span<const Verbo> verbi, Opzioni& o, std::string& motivo);
+bool LeggiArgomenti(int argc, const char* const* argv, std::span<const Verbo> verbi, Opzioni& o, std::string& motivo);
 char DecimaleSistema();                   // decimal mark of the user's locale
 std::string Uso(std::span<const Verbo> verbi);                 // every verb, every option
 std::string UsoVerbo(const Verbo& v);

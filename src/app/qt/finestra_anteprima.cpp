@@ -76,7 +76,7 @@ struct Lavagna : QWidget {
 
 // ---- files ----
 
-static bool SalvaSvg(const FoglioVisto&, const QString& file) { return EsportaDisegno(Utf8(file), 2, "SVG"); }
+static bool SalvaFoglioSvg(const FoglioVisto&, const QString& file) { return EsportaDisegno(Utf8(file), 2, "SVG"); }
 
 struct FormatoAnteprima {
   const char* voce;
@@ -88,7 +88,7 @@ struct FormatoAnteprima {
 static constexpr FormatoAnteprima FORMATI_ANTEPRIMA[] = {
   { "PDF...", "Documento PDF|*.pdf", "pdf", "Ctrl+P", SalvaFoglioPdf },
   { "PNG...", "Immagine PNG|*.png", "png", "Ctrl+N", SalvaFoglioPng },
-  { "SVG...", "Disegno SVG|*.svg", "svg", "Ctrl+G", SalvaSvg },
+  { "SVG...", "Disegno SVG|*.svg", "svg", "Ctrl+G", SalvaFoglioSvg },
 };
 
 // What is saved is the node as it stands, and the window shows it.

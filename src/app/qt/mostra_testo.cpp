@@ -98,7 +98,7 @@ static QString SenzaTabulazioni(const QString& testo) {
   return t;
 }
 
-void StampaTesto(const QString& testo, const QFont& carattere, QPagedPaintDevice& carta) {
+void StampaDocumento(const QString& testo, const QFont& carattere, QPagedPaintDevice& carta) {
   const double puntiMm = carta.logicalDpiX() / 25.4;
   const double larga = carta.pageLayout().paintRect(QPageLayout::Millimeter).width() - 2 * BORDO_STAMPA;
   QTextDocument d;
@@ -112,13 +112,13 @@ void StampaTesto(const QString& testo, const QFont& carattere, QPagedPaintDevice
   d.print(&carta);
 }
 
-static void Stampa(QPlainTextEdit& testo) {
+static void StampaConDialogo(QPlainTextEdit& testo) {
 #ifdef QB07_STAMPA
   QPrinter stampante(QPrinter::HighResolution);
   stampante.setDocName(testo.window()->windowTitle());
   QPrintDialog dialogo(&stampante, &testo);
   dialogo.setWindowTitle("Stampa");
-  if (dialogo.exec() == QDialog::Accepted) StampaTesto(testo.toPlainText(), testo.font(), stampante);
+  if (dialogo.exec() == QDialog::Accepted) StampaDocumento(testo.toPlainText(), testo.font(), stampante);
 #else
   static_cast<void>(testo);
 #endif
@@ -169,9 +169,9 @@ QWidget* FinestraTesto(const QString& file) {
   comando("Successivo", QKeySequence("F3"), [testo, che] { Cerca(*testo, *che, false); });
   barra->addSeparator();
 #ifdef QB07_STAMPA
-  comando("Stampa...", QKeySequence::Print, [testo] { Stampa(*testo); });
+  comando("Stampa...", QKeySequence::Print, [testo] { StampaConDialogo(*testo); });
 #else
-  static_cast<void>(Stampa);
+  static_cast<void>(StampaConDialogo);
 #endif
   comando("Chiudi", QKeySequence("Esc"), [f] { f->close(); });
   QObject::connect(che, &QLineEdit::returnPressed, f, [testo, che] { Cerca(*testo, *che, false); });

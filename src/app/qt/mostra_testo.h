@@ -14,7 +14,7 @@ void MostraFileAiuto(const std::string& percorso);
 // Own window: fixed-width font, search, print; deletes itself when closed. One a file: a file shown anew is read again where it is open.
 QWidget* FinestraTesto(const QString& file);
 // Pages of a text in columns: the letters are as small as its widest line needs, since a wrapped line loses its columns.
-void StampaTesto(const QString& testo, const QFont& carattere, QPagedPaintDevice& carta);
+void StampaDocumento(const QString& testo, const QFont& carattere, QPagedPaintDevice& carta);
 
 // Windows of other programs, by their title. False, and nothing: none of that title, or a desktop that does not tell.
 bool AttivaFinestraEsterna(const std::string& titolo);

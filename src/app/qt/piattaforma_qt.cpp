@@ -60,7 +60,7 @@ QMessageBox::Icon IconaRiquadro(Icona i) {
   return QMessageBox::NoIcon;
 }
 
-bool Riquadro(const std::string& testo, const std::string& titolo, Icona icona, bool conAnnulla) {
+bool MostraRiquadro(const std::string& testo, const std::string& titolo, Icona icona, bool conAnnulla) {
   if (finestre.finita) return false;
   const FrecciaNelRiquadro freccia;
   QMessageBox box(FinestraDavanti());
@@ -77,11 +77,11 @@ bool Riquadro(const std::string& testo, const std::string& titolo, Icona icona, 
 }
 
 void QtMessaggio(const std::string& testo, const std::string& titolo, Icona icona) {
-  Riquadro(testo, titolo, icona, false);
+  MostraRiquadro(testo, titolo, icona, false);
 }
 
 bool QtDomanda(const std::string& testo, const std::string& titolo, Icona icona) {
-  return Riquadro(testo, titolo, icona, true);
+  return MostraRiquadro(testo, titolo, icona, true);
 }
 
 // ---- file dialogs ----
