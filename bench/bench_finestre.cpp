@@ -2,6 +2,7 @@
 // Called    bench_finestre SUITE [options of the benchmark library]; SUITE is made by scripts/prepara-suite. No screen is needed.
 // Aims      keystroke 16 ms, sketch a frame (16 ms), start 1 s.
 #include "app/qt/finestre.h"
+#include "app/qt/montaggio.h"
 #include "app/qt/legame.h"
 #include "app/qt/lingua.h"
 #include "app/qt/piattaforma_qt.h"

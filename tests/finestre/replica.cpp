@@ -30,8 +30,10 @@ static void Diario(QtMsgType, const QMessageLogContext&, const QString& testo) {
 }
 
 int main(int argc, char** argv) {
-  if (!LeggiArgomenti(argc, argv, ospite.opzioni) || ospite.opzioni.comando != "esegui" || ospite.opzioni.argomenti.size() != 1) {
-    std::fputs(USO, stderr);
+  static constexpr Verbo ESEGUI[] = {{"esegui", "COPIONE", "gioca un copione nelle finestre", 1, 1, nullptr}};
+  std::string motivo;
+  if (!LeggiArgomenti(argc, argv, ESEGUI, ospite.opzioni, motivo) || ospite.opzioni.argomenti.size() != 1) {
+    std::fprintf(stderr, "errore: %s\n%s", motivo.c_str(), Uso(ESEGUI).c_str());
     return 2;
   }
   FileLettura f;
