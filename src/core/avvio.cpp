@@ -9,8 +9,6 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-namespace {
-
 constexpr const char* CHIAVE_RADICE = "|diroot=";
 constexpr const char* FILE_DIRLAV = "\\impostazioni\\dirlav";
 constexpr const char* FILE_LAVORO = "\\impostazioni\\lavoro";
@@ -18,15 +16,15 @@ constexpr std::string_view CARTELLA_LAVORI = "lavori";   // the folder of the jo
 constexpr std::size_t MIN_DIRLAV = 9, MIN_RADICE = 3, LUNG_LAVORO = 6;   // characters
 constexpr std::size_t MASSIMO_TESTO = 1u << 16;          // bytes of a path that are looked at
 
-bool FinisceInSeparatore(std::string_view t) { return !t.empty() && (t.back() == '\\' || t.back() == '/'); }
+static bool FinisceInSeparatore(std::string_view t) { return !t.empty() && (t.back() == '\\' || t.back() == '/'); }
 
-bool ErroreFile(const char* file) {
+static bool ErroreFile(const char* file) {
   Messaggio("Errore: file " + suite.DirRoot + file + " errato o mancante", "ERRORE", Icona::Esclamazione);
   return false;
 }
 
 // The root between the key's equals sign and the next bar. False: no closing bar; the root is then the text to the end.
-bool RadiceDa(const std::string& riga, std::size_t chiave) {
+static bool RadiceDa(const std::string& riga, std::size_t chiave) {
   const std::size_t i = chiave + std::string_view(CHIAVE_RADICE).size();
   const std::size_t j = riga.find('|', i);
   suite.DirRoot = Rifila(std::string_view(riga).substr(i, j == std::string::npos ? j : j - i));
@@ -34,7 +32,7 @@ bool RadiceDa(const std::string& riga, std::size_t chiave) {
 }
 
 // The folder of the jobs, lower case, with its final separator. False: the box was shown.
-bool LeggiDirLav(std::string& cartella) {
+static bool LeggiDirLav(std::string& cartella) {
   FileLettura f;
   if (!ApriLettura(f, suite.DirRoot + FILE_DIRLAV) || !LeggiValore(f, cartella)) return ErroreFile(FILE_DIRLAV);
   cartella = Minuscolo(Rifila(std::string_view(cartella).substr(0, MASSIMO_TESTO)));
@@ -47,7 +45,7 @@ bool LeggiDirLav(std::string& cartella) {
   return true;
 }
 
-bool LeggiLavoro() {
+static bool LeggiLavoro() {
   FileLettura f;
   std::string riga;
   if (!ApriLettura(f, suite.DirRoot + FILE_LAVORO) || !LeggiRiga(f, riga)) return ErroreFile(FILE_LAVORO);
@@ -56,8 +54,6 @@ bool LeggiLavoro() {
   suite.Lavoro = nome;             // its case stays, unlike the folders'
   return true;
 }
-
-}  // namespace
 
 bool TrovaPercorsi(const std::string& rigaComando) {
   const std::string riga = Minuscolo(rigaComando);

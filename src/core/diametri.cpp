@@ -13,14 +13,15 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-namespace {
-
 constexpr const char* FILE_DIAMETRI = "\\QbDiam.txt";   // behind DirCustom
 
+namespace {
 struct Diametro {
   const char* nome;
   double d, area;                  // mm, mm2 (resistant)
 };
+}  // namespace
+
 constexpr Diametro DIAMETRI[] = {
     {"M8", 8, 38.6},   {"M10", 10, 58},   {"M12", 12, 84.3}, {"M14", 14, 115},  {"M16", 16, 157},  {"M18", 18, 192},
     {"M20", 20, 245},  {"M22", 22, 303},  {"M24", 24, 353},  {"M27", 27, 459},  {"M30", 30, 561},  {"M33", 33, 694},
@@ -28,7 +29,7 @@ constexpr Diametro DIAMETRI[] = {
     {"M56", 56, 2030}, {"M60", 60, 2360}, {"M64", 64, 2680}, {"M68", 68, 3060},
 };
 
-void DiametriInterni() {
+static void DiametriInterni() {
   suite.NumDiam = 0;
   for (const Diametro& r : DIAMETRI) {
     suite.DiamNome[suite.NumDiam] = r.nome;
@@ -39,7 +40,7 @@ void DiametriInterni() {
 }
 
 // One line name|diameter|area| into row i. False: a bar is missing or a number overflows; the row stays as it was.
-bool DecifraRiga(std::string_view riga, int i) {
+static bool DecifraRiga(std::string_view riga, int i) {
   const std::size_t p1 = riga.find('|');
   const std::size_t p2 = riga.find('|', p1 + 1);
   if (p2 == std::string_view::npos) return false;
@@ -53,8 +54,6 @@ bool DecifraRiga(std::string_view riga, int i) {
   return true;
 }
 
-}  // namespace
-
 void LeggiDiametri() {
   DiametriInterni();
   const std::string percorso = suite.DirCustom + FILE_DIAMETRI;
@@ -65,7 +64,7 @@ void LeggiDiametri() {
   while (!FineFile(f)) {
     if (!LeggiRiga(f, riga)) break;
     if (!Contiene(riga, "|") || Minuscolo(PrimiCaratteri(riga, 3)) == "rem") continue;
-    if (contatore > MaxDiam) {     // 99 rows fit, though the text says 100; the count stays at its last value: rows read do not count
+    if (contatore > MaxDiam) {     // 99 rows fit, the box speaks of 100; the count stays at its last value: rows read do not count
       Messaggio("Il file " + percorso + " contiene un numero eccessivo di diametri (max " + "100" + ")", TitoloProg,
                 Icona::Esclamazione);
       return;

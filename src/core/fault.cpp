@@ -3,9 +3,7 @@
 
 #include <cfenv>
 
-namespace {
 constexpr int FAULT = FE_DIVBYZERO | FE_INVALID | FE_OVERFLOW;
-}
 
 void AzzeraFault() { std::feclearexcept(FAULT); }
 

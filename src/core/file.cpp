@@ -10,24 +10,22 @@
 #include "core/numeri.h"
 #include "core/testo.h"
 
-namespace {
-
 namespace fs = std::filesystem;
 
 constexpr std::size_t MASSIMO_RIGA = 1u << 20;      // a line is cut here
 constexpr std::uintmax_t MASSIMO_FILE = 1u << 28;   // no text file of the suite is larger; one that is counts as unreadable
 
-bool Separa(char c) { return c == '\\' || c == '/'; }
-bool FineRiga(char c) { return c == '\r' || c == '\n'; }
+static bool Separa(char c) { return c == '\\' || c == '/'; }
+static bool FineRiga(char c) { return c == '\r' || c == '\n'; }
 
 // A system path that stands as it is; false also where the system refuses it (a name too long, a NUL).
-bool Esiste(const std::string& p) {
+static bool Esiste(const std::string& p) {
   std::error_code e;
   return p.find('\0') == std::string::npos && fs::exists(fs::symlink_status(p, e)) && !e;
 }
 
 // The entry of a folder that equals nome without regard to case, lowest byte order first; nome itself when there is none.
-std::string ComponenteEsistente(const std::string& cartella, const std::string& nome) {
+static std::string ComponenteEsistente(const std::string& cartella, const std::string& nome) {
   if (Esiste(cartella + nome)) return nome;
   const std::string minuscolo = Minuscolo(nome);
   std::string trovato;
@@ -40,7 +38,7 @@ std::string ComponenteEsistente(const std::string& cartella, const std::string& 
   return trovato.empty() ? nome : trovato;
 }
 
-void SaltaFineRiga(FileLettura& f) {
+static void SaltaFineRiga(FileLettura& f) {
   if (f.pos < f.byte.size() && f.byte[f.pos] == '\r') ++f.pos;
   else if (f.pos < f.byte.size() && f.byte[f.pos] == '\n') {
     ++f.pos;
@@ -50,24 +48,24 @@ void SaltaFineRiga(FileLettura& f) {
   if (f.pos < f.byte.size() && f.byte[f.pos] == '\n') ++f.pos;
 }
 
-bool PassoFallito() {
+static bool PassoFallito() {
   passi.fallito = true;
   return false;
 }
 
-bool PuoLeggere(FileLettura& f) { return (f.aperto && !FineFile(f)) || PassoFallito(); }
+static bool PuoLeggere(FileLettura& f) { return (f.aperto && !FineFile(f)) || PassoFallito(); }
 
-void SaltaBlank(FileLettura& f) {
+static void SaltaBlank(FileLettura& f) {
   while (f.pos < f.byte.size() && f.byte[f.pos] == ' ') ++f.pos;
 }
 
 // Behind a value: one comma, or the line's end.
-void SaltaDelimitatore(FileLettura& f) {
+static void SaltaDelimitatore(FileLettura& f) {
   if (f.pos < f.byte.size() && f.byte[f.pos] == ',') ++f.pos;
   else SaltaFineRiga(f);
 }
 
-std::string_view TestoNumero(FileLettura& f) {
+static std::string_view TestoNumero(FileLettura& f) {
   SaltaBlank(f);
   const std::size_t da = f.pos;
   while (f.pos < f.byte.size() && f.byte[f.pos] != ',' && f.byte[f.pos] != ' ' && !FineRiga(f.byte[f.pos])) ++f.pos;
@@ -78,7 +76,7 @@ std::string_view TestoNumero(FileLettura& f) {
 }
 
 template <class Intero>
-bool LeggiIntero(FileLettura& f, Intero& v) {
+static bool LeggiIntero(FileLettura& f, Intero& v) {
   if (!PuoLeggere(f)) return false;
   double d = 0;
   Intero n = 0;
@@ -87,7 +85,10 @@ bool LeggiIntero(FileLettura& f, Intero& v) {
   return true;
 }
 
+namespace {
 struct Motivo { std::errc errore;  const char* testo; };
+}  // namespace
+
 constexpr Motivo MOTIVI[] = {
   { std::errc::no_space_on_device,           "spazio su disco esaurito" },
   { std::errc::file_too_large,               "dimensione massima dei file superata" },
@@ -107,15 +108,13 @@ constexpr Motivo MOTIVI[] = {
 };
 
 // With the system's separators, a run of them as one.
-std::string ComeScritto(std::string_view percorso) {
+static std::string ComeScritto(std::string_view percorso) {
   std::string sistema;
   for (const char c : percorso)
     if (!Separa(c)) sistema += c;
     else if (sistema.empty() || sistema.back() != '/') sistema += '/';
   return sistema;
 }
-
-}  // namespace
 
 std::string RisolviPercorso(std::string_view percorso) {
   std::string sistema = ComeScritto(percorso);

@@ -6,23 +6,22 @@
 #include "model/suite.h"
 
 namespace {
-
 struct Coppia { const char* chiave; const char* testo; };
+}  // namespace
+
 constexpr Coppia PREFISSI[] = {{"TA", "\\RelTA_"}, {"SLU", "\\RelSLU_"}};
 constexpr Coppia SUFFISSI[] = {{"GRB", ".grb"}, {"DIS", ".dis"}, {"DXF", ".dxf"}};
 
 template <std::size_t N>
-const char* Cerca(const Coppia (&tavola)[N], std::string_view chiave) {
+static const char* Cerca(const Coppia (&tavola)[N], std::string_view chiave) {
   for (const Coppia& c : tavola)
     if (chiave == c.chiave) return c.testo;
   return "";
 }
 
-std::string CodiceENodo(std::string_view codice) {
+static std::string CodiceENodo(std::string_view codice) {
   return std::string(Rifila(codice)) + "_" + std::string(Rifila(nodo.NomeNodo));
 }
-
-}  // namespace
 
 std::string NomeFileRelazione(std::string_view metodo, std::string_view codice) {
   return suite.DirLavoro + Cerca(PREFISSI, metodo) + CodiceENodo(codice) + ".txt";

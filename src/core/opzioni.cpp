@@ -8,10 +8,8 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-namespace {
 constexpr int OFFSET_QUOTE = 13;          // signed offset of the dimension text
 constexpr int OFFSET_QUOTE_INSERITO = 17; // the value of its field
-}
 
 bool LeggiOpzioni() {
   FileLettura f;

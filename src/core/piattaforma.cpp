@@ -4,14 +4,10 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace {
-
-[[noreturn]] void Assente(const char* operazione) {
+[[noreturn]] static void Assente(const char* operazione) {
   std::fprintf(stderr, "piattaforma.%s is not filled\n", operazione);
   std::abort();
 }
-
-}  // namespace
 
 Piattaforma PiattaformaAssente() {
   Piattaforma p;

@@ -11,32 +11,32 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace {
-
 constexpr std::size_t MASSIMO_BLOCCO = 1u << 30;     // bytes of one write
 constexpr int PROVE_NOME = 100;                      // names drawn until one is free
 constexpr mode_t PERMESSI = 0777, SCRIVE = 0222;
 
+namespace {
 struct Posto {
   std::string percorso;            // links followed
   std::string cartella;            // of percorso, with its separator; empty: the current one
   bool esiste = false;
   struct stat prima = {};          // the former file, if there is one
 };
+}  // namespace
 
-std::errc Errore() {
+static std::errc Errore() {
   if (errno == EDQUOT) return std::errc::no_space_on_device;     // a quota is a disk of its own size
   return static_cast<std::errc>(errno != 0 ? errno : EIO);
 }
 
 template <class Chiamata>
-auto Ripeti(Chiamata chiamata) {                     // again as long as a signal interrupts it
+static auto Ripeti(Chiamata chiamata) {                     // again as long as a signal interrupts it
   auto esito = chiamata();
   while (esito < 0 && errno == EINTR) esito = chiamata();
   return esito;
 }
 
-std::errc SegueCollegamento(Posto& p) {
+static std::errc SegueCollegamento(Posto& p) {
   char* const vero = realpath(p.percorso.c_str(), nullptr);
   if (vero == nullptr) return Errore();
   p.percorso = vero;
@@ -44,7 +44,7 @@ std::errc SegueCollegamento(Posto& p) {
   return lstat(p.percorso.c_str(), &p.prima) == 0 ? std::errc{} : Errore();
 }
 
-std::errc EsaminaFile(Posto& p) {
+static std::errc EsaminaFile(Posto& p) {
   if (S_ISLNK(p.prima.st_mode))
     if (const std::errc e = SegueCollegamento(p); e != std::errc{}) return e;
   if (S_ISDIR(p.prima.st_mode)) return std::errc::is_a_directory;
@@ -53,7 +53,7 @@ std::errc EsaminaFile(Posto& p) {
   return faccessat(AT_FDCWD, p.percorso.c_str(), W_OK, AT_EACCESS) == 0 ? std::errc{} : Errore();
 }
 
-std::errc Esamina(const std::string& sistema, Posto& p) {
+static std::errc Esamina(const std::string& sistema, Posto& p) {
   if (sistema.empty() || sistema.find('\0') != std::string::npos) return std::errc::invalid_argument;
   if (sistema.back() == '/') return std::errc::is_a_directory;
   p.percorso = sistema;
@@ -66,13 +66,13 @@ std::errc Esamina(const std::string& sistema, Posto& p) {
 }
 
 // Opened before anything is changed. A folder that may be written and not read cannot be synced: -1 and no error.
-std::errc ApriCartella(const std::string& cartella, int& fd) {
+static std::errc ApriCartella(const std::string& cartella, int& fd) {
   fd = Ripeti([&] { return open(cartella.empty() ? "." : cartella.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
   return fd >= 0 || errno == EACCES ? std::errc{} : Errore();
 }
 
 // Mode 0600 until the bytes are those of a file whose mode is known; a new file has what the umask leaves.
-int CreaAccanto(const Posto& p, std::string& accanto) {
+static int CreaAccanto(const Posto& p, std::string& accanto) {
   for (int prova = 0; prova < PROVE_NOME; ++prova) {
     unsigned char caso[16];
     if (getentropy(caso, sizeof caso) != 0) return -1;
@@ -85,7 +85,7 @@ int CreaAccanto(const Posto& p, std::string& accanto) {
 }
 
 // A group that cannot be kept is let do no more than everybody. Where the file system gives all files one mode there is nothing to set.
-bool ComePrima(int fd, const struct stat& prima) {
+static bool ComePrima(int fd, const struct stat& prima) {
   struct stat ora = {};
   if (fstat(fd, &ora) != 0) return false;
   mode_t modo = prima.st_mode & PERMESSI;
@@ -96,7 +96,7 @@ bool ComePrima(int fd, const struct stat& prima) {
   return (ora.st_mode & PERMESSI) == modo || Ripeti([&] { return fchmod(fd, modo); }) == 0;
 }
 
-bool ScriviTutto(int fd, std::string_view byte) {
+static bool ScriviTutto(int fd, std::string_view byte) {
   while (!byte.empty()) {
     const ssize_t scritti = Ripeti([&] { return write(fd, byte.data(), std::min(byte.size(), MASSIMO_BLOCCO)); });
     if (scritti < 0) return false;
@@ -109,13 +109,13 @@ bool ScriviTutto(int fd, std::string_view byte) {
   return true;
 }
 
-bool SulDisco(int fd) {            // a file system that knows no syncing is as good as it gets
+static bool SulDisco(int fd) {            // a file system that knows no syncing is as good as it gets
   return Ripeti([&] { return fsync(fd); }) == 0 || errno == EINVAL || errno == ENOTSUP || errno == ENOSYS;
 }
 
-bool Chiudi(int fd) { return close(fd) == 0 || errno == EINTR; }     // interrupted: closed all the same
+static bool Chiudi(int fd) { return close(fd) == 0 || errno == EINTR; }     // interrupted: closed all the same
 
-std::errc ScriviAccanto(const Posto& p, std::string_view byte, Tenuta tenuta, std::string& accanto) {
+static std::errc ScriviAccanto(const Posto& p, std::string_view byte, Tenuta tenuta, std::string& accanto) {
   const int fd = CreaAccanto(p, accanto);
   if (fd < 0) {
     accanto.clear();
@@ -125,8 +125,6 @@ std::errc ScriviAccanto(const Posto& p, std::string_view byte, Tenuta tenuta, st
   const std::errc e = scritto ? std::errc{} : Errore();
   return Chiudi(fd) || !scritto ? e : Errore();
 }
-
-}  // namespace
 
 std::errc ControllaPosto(const std::string& sistema) {
   Posto p;

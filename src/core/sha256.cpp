@@ -5,8 +5,6 @@
 #include <bit>
 #include <utility>
 
-namespace {
-
 constexpr std::array<std::uint32_t, 64> K = {
   0x428a2f98, 0x71374491, 0xb5c0fbcf, 0xe9b5dba5, 0x3956c25b, 0x59f111f1, 0x923f82a4, 0xab1c5ed5, 0xd807aa98, 0x12835b01, 0x243185be,
   0x550c7dc3, 0x72be5d74, 0x80deb1fe, 0x9bdc06a7, 0xc19bf174, 0xe49b69c1, 0xefbe4786, 0x0fc19dc6, 0x240ca1cc, 0x2de92c6f, 0x4a7484aa,
@@ -16,11 +14,11 @@ constexpr std::array<std::uint32_t, 64> K = {
   0x682e6ff3, 0x748f82ee, 0x78a5636f, 0x84c87814, 0x8cc70208, 0x90befffa, 0xa4506ceb, 0xbef9a3f7, 0xc67178f2,
 };
 
-std::uint32_t Parola(const unsigned char* p) {
+static std::uint32_t Parola(const unsigned char* p) {
   return std::uint32_t{p[0]} << 24 | std::uint32_t{p[1]} << 16 | std::uint32_t{p[2]} << 8 | std::uint32_t{p[3]};
 }
 
-std::array<std::uint32_t, 64> Espandi(const std::array<unsigned char, 64>& blocco) {
+static std::array<std::uint32_t, 64> Espandi(const std::array<unsigned char, 64>& blocco) {
   std::array<std::uint32_t, 64> w = {};
   for (std::size_t t = 0; t < 16; ++t) w[t] = Parola(&blocco[4 * t]);
   for (std::size_t t = 16; t < 64; ++t) {
@@ -33,7 +31,7 @@ std::array<std::uint32_t, 64> Espandi(const std::array<unsigned char, 64>& blocc
 
 // One round; the eight words turn by their places instead of being moved. r: the round's number within eight.
 template <std::size_t r>
-void Giro(std::array<std::uint32_t, 8>& v, std::uint32_t kw) {
+static void Giro(std::array<std::uint32_t, 8>& v, std::uint32_t kw) {
   constexpr auto posto = [](std::size_t n) { return (n + 8 - r) % 8; };
   const std::uint32_t a = v[posto(0)], b = v[posto(1)], c = v[posto(2)], e = v[posto(4)], f = v[posto(5)], g = v[posto(6)];
   const std::uint32_t T1 = v[posto(7)] + (std::rotr(e, 6) ^ std::rotr(e, 11) ^ std::rotr(e, 25)) + ((e & f) ^ (~e & g)) + kw;
@@ -42,7 +40,7 @@ void Giro(std::array<std::uint32_t, 8>& v, std::uint32_t kw) {
   v[posto(7)] = T1 + T2;
 }
 
-void Comprimi(Sha256& s) {
+static void Comprimi(Sha256& s) {
   const std::array<std::uint32_t, 64> w = Espandi(s.blocco);
   std::array<std::uint32_t, 8> v = s.stato;      // a .. h
   for (std::size_t t = 0; t < 64; t += 8)
@@ -50,8 +48,6 @@ void Comprimi(Sha256& s) {
   for (std::size_t k = 0; k < v.size(); ++k) s.stato[k] += v[k];
   s.pieni = 0;
 }
-
-}  // namespace
 
 void AggiungiSha256(Sha256& s, std::string_view byte) {
   s.byte += byte.size();

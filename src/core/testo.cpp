@@ -5,8 +5,6 @@
 #include <cstdint>
 #include <cstring>
 
-namespace {
-
 // Characters of the bytes 0x80 to 0x9F; an undefined byte is the control character of the same value.
 constexpr std::array<std::uint16_t, 32> ALTI = {
     0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
@@ -14,7 +12,7 @@ constexpr std::array<std::uint16_t, 32> ALTI = {
 
 constexpr char32_t SENZA_POSTO = 0xFFFD;
 
-void AggiungiUtf8(std::string& t, char32_t c) {
+static void AggiungiUtf8(std::string& t, char32_t c) {
   if (c < 0x80) {
     t += static_cast<char>(c);
   } else if (c < 0x800) {
@@ -28,7 +26,7 @@ void AggiungiUtf8(std::string& t, char32_t c) {
 }
 
 // The character at i, and i behind it. A byte that starts no well-formed sequence is one character without a place.
-char32_t ProssimoCarattere(std::string_view t, std::size_t& i) {
+static char32_t ProssimoCarattere(std::string_view t, std::size_t& i) {
   const auto byte = [&](std::size_t k) { return static_cast<unsigned char>(t[k]); };
   const unsigned char b = byte(i++);
   if (b < 0x80) return b;
@@ -44,7 +42,7 @@ char32_t ProssimoCarattere(std::string_view t, std::size_t& i) {
 }
 
 // Position behind the first n characters, at most the text's end.
-std::size_t DopoCaratteri(std::string_view t, std::size_t n) {
+static std::size_t DopoCaratteri(std::string_view t, std::size_t n) {
   std::size_t i = 0;
   while (n > 0 && i < t.size()) {
     ProssimoCarattere(t, i);
@@ -53,20 +51,20 @@ std::size_t DopoCaratteri(std::string_view t, std::size_t n) {
   return i;
 }
 
-char32_t InMaiuscolo(char32_t c) {
+static char32_t InMaiuscolo(char32_t c) {
   if (c >= 'a' && c <= 'z') return c - 32;
   if (c >= 0xE0 && c <= 0xFE && c != 0xF7) return c - 32;
   return c;
 }
 
-char32_t InMinuscolo(char32_t c) {
+static char32_t InMinuscolo(char32_t c) {
   if (c >= 'A' && c <= 'Z') return c + 32;
   if (c >= 0xC0 && c <= 0xDE && c != 0xD7) return c + 32;
   return c;
 }
 
 template <class Cambio>
-std::string CambiaLettere(std::string_view t, Cambio cambio) {
+static std::string CambiaLettere(std::string_view t, Cambio cambio) {
   std::string r;
   r.reserve(t.size());
   for (std::size_t i = 0; i < t.size();) {
@@ -78,9 +76,7 @@ std::string CambiaLettere(std::string_view t, Cambio cambio) {
   return r;
 }
 
-bool Separatore(char c) { return c == ' ' || c == '\t'; }
-
-}  // namespace
+static bool Separatore(char c) { return c == ' ' || c == '\t'; }
 
 std::string DaAnsi(std::string_view byte) {
   std::string t;

@@ -10,20 +10,22 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-namespace {
-
 constexpr const char* FILE_PARAMETRI = "\\parametrilavoro";   // behind DirLavoro
 
+namespace {
 // The first key that the line holds wins.
 struct ChiaveUnita {
   const char* chiave;
   std::string Suite::*unita;
 };
+}  // namespace
+
 constexpr ChiaveUnita CHIAVI[] = {
     {"lunghezze", &Suite::UnitaLung},          {"forze", &Suite::UnitaForze},       {"carichi_superficie", &Suite::UnitaCarichi},
     {"coppie_momenti", &Suite::UnitaMomenti},  {"tensioni", &Suite::UnitaTensioni}, {"dati_sezioni", &Suite::UnitaSezioni},
 };
 
+namespace {
 // The first row whose text the unit holds wins; case counts.
 struct Unita {
   const char* testo;
@@ -31,12 +33,14 @@ struct Unita {
   std::int16_t decimali;
   bool perG;                       // divided by the job's gravity
 };
+}  // namespace
+
 constexpr Unita LUNGHEZZE[] = {{"mm", 10, 0, false}, {"cm", 1, 1, false}, {"m", 0.01, 3, false}};
 constexpr Unita FORZE[] = {{"daN", 1, 1, false}, {"kN", 1. / 100, 3, false}, {"N", 10, 0, false}, {"kgf", 10, 1, true}, {"t", 1. / 100, 4, true}};
 constexpr Unita TENSIONI[] = {{"kPa", 100, 0, false}, {"MPa", 1. / 10, 2, false}};
 
 template <std::size_t n>
-double CercaUnita(const Unita (&tabella)[n], std::string_view unita, std::int16_t& dec) {
+static double CercaUnita(const Unita (&tabella)[n], std::string_view unita, std::int16_t& dec) {
   for (const Unita& u : tabella) {
     if (!Contiene(unita, u.testo)) continue;
     dec = u.decimali;
@@ -46,12 +50,12 @@ double CercaUnita(const Unita (&tabella)[n], std::string_view unita, std::int16_
 }
 
 // Decimals of a compound unit, not below 0: base plus those of the force over 1, less `lunghezze` times those of the length over 1.
-std::int16_t Decimali(int base, int dF, int dL, int lunghezze) {
+static std::int16_t Decimali(int base, int dF, int dL, int lunghezze) {
   return static_cast<std::int16_t>(std::max(0, base - (1 - dF) + lunghezze * (1 - dL)));
 }
 
 // A force over an area.
-void SuSuperficie(std::string_view unita, int base, double& fattore, std::int16_t& dec) {
+static void SuSuperficie(std::string_view unita, int base, double& fattore, std::int16_t& dec) {
   std::int16_t dF = 0, dL = 0;
   const double F = FattForza(unita, dF), L = FattLunghezza(unita, dL);
   fattore = F / (L * L);
@@ -60,19 +64,17 @@ void SuSuperficie(std::string_view unita, int base, double& fattore, std::int16_
 
 // A unit text goes into the calculator's arguments, which "|" separates, and into lines that are read back: of one that would break them
 // nothing is kept but the slash, by which a stress is a force over an area. The suite stores that slash as the digit 8.
-std::string TestoUnita(std::string_view valore) {
+static std::string TestoUnita(std::string_view valore) {
   const auto rompe = [](unsigned char c) { return c < ' ' || c == 0x7F || c == '|' || c == '"' || c == '\''; };
   const std::string unita = Componi(valore, "8", "/");
   if (std::none_of(unita.begin(), unita.end(), rompe)) return unita;
   return Contiene(unita, "/") ? "/" : "";
 }
 
-bool GuastoLettura() {
+static bool GuastoLettura() {
   SegnalaFault();
   return false;
 }
-
-}  // namespace
 
 bool LeggiParametriLavoro() {
   FileLettura f;

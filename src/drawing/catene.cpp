@@ -10,10 +10,13 @@
 bool TerzoTirafondoZ() { return SCHEMI[SchemaTir(nodo)].lato[SUPERIORE] != 0; }
 bool TerzoTirafondoY() { return SCHEMI[SchemaTir(nodo)].lato[SINISTRO] != 0; }
 
+namespace {
 struct Valori {
   double a[16] = {};               // 1..n
   int n = 0;
 };
+}  // namespace
+
 using FormaCatena = void (*)(const double*, int, double);
 
 static void Metti(Valori& v, std::initializer_list<double> x) {

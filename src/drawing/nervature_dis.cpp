@@ -16,9 +16,11 @@ static void CambiaColore(int opzione) { disegno.ColCorr = ColoreOpz(opzione); }
 
 // ---- elevations --------------------------------------------------------------------------------------------------------------
 
+namespace {
 struct Tratta {
   double da, a;                    // parameters along a line, 0 to 1
 };
+}  // namespace
 
 // Where a coordinate running from v1 to v2 lies below a bound.
 static Tratta Sotto(double v1, double v2, double limite) {
@@ -92,12 +94,14 @@ void NervatureAA() {
 
 // ---- plan --------------------------------------------------------------------------------------------------------------------
 
+namespace {
 // A face of a rib on side s, x times s: its weld lies on the side (nx, ny) to which the face looks, nx times s.
 struct Faccia {
   double x1, y1, x2, y2;
   int nx, ny;
   int sald;                        // number of the weld
 };
+}  // namespace
 
 static void FacciaSaldata(int s, const Faccia& f) {
   const int sx = s * f.nx;

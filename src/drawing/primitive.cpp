@@ -57,10 +57,13 @@ void OrdinaVett(double* v, int n) {
   }
 }
 
+namespace {
 struct CorrispondenzaColore {
   std::int32_t rgb;
   std::int16_t indice;
 };
+}  // namespace
+
 static const CorrispondenzaColore COLORI_TELA[] = {
   {0x000080, 3}, {0xFFFFFF, 1}, {0x800000, 2}, {0x00C000, 4}, {0x00C0C0, 5}, {0x008000, 6}, {0x800080, 7},
 };

@@ -1,4 +1,6 @@
 // drawing/viste.cpp - the two elevations, which are one frame with different contents, and the plan.
+#include "drawing/viste.h"
+
 #include <algorithm>
 #include <cmath>
 #include <string>
@@ -20,6 +22,7 @@ static void Linea(double x1, double y1, double x2, double y2) { DisLinea(nullptr
 
 static void CambiaColore(int opzione) { disegno.ColCorr = ColoreOpz(opzione); }
 
+namespace {
 // What differs between the two elevations.
 struct Prospetto {
   void (*nervature)();
@@ -39,6 +42,7 @@ struct Prospetto {
   double (*ascissaQuote)();        // of the first vertical chain
   double passoQuote;               // from a vertical chain to the next one
 };
+}  // namespace
 
 // ---- plate, footing, column --------------------------------------------------------------------------------------------------
 

@@ -8,11 +8,13 @@
 #include "core/numeri.h"
 #include "model/schemi.h"
 
+namespace {
 // The comparisons of one check: the one with the least margin stays, a failed one before all that hold.
 struct Confronti {
   bool passa = true, uno = false;
   double domanda = 0, limite = 0, margine = 0;
 };
+}  // namespace
 
 static void Aggiungi(Confronti& c, bool regge, double domanda, double limite, double margine) {
   const bool prende = !c.uno || (c.passa && !regge) || (c.passa == regge && margine < c.margine);
@@ -58,10 +60,12 @@ static void Filettatura(Confronti& c, const Nodo& n, int) { NonSotto(c, n.TfHMal
 static void Foro(Confronti& c, const Nodo& n, int) { Oltre(c, n.TfDForo, n.TfFi); }
 static void Malta(Confronti& c, const Nodo& n, int) { Oltre(c, n.TfHMalta, n.TfFi); }
 
+namespace {
 // D[1..4]: distance of the anchors from the plate's four edges, each by one anchor. The others lie on the same lines where the panel placed
 // them; a node file may put them elsewhere, unseen here (unsafe);
 // F[1..4]: from the column's or the ribs' face to the anchor.
 struct Distanze { double D[4 + 1], F[4 + 1]; };
+}  // namespace
 
 static Distanze DistanzeTirafondi(const Nodo& n) {
   Distanze d = {};
@@ -107,12 +111,14 @@ static void Bordo(Confronti& c, const Nodo& n, int metodo) {
   }
 }
 
+namespace {
 struct Prova {
   const char* id;
   void (*confronta)(Confronti&, const Nodo&, int metodo);
   GenereGeometria genere;
   const char* testo[2];                      // by method
 };
+}  // namespace
 
 #define STESSO(t) { t, t }
 static constexpr Prova PROVE[NumGeometria] = {

@@ -11,8 +11,11 @@ constexpr double RAPPORTO_SENZA_RESISTENZA = 100;
 constexpr double STESSA_POSIZIONE = 0.01;    // mm
 constexpr int PAR_GIOCO_FORO = 5;            // option whose number enlarges the hole, mm; it is also a text colour: a high one lowers FbRd (safe)
 
+namespace {
 // Shear plane through the thread, NTC 2008 4.2.8.1.1 (4.2.57), (4.2.58): by the class that the name holds, 0 an unknown one.
 struct ClasseVite { const char* classe; double coeff; };
+}  // namespace
+
 constexpr ClasseVite CLASSI_VITI[] = { { "4.6", 0.6 }, { "5.6", 0.6 }, { "8.8", 0.6 }, { "6.8", 0.5 }, { "10.9", 0.5 } };
 
 static double CoeffTaglio(const Nodo& nodo) {
@@ -21,8 +24,10 @@ static double CoeffTaglio(const Nodo& nodo) {
   return 0;
 }
 
+namespace {
 // Where an anchor stands among those in line with it along one axis: at an end, or between two.
 struct Fila { double minimo, massimo, passo; };
+}  // namespace
 
 // lungo, trasv: positions along the axis and across it. In line: within 30 degrees of the axis, bounds included.
 static Fila FilaTirafondo(const Nodo& nodo, int i, const double* lungo, const double* trasv) {

@@ -17,8 +17,11 @@ static double ValoreInPunto(const Lavoro& l, double p, double q) {
 
 static double PressioneInPunto(const Lavoro& l, double p, double q) { return ValoreInPunto(l, p, q) * l.nodo->EcCls / 100; }
 
+namespace {
 // Compressed part of a linear profile from u = ua (value Pa) to ub (value Pb), u0 its zero if the two differ in sign.
 struct Profilo { double R, M; };             // resultant, moment about the middle
+}  // namespace
+
 static Profilo IntegraProfilo(double Pa, double Pb, double ua, double ub, double u0) {
   if (Pa <= 0 && Pb <= 0) return { (Pa + Pb) * std::fabs(ub - ua) / 2, (Pb - Pa) * ((ub - ua) * (ub - ua)) / 12 };
   if (Pa > 0 && Pb > 0) return { 0, 0 };
@@ -54,6 +57,7 @@ double RisultanteSuPiastra(const Lavoro& l, double pa, double pb, double qa, dou
 double MomentoQSuPiastra(const Lavoro& l, double pa, double pb, double qa, double qb) { return AzioniSuPiastra(l, pa, pb, qa, qb).MomentoQ; }
 double MomentoPSuPiastra(const Lavoro& l, double pa, double pb, double qa, double qb) { return AzioniSuPiastra(l, pa, pb, qa, qb).MomentoP; }
 
+namespace {
 // One cut: the part of the plate outside it, the anchors on that part, and where its stresses go.
 struct SezioneDiTaglio {
   double pa, pb, qa, qb;           // rectangle
@@ -70,6 +74,7 @@ struct SezioneDiTaglio {
 
 struct Azioni { double M, M2, V; };
 struct ForzaTir { double T, Pc, a, c; };     // force, pressure at the hole, arm, transverse coordinate
+}  // namespace
 
 static ForzaTir ForzaTirante(const Lavoro& l, const SezioneDiTaglio& g, int i) {
   const Nodo& nodo = *l.nodo;

@@ -39,6 +39,7 @@ void PiastraSenzaNervature(Lavoro& l, int s) {
   }
 }
 
+namespace {
 // Spans and widths of the strips at each anchor, and the corner moments that the mid-side anchors read. One call.
 struct Strisce {
   double Cz[MaxTir + 1], Cy[MaxTir + 1];     // clear span: to the rib along Z, to the column's face along Y
@@ -46,6 +47,7 @@ struct Strisce {
   double Bz[MaxTir + 1], By[MaxTir + 1];     // working width of the strip along Z, along Y
   double Mz[MaxTir + 1], My[MaxTir + 1];
 };
+}  // namespace
 
 static void Larghezze(const Nodo& nodo, Strisce& c, int i) {
   const double r = nodo.TfFi / 2;
@@ -94,16 +96,22 @@ static void LuciLarghezze(const Nodo& nodo, Strisce& c, const double* armZ, cons
   }
 }
 
+namespace {
 // Corner anchors: u, v the neighbours along Y and Z that stiffen the strips; Wz, Wy the lesser width of two places.
 struct Angolo { int opzione, i, u, v, wz1, wz2, wy1, wy2; };
+}  // namespace
+
 constexpr Angolo ANGOLI[] = {
   { 2, 1, 5, 8, 1, 1, 1, 5 }, { 2, 2, 6, 8, 2, 2, 2, 6 }, { 2, 3, 5, 7, 3, 3, 3, 5 }, { 2, 4, 6, 7, 4, 4, 4, 6 },
   { 3, 1, 7, 6, 1, 6, 1, 1 }, { 3, 2, 8, 6, 2, 6, 2, 2 }, { 3, 3, 7, 5, 3, 5, 3, 3 }, { 3, 4, 8, 5, 4, 5, 4, 4 },
   { 1, 1, 5, 8, 1, 8, 1, 5 }, { 1, 2, 6, 8, 2, 8, 2, 6 }, { 1, 3, 5, 7, 3, 7, 5, 5 }, { 1, 4, 6, 7, 4, 7, 4, 6 },
 };                                                        // pattern 1, anchor 3: width 5 against itself, so its own corner's never governs (unsafe if narrower)
 
+namespace {
 // Mid-side anchors: the strip along the side is a beam fixed at both ends, relieved by the moments of corners a, b.
 struct MezzoLato { int opzione, i; char lato; int a, b; };
+}  // namespace
+
 constexpr MezzoLato MEZZI[] = {
   { 2, 5, 'Z', 1, 3 }, { 2, 6, 'Z', 2, 4 },
   { 3, 5, 'Y', 3, 4 }, { 3, 6, 'Y', 1, 2 },

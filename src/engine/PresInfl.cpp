@@ -11,7 +11,9 @@ constexpr int ITER_MAX = 100, ITER_MIN = 3;
 constexpr double K33_MINIMA = 1e-7;        // below it nothing is left that could carry the load
 constexpr const char* TITOLO = "ERRORE !";
 
+namespace {
 struct Simmetrica { double k11, k12, k13, k22, k23, k33; };
+}  // namespace
 
 // What one anchor adds to a matrix per unit of modulus ratio: its area times the products of (y, x, 1).
 static Simmetrica ContributoBarra(double A, double x, double y) {
@@ -127,7 +129,9 @@ static void ForzeInterne(StatoPresInfl& p, const Simmetrica& k) {
   for (int c = 1; c <= 3; ++c) p.Residuo[c] = std::fabs(p.ForzeInt[c] - p.Carichi[c]);
 }
 
+namespace {
 struct Barre { Simmetrica area[MaxTir + 1], acciaio[MaxTir + 1]; };   // of each anchor, per unit of modulus ratio and as it is
+}  // namespace
 
 // Concrete of the polygon in hand, less that at the anchors: at all of them in the first iteration, then at the compressed ones;
 // the anchors always count.

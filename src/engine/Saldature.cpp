@@ -48,8 +48,10 @@ static void SaldatureColonna(Lavoro& l) {
   for (const Estremi& t : TrattiColonna(l.nodo->Sezione).tratti) AggiungiSaldatura(l, t.zf, t.yf, t.zi, t.yi, +1, ++w);
 }
 
+namespace {
 // One call of a pass: weld n + m o, o the pass's offset. lato: 'c' against the pass's side, '=' as the call before, '-' always -1.
 struct Chiamata { int n, m; char lato; bool soloInterne; double zi, yi, zf, yf; };
+}  // namespace
 
 // Ribs of one side c, -1 or +1. lato enters as the last call left it and leaves so: the first call of the second pass thus
 // depends on the inner welds of the first, and weld 23 lies a throat off its side without them. The mid-lines of 12, 13, 15, 18, 22, 25, 28
@@ -156,8 +158,11 @@ void TensioniSaldaturePiastra(Lavoro& l, int s) {
   }
 }
 
+namespace {
 // Rib-to-column welds: signs of the arms, and whether the arm along Y is the inner one.
 struct SaldCorrente { int w; int segnoZ, segnoY; bool interna; };
+}  // namespace
+
 constexpr SaldCorrente SALD_NERV[] = {
   { 29, +1, +1, false }, { 31, +1, -1, false }, { 36, -1, -1, false }, { 38, -1, +1, false },
   { 41, +1, +1, true },  { 42, +1, -1, true },  { 43, -1, +1, true },  { 44, -1, -1, true },

@@ -52,7 +52,9 @@ PoligonoCompresso ParteCompressa(const Lavoro& l, int s) {
 
 // ---- moments of a triangle: a linear pressure over it ----
 
+namespace {
 struct Azioni { double N = 0, Mz = 0, My = 0; };     // daN; about the plan's z and y: N times y, N times z, daN mm
+}  // namespace
 
 // Linear function with values f at the corners: the mean, and the moments by the exact mid-side rule (degree two).
 static void AggiungiTriangolo(Azioni& r, const PuntoPiano (&t)[3], const double (&f)[3]) {

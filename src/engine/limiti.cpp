@@ -30,7 +30,10 @@ LimitiTA CalcolaLimitiTA(const Nodo& nodo, int s, double CoeffRifollamento) {
   return l;
 }
 
+namespace {
 struct Famiglia { const char* grado; BetaSaldature beta; };
+}  // namespace
+
 static constexpr Famiglia FAMIGLIE[] = {   // in the order of the tests
   {"235", {0.85, 1.0}},
   {"275", {0.7, 0.85}}, {"355", {0.7, 0.85}},

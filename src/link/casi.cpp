@@ -6,11 +6,9 @@
 #include "link/collegamento.h"
 #include "model/stato.h"
 
-namespace {
-
 constexpr std::string_view CHIAVE = "TIPOVER=";
 
-std::string TipoDaRiga(std::string_view riga) {
+static std::string TipoDaRiga(std::string_view riga) {
   const std::size_t p = riga.find(CHIAVE);
   if (p == std::string_view::npos) return {};
   riga.remove_prefix(p + CHIAVE.size());
@@ -18,15 +16,13 @@ std::string TipoDaRiga(std::string_view riga) {
 }
 
 // A count, then that many groups of values, all dropped.
-void SaltaGruppi(FileLettura& f, int valori) {
+static void SaltaGruppi(FileLettura& f, int valori) {
   std::int32_t n = 0;
   std::string scarto;
   LeggiValore(f, n);
   for (; n > 0 && !FineFile(f); --n)
     for (int i = 0; i < valori; ++i) LeggiValore(f, scarto);
 }
-
-}  // namespace
 
 EsitoCasi LeggiTipiCaso() {
   FileLettura f;

@@ -11,9 +11,7 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-namespace {
-
-std::string Intestazione() {
+static std::string Intestazione() {
   std::string riga = "Unità di misura: " + suite.UnitaForze;
   const std::size_t colonne = NumCaratteri(riga);
   riga.append((colonne + COLONNE_ZONA - 1) / COLONNE_ZONA * COLONNE_ZONA - colonne, ' ');
@@ -21,7 +19,7 @@ std::string Intestazione() {
 }
 
 // One group; false: a value overflows in the user's unit, an arithmetic fault.
-bool ComponiRiga(const ElencoSoll& elenco, int i, std::string& riga) {
+static bool ComponiRiga(const ElencoSoll& elenco, int i, std::string& riga) {
   riga = std::to_string(i - elenco.primo + 1) + "\t" + std::string(Rifila(elenco.nomi[i])) + "\t";
   for (int k = 0; k < 6; ++k) {
     const double v = elenco.usa[k] ? elenco.componente[k][i] * (k < 3 ? suite.FattForze : suite.FattMomenti) : 0;
@@ -33,8 +31,6 @@ bool ComponiRiga(const ElencoSoll& elenco, int i, std::string& riga) {
   }
   return true;
 }
-
-}  // namespace
 
 EsitoEsporta EsportaSollecitazioni(const std::string& nomeFile, const ElencoSoll& elenco) {
   FileScrittura f;

@@ -16,8 +16,6 @@
 #include "link/collegamento.h"
 #include "model/stato.h"
 
-namespace {
-
 constexpr std::int64_t RECORD = 56;          // bytes
 constexpr std::int64_t VALORI = 8;           // byte of a record at which its six values begin
 constexpr std::int64_t BLOCCO = 4096;        // records read at once
@@ -25,22 +23,26 @@ constexpr int RIGHE_INVILUPPO = 12;
 constexpr double ESTREMO = 1E20;             // what a row of the envelope holds until a sextet beats it
 constexpr int ESPONENTE_MASSIMO = 1000;      // a value of 2^1000 or more cannot be rounded, and is no load
 
+namespace {
 struct Sestetto {
   double N = 0, Ty = 0, Tz = 0, Mt = 0, My = 0, Mz = 0;
 };
+}  // namespace
 
 // Component of each pair of envelope rows: odd row the largest, even row the smallest.
 constexpr double Sestetto::*COMPONENTI[] = {&Sestetto::N, &Sestetto::Tz, &Sestetto::Ty, &Sestetto::My, &Sestetto::Mz, &Sestetto::Mt};
 
+namespace {
 struct FileRisultati {
   std::ifstream file;
   std::int64_t lunghezza = 0;
   std::int16_t NumAsteFile = 0;
   std::int32_t NumSezioni = 0, NumSestettiFile = 0;
 };
+}  // namespace
 
 template <class T>
-T DaByte(const char* byte) {                 // little-endian, whatever the machine
+static T DaByte(const char* byte) {                 // little-endian, whatever the machine
   unsigned char b[sizeof(T)];
   std::memcpy(b, byte, sizeof b);
   if constexpr (std::endian::native == std::endian::big) std::reverse(b, b + sizeof b);
@@ -49,13 +51,13 @@ T DaByte(const char* byte) {                 // little-endian, whatever the mach
   return v;
 }
 
-bool LeggiByte(FileRisultati& f, std::int64_t posto, char* byte, std::int64_t quanti) {
+static bool LeggiByte(FileRisultati& f, std::int64_t posto, char* byte, std::int64_t quanti) {
   if (posto < 0 || posto > f.lunghezza - quanti) return false;
   f.file.clear();
   return f.file.seekg(posto) && f.file.read(byte, quanti);
 }
 
-bool Apri(FileRisultati& f, const std::string& percorso) {
+static bool Apri(FileRisultati& f, const std::string& percorso) {
   if (!EsisteFile(percorso)) return false;
   f.file.rdbuf()->pubsetbuf(nullptr, 0);     // few bytes at many places: nothing is read ahead
   f.file.open(RisolviPercorso(percorso), std::ios::binary | std::ios::ate);
@@ -70,7 +72,7 @@ bool Apri(FileRisultati& f, const std::string& percorso) {
 }
 
 // Byte at which a record begins; -1: it would lie outside the file.
-std::int64_t PostoRecord(const FileRisultati& f, std::int64_t p, std::int64_t q, std::int64_t t) {
+static std::int64_t PostoRecord(const FileRisultati& f, std::int64_t p, std::int64_t q, std::int64_t t) {
   const std::int64_t record = f.lunghezza / RECORD;
   if (f.NumSezioni <= 0 || f.NumSestettiFile <= 0 || p < 0) return -1;
   const std::int64_t perAsta = static_cast<std::int64_t>(f.NumSezioni) * f.NumSestettiFile;
@@ -80,7 +82,7 @@ std::int64_t PostoRecord(const FileRisultati& f, std::int64_t p, std::int64_t q,
 }
 
 // The file's own places of the bars overwrite those of the structure file.
-void PostiDelleAste(FileRisultati& f) {
+static void PostiDelleAste(FileRisultati& f) {
   Collegamento& c = collegamento;
   std::vector<std::pair<std::int16_t, int>> voci;
   for (int i = 1; i <= c.NumAsteNodo; ++i) voci.emplace_back(c.AsteNodo[i], i);
@@ -96,9 +98,9 @@ void PostiDelleAste(FileRisultati& f) {
 }
 
 // Told from the exponent's bits, which infinities and not-a-numbers share: to compare one of these would be an arithmetic fault.
-bool Arrotondabile(const char* b) { return static_cast<int>(DaByte<std::uint64_t>(b) >> 52 & 0x7FF) - 1023 < ESPONENTE_MASSIMO; }
+static bool Arrotondabile(const char* b) { return static_cast<int>(DaByte<std::uint64_t>(b) >> 52 & 0x7FF) - 1023 < ESPONENTE_MASSIMO; }
 
-bool Decifra(const char* b, std::int16_t lato, Sestetto& s) {
+static bool Decifra(const char* b, std::int16_t lato, Sestetto& s) {
   double v[6];
   for (int k = 0; k < 6; ++k) {
     const char* byte = b + VALORI + 8 * k;
@@ -111,7 +113,7 @@ bool Decifra(const char* b, std::int16_t lato, Sestetto& s) {
   return true;
 }
 
-void MettiRiga(int n, const Sestetto& s, const std::string& nome) {
+static void MettiRiga(int n, const Sestetto& s, const std::string& nome) {
   nodo.SollN[n] = s.N;
   nodo.SollTy[n] = s.Ty;
   nodo.SollTz[n] = s.Tz;
@@ -122,9 +124,9 @@ void MettiRiga(int n, const Sestetto& s, const std::string& nome) {
   nodo.SollCC[n] = 0;
 }
 
-Sestetto RigaDi(int n) { return {nodo.SollN[n], nodo.SollTy[n], nodo.SollTz[n], nodo.SollMt[n], nodo.SollMy[n], nodo.SollMz[n]}; }
+static Sestetto RigaDi(int n) { return {nodo.SollN[n], nodo.SollTy[n], nodo.SollTz[n], nodo.SollMt[n], nodo.SollMy[n], nodo.SollMz[n]}; }
 
-void AzzeraInviluppo() {
+static void AzzeraInviluppo() {
   nodo.NumSoll = RIGHE_INVILUPPO;
   for (int i = 1; i <= RIGHE_INVILUPPO; ++i) {
     const double v = i % 2 == 0 ? ESTREMO : -ESTREMO;
@@ -132,7 +134,7 @@ void AzzeraInviluppo() {
   }
 }
 
-void Inviluppa(const Sestetto& s, const std::string& nome) {
+static void Inviluppa(const Sestetto& s, const std::string& nome) {
   for (int i = 1; i <= RIGHE_INVILUPPO; ++i) {
     const auto componente = COMPONENTI[(i - 1) / 2];
     const double ora = RigaDi(i).*componente;
@@ -140,8 +142,9 @@ void Inviluppa(const Sestetto& s, const std::string& nome) {
   }
 }
 
-void TroppeSollecitazioni() { Messaggio("Errore: numero di sollecitazioni eccessivo", "ERRORE", Icona::Esclamazione); }
+static void TroppeSollecitazioni() { Messaggio("Errore: numero di sollecitazioni eccessivo", "ERRORE", Icona::Esclamazione); }
 
+namespace {
 // How often the list of sextets asks for each: its zeros for all of them, any other number for one.
 struct Richieste {
   int tutti = 0;
@@ -158,15 +161,16 @@ struct Richieste {
   int Volte(std::int64_t t) const { return tutti + (t < std::ssize(uno) ? uno[static_cast<std::size_t>(t)] : 0); }
   std::int64_t Ultimo(std::int64_t quanti) const { return tutti > 0 ? quanti : std::min<std::int64_t>(quanti, std::ssize(uno) - 1); }
 };
+}  // namespace
 
-void Conta(std::int32_t& n, int quanti) {    // a file may hold more than the counts do
+static void Conta(std::int32_t& n, int quanti) {    // a file may hold more than the counts do
   n = static_cast<std::int32_t>(std::min<std::int64_t>(std::numeric_limits<std::int32_t>::max(), std::int64_t{n} + quanti));
 }
 
-bool StessiValori(const char* a, const char* b) { return std::memcmp(a + VALORI, b + VALORI, RECORD - VALORI) == 0; }
+static bool StessiValori(const char* a, const char* b) { return std::memcmp(a + VALORI, b + VALORI, RECORD - VALORI) == 0; }
 
 // False: the list is full.
-bool MettiInLista(const Sestetto& s, const std::string& nome, int volte) {
+static bool MettiInLista(const Sestetto& s, const std::string& nome, int volte) {
   for (; volte > 0; --volte) {
     if (nodo.NumSoll >= MaxSoll) {
       TroppeSollecitazioni();
@@ -179,7 +183,7 @@ bool MettiInLista(const Sestetto& s, const std::string& nome, int volte) {
 }
 
 // The sextets of one bar at its end's section, read in blocks: their number is the file's, which may say any.
-bool PrendiAsta(FileRisultati& f, const Richieste& r, int i, const std::string& origine, bool maxMin) {
+static bool PrendiAsta(FileRisultati& f, const Richieste& r, int i, const std::string& origine, bool maxMin) {
   Collegamento& c = collegamento;
   const std::int64_t primo = PostoRecord(f, c.AstaNodo[i], c.LatoAsta[i] == 2 ? f.NumSezioni : 1, 1);
   if (primo < 0) return true;
@@ -210,7 +214,7 @@ bool PrendiAsta(FileRisultati& f, const Richieste& r, int i, const std::string& 
   return true;
 }
 
-bool ImportaFile(bool condizione, int numero, bool maxMin) {
+static bool ImportaFile(bool condizione, int numero, bool maxMin) {
   Collegamento& c = collegamento;
   FileRisultati f;
   const std::string percorso = suite.DirLavoro + "\\" + NomeFileRisultati(condizione, numero);
@@ -230,8 +234,6 @@ bool ImportaFile(bool condizione, int numero, bool maxMin) {
     if (c.AsteNodo[i] > 0 && !PrendiAsta(f, richieste, i, origine, maxMin)) return false;
   return true;
 }
-
-}  // namespace
 
 std::string NomeFileRisultati(bool condizione, int numero) {
   std::string cifre = std::to_string(numero);

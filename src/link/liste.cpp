@@ -7,12 +7,10 @@
 #include "core/piattaforma.h"
 #include "core/testo.h"
 
-namespace {
-
 constexpr int MASSIMO = 32767;
 
 // A run of digits at i; false where there is none or it does not fit 16 bits.
-bool Numero(std::string_view t, std::size_t& i, int& n) {
+static bool Numero(std::string_view t, std::size_t& i, int& n) {
   const std::size_t da = i;
   for (n = 0; i < t.size() && t[i] >= '0' && t[i] <= '9'; ++i) {
     n = n * 10 + (t[i] - '0');
@@ -21,7 +19,7 @@ bool Numero(std::string_view t, std::size_t& i, int& n) {
   return i > da;
 }
 
-bool Analizza(std::string_view t, std::vector<std::pair<int, int>>& campi) {
+static bool Analizza(std::string_view t, std::vector<std::pair<int, int>>& campi) {
   for (std::size_t i = 0;;) {
     int a = 0, b = 0;
     if (!Numero(t, i, a)) return false;
@@ -32,8 +30,6 @@ bool Analizza(std::string_view t, std::vector<std::pair<int, int>>& campi) {
     if (t[i++] != ',') return false;
   }
 }
-
-}  // namespace
 
 bool LeggiLista(std::string_view testo, std::int16_t* lista, int limite, std::int16_t& conteggio, bool& troppi) {
   conteggio = 0;

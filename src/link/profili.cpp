@@ -12,10 +12,9 @@
 #include "core/testo.h"
 #include "model/suite.h"
 
-namespace {
-
 constexpr const char* FINE_PROFILARIO = "*END*";
 
+namespace {
 // A value that follows from another one of the same line.
 struct Derivato {
   double Sezione::*campo = nullptr;
@@ -29,6 +28,7 @@ struct Layout {
   const char* parole;
   Derivato derivati[2];
 };
+}  // namespace
 
 constexpr Layout LAYOUT[] = {
     {FILTRO_PROFILI, "S1--2----t---" "c" "--HBAER", {}},
@@ -41,33 +41,36 @@ constexpr Layout LAYOUT[] = {
     {" UPN ", "S1-2-t--" "c" "--HBAEyRr", {{&Sezione::Xc, &Sezione::B, 0.5}}},
 };
 
+namespace {
 // Which field a letter fills, and how it scales: 1 length, 2 area, 4 second moment.
 struct Campo {
   char lettera;
   double Sezione::*campo;
   int potenza;
 };
+}  // namespace
+
 constexpr Campo CAMPI[] = {
     {'H', &Sezione::H, 1},    {'B', &Sezione::B, 1},  {'A', &Sezione::A, 1},  {'E', &Sezione::E, 1},
     {'R', &Sezione::R, 1},    {'r', &Sezione::R2, 1}, {'x', &Sezione::Xc, 1}, {'y', &Sezione::Yc, 1},
     {'S', &Sezione::Area, 2}, {'1', &Sezione::J1, 4}, {'2', &Sezione::J2, 4}, {'t', &Sezione::Jt, 4},
 };
 
-bool InElenco(std::string_view elenco, std::string_view famiglia) { return Contiene(elenco, " " + std::string(famiglia) + " "); }
+static bool InElenco(std::string_view elenco, std::string_view famiglia) { return Contiene(elenco, " " + std::string(famiglia) + " "); }
 
-const Layout* LayoutDi(std::string_view famiglia) {
+static const Layout* LayoutDi(std::string_view famiglia) {
   for (const Layout& l : LAYOUT)
     if (!famiglia.empty() && InElenco(l.famiglie, famiglia)) return &l;
   return nullptr;
 }
 
-double Sezione::*CampoDi(char lettera) {
+static double Sezione::*CampoDi(char lettera) {
   for (const Campo& c : CAMPI)
     if (c.lettera == lettera) return c.campo;
   return nullptr;
 }
 
-void LeggiParole(const Layout& layout, std::string& resto, Sezione& sez) {
+static void LeggiParole(const Layout& layout, std::string& resto, Sezione& sez) {
   for (const char* p = layout.parole; *p != '\0'; ++p) {
     const std::string parola = TokenSuccessivo(resto);
     if (*p == 'c') sez.Tipo = PrimiCaratteri(parola, 1);
@@ -78,7 +81,7 @@ void LeggiParole(const Layout& layout, std::string& resto, Sezione& sez) {
 }
 
 // A value that would overflow is a failed step and stays 0.
-void Scala(Sezione& sez, double fattLung, double fattArea) {
+static void Scala(Sezione& sez, double fattLung, double fattArea) {
   const double a2 = fattArea * fattArea;
   for (const Campo& c : CAMPI) {
     const double k = c.potenza == 1 ? fattLung : c.potenza == 2 ? a2 : a2 * a2;
@@ -88,8 +91,6 @@ void Scala(Sezione& sez, double fattLung, double fattArea) {
     v = troppo ? 0 : v * k;
   }
 }
-
-}  // namespace
 
 int LeggiProfili(std::string_view percorso, int primo, Sezione* tabella, double fattLung, double fattArea,
                  std::string_view filtro, std::string_view nome) {

@@ -14,11 +14,9 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-namespace {
-
 constexpr const char* RISPOSTA = "\\SondaOut.txt";
 
-void ScriviDomanda(const std::string& percorso, std::initializer_list<std::string> righe, const char* titoloErrore) {
+static void ScriviDomanda(const std::string& percorso, std::initializer_list<std::string> righe, const char* titoloErrore) {
   FileScrittura f;
   if (ApriScrittura(f, percorso)) {
     for (const std::string& r : righe) ScriviRiga(f, r);
@@ -27,13 +25,11 @@ void ScriviDomanda(const std::string& percorso, std::initializer_list<std::strin
   Messaggio("Impossibile scrivere il file di ingresso. Specificare l'elemento da selezionare", titoloErrore, Icona::Nessuna);
 }
 
-bool EseguiRicerca(const std::string& programma, const std::string& seguito) {
+static bool EseguiRicerca(const std::string& programma, const std::string& seguito) {
   if (piattaforma.esegui(suite.DirProgra + programma, "|Diroot=" + suite.DirRoot + "|" + seguito)) return true;
   Messaggio("Problemi con l'apertura dell'applicazione di ricerca", "Errore", Icona::Critica);
   return false;
 }
-
-}  // namespace
 
 void CercaElemento(const std::string& titolo, std::string& campo, int tipo, bool primoSolo, const std::string& lavoro) {
   if (lavoro.find_first_of("/\\") != std::string::npos || Contiene(lavoro, "..")) return;   // a neighbour of this job, nothing else
@@ -68,13 +64,11 @@ NodoCercato CercaNodi(const std::string& titolo) {
   return r;
 }
 
-namespace {
-
 constexpr std::int32_t NESSUNA = 0;          // bars are numbered from 1
 
 // Number of each node asked for, by its name: in the selection a node goes by its last value, its bars' ends by the first. Of two with one
 // name the last.
-std::unordered_map<double, double> NodiPerNome(LettoreStruttura& l, std::span<const std::int16_t> nomi) {
+static std::unordered_map<double, double> NodiPerNome(LettoreStruttura& l, std::span<const std::int16_t> nomi) {
   const std::unordered_set<double> chiesti(nomi.begin(), nomi.end());
   std::unordered_map<double, double> nodi;
   InizioBlocco(l);
@@ -83,7 +77,7 @@ std::unordered_map<double, double> NodiPerNome(LettoreStruttura& l, std::span<co
   return nodi;
 }
 
-bool Passa(const AstaStruttura& a, const FiltroAste& filtro) {
+static bool Passa(const AstaStruttura& a, const FiltroAste& filtro) {
   if (a.numero < 1) return false;
   if (a.colore < 0 || a.colore > 9 || !filtro.colori[a.colore]) return false;
   if (a.tipoLinea < 0 || a.tipoLinea > 4 || !filtro.linee[a.tipoLinea]) return false;
@@ -91,7 +85,7 @@ bool Passa(const AstaStruttura& a, const FiltroAste& filtro) {
 }
 
 // The bar of each of these nodes, by the node's number.
-std::unordered_map<double, std::int32_t> PrimeAste(LettoreStruttura& l, const FiltroAste& filtro, const std::unordered_map<double, double>& nodi) {
+static std::unordered_map<double, std::int32_t> PrimeAste(LettoreStruttura& l, const FiltroAste& filtro, const std::unordered_map<double, double>& nodi) {
   std::unordered_map<double, std::int32_t> prime;
   for (const auto& [nome, numero] : nodi) prime.emplace(numero, NESSUNA);
   InizioBlocco(l);
@@ -102,8 +96,6 @@ std::unordered_map<double, std::int32_t> PrimeAste(LettoreStruttura& l, const Fi
   }
   return prime;
 }
-
-}  // namespace
 
 void CercaAste(std::span<const std::int16_t> nodi, const FiltroAste& filtro, std::string& lista) {
   if (nodi.empty()) return;

@@ -10,45 +10,45 @@
 #include "core/testo.h"
 #include "model/stato.h"
 
-namespace {
-
 constexpr const char* STRUTTURA = "\\struttur.str";
 constexpr const char* SEZIONI = "\\sezioni_";
 constexpr int RIGHE_SEZIONE = 4;             // lines of a section record behind its three values, not read
 
-void FileErrato(const std::string& percorso, Icona icona) {
+static void FileErrato(const std::string& percorso, Icona icona) {
   Messaggio("Errore: file " + percorso + " errato o mancante.", "ERRORE", icona);
 }
 
 // The leading number of the next word; 0 where there is none or it does not fit.
-std::int32_t InteroDaToken(std::string& riga) {
+static std::int32_t InteroDaToken(std::string& riga) {
   double v = 0;
   std::int32_t n = 0;
   if (Val(TokenSuccessivo(riga), v)) InIntero(v, n);
   return n;
 }
 
-std::int32_t LeggiIntero(FileLettura& f) {
+static std::int32_t LeggiIntero(FileLettura& f) {
   std::int32_t n = 0;
   LeggiValore(f, n);
   return n;
 }
 
 // The line that follows "release", or the first one itself after the box of an old version.
-void ControllaVersione(std::string& riga, LettoreStruttura& l) {
+static void ControllaVersione(std::string& riga, LettoreStruttura& l) {
   l.vecchia = !Contiene(Minuscolo(riga), "release");
   if (l.vecchia) AvvisaVersione();
   else LeggiRiga(l.file, riga);
 }
 
+namespace {
 struct SezioneFile {
   std::int32_t numero = 0;
   std::string nome;
 };
+}  // namespace
 
 // The sections of the section file in order. Fallito: not opened; Troppe: its count is out of range.
 template <class Procedura>
-EsitoAste PerOgniSezione(const std::string& percorso, Procedura procedura) {
+static EsitoAste PerOgniSezione(const std::string& percorso, Procedura procedura) {
   FileLettura f;
   if (!ApriLettura(f, percorso)) return EsitoAste::Fallito;
   std::int32_t n = 0;
@@ -65,19 +65,20 @@ EsitoAste PerOgniSezione(const std::string& percorso, Procedura procedura) {
   return EsitoAste::Trovate;
 }
 
-bool TogliPrefisso(std::string& nome) {      // "P_" marks a section of the library
+static bool TogliPrefisso(std::string& nome) {      // "P_" marks a section of the library
   if (!nome.starts_with("P_")) return false;
   nome.erase(0, 2);
   return true;
 }
 
 // Of entries with one name the last.
-int CercaInLibreria(const std::string& senzaSpazi) {
+static int CercaInLibreria(const std::string& senzaSpazi) {
   for (int i = suite.NumProfili; i >= 1; --i)
     if (SenzaSpazi(suite.ProfiliLib[i].Nome) == senzaSpazi) return i;
   return 0;
 }
 
+namespace {
 // Positions of a list by their number, so that a file's bars find theirs without walking the list for each.
 struct Posizioni {
   std::vector<std::pair<std::int32_t, int>> voci;
@@ -91,10 +92,11 @@ struct Posizioni {
     return v != voci.end() && v->first == numero;
   }
 };
+}  // namespace
 
 // Which end of the bar lies on the joint: the node given at the bar's own position first, then any listed node, first end before
 // second; 0: none.
-std::int16_t LatoDiAsta(int posizione, const AstaStruttura& a, const Posizioni& nodi) {
+static std::int16_t LatoDiAsta(int posizione, const AstaStruttura& a, const Posizioni& nodi) {
   if (posizione <= nodo.NumNodiStr) {
     if (nodo.NodiStr[posizione] == a.nodo1) return 1;
     if (nodo.NodiStr[posizione] == a.nodo2) return 2;
@@ -103,7 +105,7 @@ std::int16_t LatoDiAsta(int posizione, const AstaStruttura& a, const Posizioni& 
   return nodi.Contiene(a.nodo2) ? 2 : 0;
 }
 
-bool NodiPresenti(LettoreStruttura& l) {
+static bool NodiPresenti(LettoreStruttura& l) {
   const Posizioni nodi(nodo.NodiStr, nodo.NumNodiStr);
   std::vector<bool> visti(static_cast<std::size_t>(nodo.NumNodiStr) + 1);
   NodoStruttura n;
@@ -115,7 +117,7 @@ bool NodiPresenti(LettoreStruttura& l) {
   return std::all_of(visti.begin() + 1, visti.end(), [](bool visto) { return visto; });
 }
 
-bool AsteCollegate(LettoreStruttura& l) {
+static bool AsteCollegate(LettoreStruttura& l) {
   const Posizioni nodi(nodo.NodiStr, nodo.NumNodiStr);
   const Posizioni aste(collegamento.AsteNodo, collegamento.NumAsteNodo);
   AstaStruttura a;
@@ -129,8 +131,6 @@ bool AsteCollegate(LettoreStruttura& l) {
   }
   return true;
 }
-
-}  // namespace
 
 void AvvisaVersione() {
   Messaggio("Versione 3.8 o precedente. Caricare e risalvare la struttura in 'Ambiente Grafico'", "ATTENZIONE!", Icona::Critica);
@@ -180,15 +180,11 @@ bool ProssimaAsta(LettoreStruttura& l, AstaStruttura& a) {
   return true;
 }
 
-namespace {
-
-void SaltaNodi(LettoreStruttura& l) {
+static void SaltaNodi(LettoreStruttura& l) {
   InizioBlocco(l);
   for (NodoStruttura n; ProssimoNodo(l, n);) {}
   InizioBlocco(l);
 }
-
-}  // namespace
 
 std::int16_t SezioneDiAsta(std::int16_t asta) {
   LettoreStruttura l;

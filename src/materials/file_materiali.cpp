@@ -13,21 +13,19 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-namespace {
-
 // --- the catalogue ---------------------------------------------------------------------------------------------------------
 
 // A number of the catalogue. A word without a number, or one that overflows, is a failed step: v stays, nothing is told.
-void NumeroCatalogo(std::string_view parola, double& v) {
+static void NumeroCatalogo(std::string_view parola, double& v) {
   if (!ValLocale(parola, suite.Decimale, v)) passi.fallito = true;
 }
 
 template <class Record>
-void NumeriCatalogo(std::string riga, Record& m, std::initializer_list<double Record::*> campi) {
+static void NumeriCatalogo(std::string riga, Record& m, std::initializer_list<double Record::*> campi) {
   for (double Record::*c : campi) NumeroCatalogo(TokenSuccessivo(riga), m.*c);
 }
 
-void LeggiAcciaio(FileLettura& f, MatAcciaio& m) {
+static void LeggiAcciaio(FileLettura& f, MatAcciaio& m) {
   std::string riga;
   LeggiRiga(f, m.Nome);            // name and reference as they stand, blanks included
   LeggiRiga(f, m.Norma);
@@ -37,25 +35,25 @@ void LeggiAcciaio(FileLettura& f, MatAcciaio& m) {
 }
 
 // The entries of two lines: the name, trimmed, then the numbers.
-bool LeggiNomeENumeri(FileLettura& f, std::string& nome, std::string& numeri) {
+static bool LeggiNomeENumeri(FileLettura& f, std::string& nome, std::string& numeri) {
   std::string riga;
   if (LeggiRiga(f, riga)) nome = Rifila(riga);
   return LeggiRiga(f, numeri);
 }
 
-void LeggiVite(FileLettura& f, MatViti& m) {
+static void LeggiVite(FileLettura& f, MatViti& m) {
   std::string riga;
   if (!LeggiNomeENumeri(f, m.Nome, riga)) return;
   NumeriCatalogo(riga, m, {&MatViti::SAmm, &MatViti::TauAmm, &MatViti::Fy, &MatViti::Ft, &MatViti::NonUsato, &MatViti::GammaM2});
 }
 
-void LeggiCls(FileLettura& f, MatCls& m) {
+static void LeggiCls(FileLettura& f, MatCls& m) {
   std::string riga;
   if (!LeggiNomeENumeri(f, m.Nome, riga)) return;
   NumeriCatalogo(riga, m, {&MatCls::Rck, &MatCls::GammaC});
 }
 
-void LeggiAcciaioCA(FileLettura& f, MatCA& m) {
+static void LeggiAcciaioCA(FileLettura& f, MatCA& m) {
   constexpr int ORDINE[] = {1, 8, 7, 3};
   std::string riga;
   if (!LeggiNomeENumeri(f, m.Nome, riga)) return;
@@ -64,7 +62,7 @@ void LeggiAcciaioCA(FileLettura& f, MatCA& m) {
 
 // Count and entries of a section. A bad count stays as it was; entries beyond the table are read into a record that is dropped.
 template <class Record>
-void LeggiSezione(FileLettura& f, std::int16_t& conteggio, Record (&tabella)[MaxMateriali + 1], void (*leggi)(FileLettura&, Record&)) {
+static void LeggiSezione(FileLettura& f, std::int16_t& conteggio, Record (&tabella)[MaxMateriali + 1], void (*leggi)(FileLettura&, Record&)) {
   std::string riga;
   if (!LeggiRiga(f, riga)) return;
   double n = conteggio;
@@ -76,11 +74,14 @@ void LeggiSezione(FileLettura& f, std::int16_t& conteggio, Record (&tabella)[Max
   }
 }
 
+namespace {
 // The first title that a line holds opens its section; the last one is the beginning of the first two.
 struct SezioneCatalogo {
   const char* titolo;
   void (*leggi)(FileLettura& f);
 };
+}  // namespace
+
 constexpr SezioneCatalogo SEZIONI[] = {
     {"ACCIAIO_DA_CARPENTERIA_SEZIONI_APERTE", [](FileLettura& f) { LeggiSezione(f, materiali.NumAcciai, materiali.AcciaiBase, LeggiAcciaio); }},
     {"ACCIAIO_DA_CARPENTERIA_SEZIONI_CHIUSE", [](FileLettura& f) { LeggiSezione(f, materiali.NumAcciaiChiusi, materiali.AcciaiChiusiBase, LeggiAcciaio); }},
@@ -94,7 +95,7 @@ constexpr SezioneCatalogo SEZIONI[] = {
 constexpr const char* RELEASE_MAT_LAVORO = "[ReleaseQuestoFile=3]";
 constexpr int MaxGammaM = 4;
 
-void GradoNonStandard(const char* testo, std::string& nome, const std::string& sostituto) {
+static void GradoNonStandard(const char* testo, std::string& nome, const std::string& sostituto) {
   Messaggio(testo, TitoloProg, Icona::Esclamazione);
   nome = sostituto;
 }
@@ -104,35 +105,35 @@ constexpr const char* TESTO_CLS_PERSONALIZZATO =
 constexpr const char* TESTO_ACC_PERSONALIZZATO =
     "Non è possibile utilizzare una tipo di acciaio personalizzato. Impostare un tipo standard";
 
-bool NomeCls(const std::string& valore, const int*) {
+static bool NomeCls(const std::string& valore, const int*) {
   materiali.MatBaseCls.Nome = valore;
   if (materiali.UsaCls && Maiuscolo(valore) == "ALTRA")
     GradoNonStandard(TESTO_CLS_PERSONALIZZATO, materiali.MatBaseCls.Nome, materiali.ClsBase[1].Nome);
   return true;
 }
 
-bool NomeAcc1(const std::string& valore, const int*) {
+static bool NomeAcc1(const std::string& valore, const int*) {
   materiali.MatBaseAcc1.Nome = valore;
   if (!materiali.SezChiuse && valore == "ALTRO")
     GradoNonStandard(TESTO_ACC_PERSONALIZZATO, materiali.MatBaseAcc1.Nome, materiali.AcciaiBase[1].Nome);
   return true;
 }
 
-bool NomeAcc2(const std::string& valore, const int*) {
+static bool NomeAcc2(const std::string& valore, const int*) {
   materiali.MatBaseAcc2.Nome = valore;
   if (materiali.SezChiuse && valore == "ALTRO")
     GradoNonStandard(TESTO_ACC_PERSONALIZZATO, materiali.MatBaseAcc2.Nome, materiali.AcciaiChiusiBase[1].Nome);
   return true;
 }
 
-bool ModuloE(const std::string& valore, const int*) {
+static bool ModuloE(const std::string& valore, const int*) {
   double v = 0;
   if (Val(valore, v)) materiali.ModuloEBase = v / 10;
   else passi.fallito = true;
   return true;
 }
 
-bool GammaM(const std::string& valore, const int* indici) {
+static bool GammaM(const std::string& valore, const int* indici) {
   const int k = indici[0];
   if (k < 1 || k > MaxGammaM) {
     SegnalaFault();
@@ -142,6 +143,7 @@ bool GammaM(const std::string& valore, const int* indici) {
   return true;
 }
 
+namespace {
 // A key fills a field of the job's concrete, a field of one of its steels, or has a rule of its own.
 struct ChiaveMat {
   const char* chiave;
@@ -150,10 +152,11 @@ struct ChiaveMat {
   double MatAcciaio::*campo = nullptr;
   bool (*regola)(const std::string& valore, const int* indici) = nullptr;   // false: fault of the bracket
 };
+}  // namespace
 
-constexpr ChiaveMat ChiaveCls(const char* chiave, double MatCls::*campo) { return {chiave, campo}; }
-constexpr ChiaveMat ChiaveAcc(const char* chiave, MatAcciaio Materiali::*acc, double MatAcciaio::*campo) { return {chiave, nullptr, acc, campo}; }
-constexpr ChiaveMat ChiaveRegola(const char* chiave, bool (*regola)(const std::string&, const int*)) { return {chiave, nullptr, nullptr, nullptr, regola}; }
+static constexpr ChiaveMat ChiaveCls(const char* chiave, double MatCls::*campo) { return {chiave, campo}; }
+static constexpr ChiaveMat ChiaveAcc(const char* chiave, MatAcciaio Materiali::*acc, double MatAcciaio::*campo) { return {chiave, nullptr, acc, campo}; }
+static constexpr ChiaveMat ChiaveRegola(const char* chiave, bool (*regola)(const std::string&, const int*)) { return {chiave, nullptr, nullptr, nullptr, regola}; }
 
 constexpr ChiaveMat CHIAVI[] = {
     ChiaveRegola("CLS_CLASSE", NomeCls),
@@ -185,7 +188,7 @@ constexpr ChiaveMat CHIAVI[] = {
 };
 
 // The integers of a bracket: leading numbers, fractions cut off.
-bool IndiciChiave(std::string testo, int (&indici)[MaxIndiciChiave]) {
+static bool IndiciChiave(std::string testo, int (&indici)[MaxIndiciChiave]) {
   std::fill(indici, indici + MaxIndiciChiave, 0);
   for (int k = 0;; ++k) {
     const std::string parola = TokenSuccessivo(testo);
@@ -196,8 +199,6 @@ bool IndiciChiave(std::string testo, int (&indici)[MaxIndiciChiave]) {
     indici[k] = n;
   }
 }
-
-}  // namespace
 
 void LeggiMaterialiCatalogo(const std::string& path, std::string& errore) {
   FileLettura f;

@@ -7,9 +7,7 @@
 #include "core/testo.h"
 #include "model/materiali.h"
 
-namespace {
-bool Entrambi(double a, double b) { return a > 0 && b > 0; }
-}
+static bool Entrambi(double a, double b) { return a > 0 && b > 0; }
 
 bool MaterialeValido(bool metodoTA, std::string_view ruolo, const MatAcciaio& mat) {
   const bool profili = ruolo == "PROFILI";

@@ -9,58 +9,59 @@
 #include "panels/InsDati.h"
 #include "panels/righe.h"
 
-namespace {
-
 constexpr int TIPO_UNCINATO = 1;
 
+namespace {
 // Field of each size on the two tabs; 0 none. Field 9 shows the hole and gives both the thread and the hole: the later row wins.
 struct CampoTf {
   double Nodo::*misura;
   int tipo1, tipo2;
 };
+}  // namespace
+
 constexpr CampoTf CAMPI[] = {
   {&Nodo::TfLFt, 11, 1},    {&Nodo::TfL, 12, 2},     {&Nodo::TfR, 13, 3},  {&Nodo::TfL1, 14, 4},        {&Nodo::TfLF, 15, 0},
   {&Nodo::TfHMalta, 17, 7}, {&Nodo::TfLFil, 0, 9},   {&Nodo::TfDForo, 19, 9}, {&Nodo::TfDistBordo, 20, 10},
 };
 
-bool Uncinato() { return nodo.TipoTirafondo == TIPO_UNCINATO; }
-int CampoDelTipo(const CampoTf& c) { return Uncinato() ? c.tipo2 : c.tipo1; }
+static bool Uncinato() { return nodo.TipoTirafondo == TIPO_UNCINATO; }
+static int CampoDelTipo(const CampoTf& c) { return Uncinato() ? c.tipo2 : c.tipo1; }
 
 // The sizes' names up to the first empty one; built-in rows behind a shorter file are offered too.
-void RiempiCombo(Controllo& combo) {
+static void RiempiCombo(Controllo& combo) {
   std::vector<std::string> voci;
   for (int i = 0; i <= MaxDiam && !suite.DiamNome[i].empty(); ++i) voci.push_back(suite.DiamNome[i]);
   MostraVoci(combo, std::move(voci));
 }
 
 // A row behind those offered is a legal value of a node file: no selection, and the model keeps it.
-void Preseleziona(Controllo& combo, int riga) {
+static void Preseleziona(Controllo& combo, int riga) {
   if (riga >= 0 && riga < static_cast<int>(combo.voci.size())) ImpostaScelta(combo, riga);
 }
 
-void SceltoDiametro(const Controllo& combo, Controllo& etichetta) {
+static void SceltoDiametro(const Controllo& combo, Controllo& etichetta) {
   const int p = combo.scelta;
   if (p < 0 || p > MaxDiam) return;
   MostraTesto(etichetta, "(diam.=" + NumeroPiano(suite.DiamVal[p]) + " ; Area=" + NumeroPiano(suite.DiamArea[p]) + ")");
   nodo.TfDiamIdx = static_cast<std::int16_t>(p + 1);
 }
 
-void FormTF_Combo1(int) { SceltoDiametro(formTF.Combo1, formTF.Label6[8]); }
-void FormTF_Combo2(int) { SceltoDiametro(formTF.Combo2, formTF.Label6[3]); }
-void FormTF_SSTab1(int) { nodo.TipoTirafondo = static_cast<std::int16_t>(formTF.SSTab1.scelta); }
+static void FormTF_Combo1(int) { SceltoDiametro(formTF.Combo1, formTF.Label6[8]); }
+static void FormTF_Combo2(int) { SceltoDiametro(formTF.Combo2, formTF.Label6[3]); }
+static void FormTF_SSTab1(int) { nodo.TipoTirafondo = static_cast<std::int16_t>(formTF.SSTab1.scelta); }
 
-void FormTF_GeoTfTxt(int i) {
+static void FormTF_GeoTfTxt(int i) {
   if (i == 13) MostraTesto(formTF.Label6[5], "x " + formTF.GeoTfTxt[13].testo);
 }
 
-void FormTF_MatBulOK(int) {
+static void FormTF_MatBulOK(int) {
   LeggiGeoTf();
   piattaforma.chiudi(FormTF);
   AggiornaTFLab();
   RidisegnaNodo();
 }
 
-void Mostrato() {
+static void Mostrato() {
   PulisciTela(formTF.tela);
   for (const double raggio : {360.0, 504.0}) ArcoTela(formTF.tela, 2388, 4296, raggio, PI_PROG, 2 * PI_PROG, 192);
   ImpostaScelta(formTF.SSTab1, nodo.TipoTirafondo);
@@ -74,7 +75,7 @@ constexpr const char* ETICHETTE_TIPO1[] = {"Lato piastra", "L1", "LF"};
 // Entry 5 follows field 13, also the text of its creation.
 constexpr const char* LABEL6[] = {"L", "R", "L fuori plinto", "", "Dist. bordo plinto", "x 70", "L", "L fuori plinto", ""};
 
-constexpr StatoFormTF& P = formTF;
+static constexpr StatoFormTF& P = formTF;
 constexpr Genere CAMPO = Genere::Campo, ETICHETTA = Genere::Etichetta, LISTA = Genere::Lista;
 
 constexpr RigaPannello RIGHE[] = {
@@ -105,8 +106,6 @@ constexpr RigaPannello RIGHE[] = {
 
   Riga("MatBulOK", Genere::Comando, P.MatBulOK, "", "OK", {}, FormTF_MatBulOK),
 };
-
-}  // namespace
 
 const Pannello FormTF = {"FormTF", RIGHE, true, &formTF.titolo, RileggiFormTF, Mostrato, nullptr, &formTF.aperto, &formTF.caricato};
 

@@ -4,11 +4,14 @@
 
 constexpr double RAGGIO_TIPO = 30;         // anchor marks of the typology pictures, picture units
 
+namespace {
 // Anchor marks of a picture, and the picture's size: twice the marks' centre.
 struct SegniTipo {
   double larghezza, altezza;
   double x[4], y[4];
 };
+}  // namespace
+
 static constexpr SegniTipo SEGNI_TIPO[] = {
     {1440, 1440, {301, 1139, 301, 1139}, {1139, 1139, 301, 301}},
     {1440, 1440, {301, 1139, 301, 1139}, {1139, 1139, 301, 301}},

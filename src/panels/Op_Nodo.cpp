@@ -14,43 +14,47 @@
 #include "panels/visualizzatore.h"
 
 namespace {
-
 // Entries of ParNodo that are told apart by name.
 enum Voce { ALTEZZA_QUOTE = 7, DISTANZA_TESTO = 13, QUOTE = 15, QUOTE_INF = 16, DISTANZA_SEGNO = 17, DISTINTA = 18 };
+}  // namespace
+
 constexpr int CAMPO_DISTANZA = 13;           // field of the unsigned distance
 
+namespace {
 // Entry of each field. Opz leaves the last four fields as they stand on the panel.
 struct CampoOpzione {
   int campo, voce;
   bool opz;
 };
+}  // namespace
+
 constexpr CampoOpzione CAMPI[] = {
   {0, 0, true},   {1, 1, true},   {2, 2, true},   {3, 3, true},   {4, 4, true},   {5, 5, true},   {6, 6, true},
   {7, 7, true},   {8, 8, true},   {9, 9, true},   {10, 10, true}, {11, 11, true}, {12, 12, true}, {13, 13, true},
   {14, 14, true}, {15, 19, true}, {16, 20, false}, {25, 25, false}, {26, 26, false}, {27, 27, false},
 };
 
-void MostraScelte() {
+static void MostraScelte() {
   SelezionaVoce(opNodo.Option1[0], suite.ParNodo[QUOTE_INF] != 0 ? 1 : 0);
   ImpostaScelta(opNodo.CheckQuote, suite.ParNodo[QUOTE] == 1 ? 1 : 0);
   ImpostaScelta(opNodo.CheckDistinta, suite.ParNodo[DISTINTA] == 1 ? 1 : 0);
 }
 
-void Op_Nodo_Annulla(int) { piattaforma.chiudi(Op_Nodo); }
+static void Op_Nodo_Annulla(int) { piattaforma.chiudi(Op_Nodo); }
 
-void Op_Nodo_Applica(int) {
+static void Op_Nodo_Applica(int) {
   ApplicaOpzioni();
   if (!FaultAritmetico()) InsDati_ApriVis(0);
 }
 
-void Op_Nodo_Chiudi(int) {
+static void Op_Nodo_Chiudi(int) {
   piattaforma.chiudi(Op_Nodo);
   ApplicaOpzioni();
   if (!FaultAritmetico()) EsportaDisegno(suite.DirProgra + "\\nodo.dis", 1, "DIS");
 }
 
 // A failed write is as fatal as a missing file at the start.
-void Op_Nodo_Def(int) {
+static void Op_Nodo_Def(int) {
   ApplicaOpzioni();
   if (FaultAritmetico() || ScriviOpzioni()) return;
   Messaggio("Errore: file " + suite.DirCustom + FILE_OPZIONI + " errato o mancante.", "ERRORE", Icona::Nessuna);
@@ -64,7 +68,7 @@ constexpr const char* PARAMETRI[] = {
 constexpr const char* STILI[] = {"Stile quote particolari GRB", "Stile testi GRB", "Stile quote GRB"};
 constexpr const char* OPTION1[] = {"Quote sup.", "Quote inf."};
 
-constexpr StatoOpNodo& P = opNodo;
+static constexpr StatoOpNodo& P = opNodo;
 constexpr Genere CAMPO = Genere::Campo, ETICHETTA = Genere::Etichetta, COMANDO = Genere::Comando;
 
 constexpr RigaPannello RIGHE[] = {
@@ -80,8 +84,6 @@ constexpr RigaPannello RIGHE[] = {
   Riga("Chiudi",    COMANDO, P.Chiudi,  "", "Chiudi",  {}, Op_Nodo_Chiudi),
   Riga("Def",       COMANDO, P.Def,     "", "Salva",   {}, Op_Nodo_Def),
 };
-
-}  // namespace
 
 const Pannello Op_Nodo = {"Op_Nodo", RIGHE, false, &opNodo.titolo, nullptr, nullptr, nullptr, &opNodo.aperto, &opNodo.caricato};
 

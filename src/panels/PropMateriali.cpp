@@ -12,21 +12,21 @@
 #include "model/suite.h"
 #include "panels/righe.h"
 
-namespace {
-
 constexpr double CLASSE_II = 1.125;          // increase of the allowable stresses for load class II
 constexpr double RCK_FCK = 0.83;             // NTC 2008 11.2.10.1 (11.2.1)
 constexpr double ALFA_CC = 0.85;             // NTC 2008 4.1.2.1.1.1
 
+namespace {
 struct Valore {
   double v = 0;
   bool piano = false;                        // a factor: neither unit nor rounding
 };
+}  // namespace
 
 // A value rounded as it is, where ImpostaValoreMat_ shows none below 0.
-std::string Arrotondato(double v, int decimali) { return NumeroPiano(ArrotondaPari(v, decimali)); }
+static std::string Arrotondato(double v, int decimali) { return NumeroPiano(ArrotondaPari(v, decimali)); }
 
-void Mostra(Controllo* etichette, std::initializer_list<Valore> valori, std::string (*testo)(double, int) = ImpostaValoreMat_) {
+static void Mostra(Controllo* etichette, std::initializer_list<Valore> valori, std::string (*testo)(double, int) = ImpostaValoreMat_) {
   for (const Valore& x : valori) {
     if (FaultAritmetico()) return;
     MostraTesto(*etichette++, x.piano ? NumeroPiano(x.v) : testo(x.v * suite.FattTensioni, suite.DecTensioni));
@@ -34,29 +34,29 @@ void Mostra(Controllo* etichette, std::initializer_list<Valore> valori, std::str
 }
 
 // NTC 2008 11.3.4.1, 4.2.4.1.1: strengths and design strengths; allowable stresses of both load classes.
-void MostraAcciaio(Controllo* etichette, const MatAcciaio& m) {
+static void MostraAcciaio(Controllo* etichette, const MatAcciaio& m) {
   Mostra(etichette, {{m.Fyk}, {m.GammaM, true}, {m.GammaMT, true}, {m.Fyk / m.GammaM}, {m.Fyk / m.GammaMT}, {m.Fyk40 / m.GammaM},
                      {m.Fyk40 / m.GammaMT}, {m.SAmm}, {m.SAmm * CLASSE_II}});
 }
 
-void MostraViti(Controllo* etichette, const MatViti& m) {
+static void MostraViti(Controllo* etichette, const MatViti& m) {
   Mostra(etichette, {{m.Fy}, {m.GammaM2, true}, {m.Fy / m.GammaM2}, {m.Ft}, {m.Ft / m.GammaM2}, {m.SAmm}, {m.SAmm * CLASSE_II}, {m.TauAmm},
                      {m.TauAmm * CLASSE_II}});
 }
 
 // The rods take the partial factor of the bolt class, not one of their steel: they are verified as bolts.
-void MostraTirafondi(Controllo* etichette, const MatAcciaio& m, double gammaM2) {
+static void MostraTirafondi(Controllo* etichette, const MatAcciaio& m, double gammaM2) {
   const double tau = m.SAmm / std::sqrt(3.0);
   Mostra(etichette, {{m.Fyk}, {gammaM2, true}, {m.Fyk / gammaM2}, {m.Ftk}, {m.Ftk / gammaM2}, {m.SAmm}, {m.SAmm * CLASSE_II}, {tau},
                      {tau * CLASSE_II}});
 }
 
-void MostraCls(Controllo* etichette, const MatCls& m) {
+static void MostraCls(Controllo* etichette, const MatCls& m) {
   Mostra(etichette, {{m.Rck}, {m.Rck * RCK_FCK}, {m.GammaC, true}, {m.Rck * RCK_FCK * ALFA_CC / m.GammaC}, {60 + (m.Rck - 150) / 4}},
          Arrotondato);
 }
 
-void Carica() {
+static void Carica() {
   StatoPropMateriali& p = propMateriali;
   p.Unit.coloreSfondo = 0xFFFFC8;            // red 200, green 255, blue 255
   MostraVisibile(p.FrameAccPia, materiali.UsaAccPiastre);
@@ -65,9 +65,9 @@ void Carica() {
   MostraVisibile(p.FrameCls, materiali.UsaCls);
 }
 
-void PropMateriali_Chiudi(int) { piattaforma.chiudi(PropMateriali); }
+static void PropMateriali_Chiudi(int) { piattaforma.chiudi(PropMateriali); }
 
-constexpr StatoPropMateriali& P = propMateriali;
+static constexpr StatoPropMateriali& P = propMateriali;
 constexpr Genere CORNICE = Genere::Cornice, ETICHETTA = Genere::Etichetta;
 
 constexpr RigaPannello RIGHE[] = {
@@ -126,8 +126,6 @@ constexpr RigaPannello RIGHE[] = {
 
   Riga("Chiudi", Genere::Comando, P.Chiudi, "", "Chiudi", {}, PropMateriali_Chiudi),
 };
-
-}  // namespace
 
 const Pannello PropMateriali = {"PropMateriali", RIGHE, true, &propMateriali.titolo, Carica, nullptr, nullptr, &propMateriali.aperto,
                                 &propMateriali.caricato};

@@ -12,29 +12,27 @@
 #include "panels/InsDati.h"
 #include "panels/righe.h"
 
-namespace {
-
 constexpr std::string_view NON_APPLICABILE = "Non";
 
 // The number in the field as a node; one out of 16 bits keeps the node asked for last.
-std::int16_t NodoDalCampo() {
+static std::int16_t NodoDalCampo() {
   double v = 0;
   if (!Val(sez3D.NodoTxt.testo, v) || !InIntero(v, sez3D.UltimoNodo)) passi.fallito = true;
   return sez3D.UltimoNodo;
 }
 
 // One of the two readings; false: its box was shown.
-bool Riuscita(EsitoAste esito, const char* troppe) {
+static bool Riuscita(EsitoAste esito, const char* troppe) {
   if (esito == EsitoAste::Troppe) Messaggio(troppe, "ERRORE", Icona::Esclamazione);
   return esito == EsitoAste::Trovate;
 }
 
-bool CercaSezioni() {
+static bool CercaSezioni() {
   return Riuscita(AsteDelNodo(NodoDalCampo()), "Errore: numero di aste collegate eccessivo.") &&
          Riuscita(SezioniAsteNodo(), "Errore: numero di sezioni eccessivo.");
 }
 
-void RiempiComboP() {
+static void RiempiComboP() {
   std::vector<std::string> voci;
   for (int i = 1; i <= collegamento.NumAsteNodo; ++i)
     voci.push_back(collegamento.SezioniStr[i].Nome + "  Asta " + std::to_string(collegamento.AsteNodo[i]));
@@ -44,17 +42,17 @@ void RiempiComboP() {
   if (!sez3D.ComboP.voci.empty()) ImpostaScelta(sez3D.ComboP, 0);
 }
 
-void Sez3D_Cerca(int) {
+static void Sez3D_Cerca(int) {
   piattaforma.attesa(true);
   if (CercaSezioni()) RiempiComboP();
   piattaforma.attesa(false);
 }
 
-bool NonApplicabile(int posizione) {
+static bool NonApplicabile(int posizione) {
   return posizione >= 0 && posizione < collegamento.NumAsteNodo && collegamento.SezioniStr[posizione + 1].Nome.starts_with(NON_APPLICABILE);
 }
 
-void MostraSezione() {
+static void MostraSezione() {
   const Sezione& s = collegamento.SezioneImp;
   const double misure[] = {s.H, s.B, s.A, s.E, s.R};
   for (int i = 0; i < 5; ++i) {
@@ -67,7 +65,7 @@ void MostraSezione() {
 }
 
 // A section that cannot be taken sends the list back to the last valid entry; where there is none, to no entry.
-void Sez3D_ComboP(int) {
+static void Sez3D_ComboP(int) {
   const int p = sez3D.ComboP.scelta;
   if (p < 0 || p >= collegamento.NumAsteNodo) return;
   if (NonApplicabile(p)) {
@@ -80,22 +78,22 @@ void Sez3D_ComboP(int) {
   MostraSezione();
 }
 
-void Sez3D_command1(int) {
+static void Sez3D_command1(int) {
   std::string campo = sez3D.NodoTxt.testo;
   CercaElemento("NODO COLONNA - PLINTO - IMPORTA SEZIONI DA 3D - Cerca nodo", campo, ELEMENTO_NODO);
   if (campo != sez3D.NodoTxt.testo) ImpostaTesto(sez3D.NodoTxt, campo);
 }
 
-void Sez3D_OK(int) {
+static void Sez3D_OK(int) {
   for (int i = 1; i <= suite.NumProfili; ++i)
     if (suite.ProfiliLib[i].Nome == collegamento.SezioneImp.Nome) ImpostaScelta(insDati.TraveP, i - 1);
   RidisegnaNodo();
   piattaforma.chiudi(Sez3D);
 }
 
-void Sez3D_Annulla(int) { piattaforma.chiudi(Sez3D); }
+static void Sez3D_Annulla(int) { piattaforma.chiudi(Sez3D); }
 
-void Carica() {
+static void Carica() {
   sez3D.DisPri.tela = &sez3D.telaDisPri;
   for (int i = 0; i < 5; ++i) {
     MostraVisibile(sez3D.geom[i], false);
@@ -105,7 +103,7 @@ void Carica() {
 
 constexpr const char* GEOM[] = {"h:", "b:", "a:", "e:", "r :"};
 
-constexpr StatoSez3D& P = sez3D;
+static constexpr StatoSez3D& P = sez3D;
 constexpr Genere ETICHETTA = Genere::Etichetta, COMANDO = Genere::Comando;
 
 constexpr RigaPannello RIGHE[] = {
@@ -121,7 +119,5 @@ constexpr RigaPannello RIGHE[] = {
   Riga("OK",       COMANDO, P.OK, "", "OK", {}, Sez3D_OK),
   Riga("Annulla",  COMANDO, P.Annulla, "", "Annulla", {}, Sez3D_Annulla),
 };
-
-}  // namespace
 
 const Pannello Sez3D = {"Sez3D", RIGHE, true, &sez3D.titolo, Carica, nullptr, nullptr, &sez3D.aperto, &sez3D.caricato};

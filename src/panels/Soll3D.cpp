@@ -13,25 +13,23 @@
 #include "panels/righe.h"
 #include "panels/selezione.h"
 
-namespace {
-
 constexpr const char* NESSUNO = "0";         // what the commands "A" leave: no empty selection exists
 
-void Unisci(std::string& testo, int numero) {
+static void Unisci(std::string& testo, int numero) {
   if (!testo.empty()) testo += ',';
   testo += std::to_string(numero);
 }
 
-bool Qualificato(const std::string& tipo) {
+static bool Qualificato(const std::string& tipo) {
   return nodo.TipoVer == 0 ? tipo == "TENSAMM" || tipo == "RARA" : tipo == "SLU";
 }
 
-void Soll3D_Annulla(int i) { ImpostaTesto(i == 0 ? soll3D.NodiTxt : soll3D.AsteTxt, ""); }
-void Soll3D_ACdc(int) { ImpostaTesto(soll3D.CdCTxt, NESSUNO); }
-void Soll3D_ACdc2(int) { ImpostaTesto(soll3D.CdC2Txt, NESSUNO); }
-void Soll3D_Ses(int) { ImpostaTesto(soll3D.SesTxt, NESSUNO); }
+static void Soll3D_Annulla(int i) { ImpostaTesto(i == 0 ? soll3D.NodiTxt : soll3D.AsteTxt, ""); }
+static void Soll3D_ACdc(int) { ImpostaTesto(soll3D.CdCTxt, NESSUNO); }
+static void Soll3D_ACdc2(int) { ImpostaTesto(soll3D.CdC2Txt, NESSUNO); }
+static void Soll3D_Ses(int) { ImpostaTesto(soll3D.SesTxt, NESSUNO); }
 
-void Soll3D_TuttiCdc(int) {
+static void Soll3D_TuttiCdc(int) {
   std::string testo;
   if (LeggiTipiCaso() == EsitoCasi::Letti)
     for (int i = 1; i <= collegamento.NumCasiStr; ++i)
@@ -39,7 +37,7 @@ void Soll3D_TuttiCdc(int) {
   ImpostaTesto(soll3D.CdCTxt, testo.empty() ? NESSUNO : testo);
 }
 
-void Soll3D_TuttiCdc2(int) {
+static void Soll3D_TuttiCdc2(int) {
   std::int32_t n = 0;
   if (!CondizioniStruttura(n)) {
     Messaggio("ERRORE: STRUTTUR.STR errato o mancante", TitoloProg, Icona::Nessuna);
@@ -50,7 +48,7 @@ void Soll3D_TuttiCdc2(int) {
   ImpostaTesto(soll3D.CdC2Txt, testo);
 }
 
-void Soll3D_Cerca(int i) {
+static void Soll3D_Cerca(int i) {
   if (i == 0) {
     selezione.nodi = &soll3D.NodiTxt;
     selezione.aste = &soll3D.AsteTxt;
@@ -63,7 +61,7 @@ void Soll3D_Cerca(int i) {
 }
 
 // The five lists, in the order in which the first invalid one ends the command.
-bool LeggiElenchi(bool& troppi) {
+static bool LeggiElenchi(bool& troppi) {
   Collegamento& c = collegamento;
   const struct {
     const Controllo& campo;
@@ -80,7 +78,7 @@ bool LeggiElenchi(bool& troppi) {
   return true;
 }
 
-void ImportaERaccogli() {
+static void ImportaERaccogli() {
   ImportaSollecitazioni(insDati.CheckMaxMin.scelta == 1);
   AggiornaRighe();
   const int prima = nodo.NumSoll;
@@ -89,7 +87,7 @@ void ImportaERaccogli() {
                      std::to_string(prima - nodo.NumSoll));
 }
 
-void Soll3D_Importa(int) {
+static void Soll3D_Importa(int) {
   bool troppi = false;
   piattaforma.attesa(true);
   if (LeggiElenchi(troppi) && NodiAste()) {
@@ -99,23 +97,23 @@ void Soll3D_Importa(int) {
   piattaforma.attesa(false);
 }
 
-void Soll3D_Chiudi(int) {
+static void Soll3D_Chiudi(int) {
   AggiornaTitoloSoll();
   if (selezione.aperto) piattaforma.chiudi(Selezione);
   piattaforma.chiudi(Soll3D);
 }
 
-const char* SuggerimentoTuttiCdc(int) {
+static const char* SuggerimentoTuttiCdc(int) {
   return soll3D.caricatoInTA ? "Seleziona tutti i casi di carico per la verifica alle T.A."
                              : "Seleziona tutti i casi di carico per la verifica agli S.L.U.";
 }
 
-void Carica() { soll3D.caricatoInTA = nodo.TipoVer == 0; }
+static void Carica() { soll3D.caricatoInTA = nodo.TipoVer == 0; }
 
 constexpr const char* SUGG_ANNULLA[] = {"Annulla i nodi inseriti", "Annulla le aste inserite"};
 constexpr const char* SUGG_CERCA[] = {"Cerca le aste corrispondenti ai nodi inseriti", "Cerca i nodi di riferimento"};
 
-constexpr StatoSoll3D& P = soll3D;
+static constexpr StatoSoll3D& P = soll3D;
 constexpr Genere CAMPO = Genere::Campo, ETICHETTA = Genere::Etichetta, COMANDO = Genere::Comando;
 
 constexpr RigaPannello RIGHE[] = {
@@ -143,8 +141,6 @@ constexpr RigaPannello RIGHE[] = {
   Riga("Importa",   COMANDO, P.Importa,   "", "Importa", "Importa le sollecitazioni nel pannello principale", Soll3D_Importa),
   Riga("Chiudi",    COMANDO, P.Chiudi,    "", "Chiudi",  "Chiude la finestra", Soll3D_Chiudi),
 };
-
-}  // namespace
 
 const Pannello Soll3D = {"Soll3D", RIGHE, true, &soll3D.titolo, Carica, nullptr, nullptr, &soll3D.aperto, &soll3D.caricato};
 

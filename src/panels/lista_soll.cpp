@@ -20,12 +20,15 @@ constexpr int NumRighe = 5;
 constexpr int ScrollMin = 3;               // value of the bar at which the rows show groups 1 to 5
 constexpr double TOLL_SOLL = 0.0001;       // stored units: components nearer than this are equal
 
+namespace {
 // The six components in the order of the list: where each is stored, its column on the panel, its factor.
 struct Componente {
   double (Nodo::*valori)[MaxSoll + 1];
   Controllo (StatoInsDati::*campi)[NumRighe];
   double Suite::*fattore;
 };
+}  // namespace
+
 static constexpr Componente COMPONENTI[] = {
     {&Nodo::SollN, &StatoInsDati::TxtSN, &Suite::FattForze},
     {&Nodo::SollTy, &StatoInsDati::TxtTy, &Suite::FattForze},
@@ -271,6 +274,7 @@ void RimuoviDoppi() {
 
 // ---- maxima and minima ----
 
+namespace {
 struct Estremo {
   double v[NumComp] = {};
   int gruppo = 0;
@@ -280,6 +284,7 @@ struct EstremiClasse {
   int quanti = 0;                            // groups of the class
   Estremo massimo[NumComp], minimo[NumComp]; // by component
 };
+}  // namespace
 
 static Estremo GruppoCome(int n) {
   Estremo e;

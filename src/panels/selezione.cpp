@@ -11,12 +11,10 @@
 #include "model/stato.h"
 #include "panels/righe.h"
 
-namespace {
-
 constexpr int RITARDO_TIP = 800;             // ms of rest before the tip shows
 
 // Entry 1 "Selezione" switches its frame on.
-void AbilitaCornici() {
+static void AbilitaCornici() {
   const struct {
     const Controllo& scelta;
     Controllo& cornice;
@@ -24,9 +22,9 @@ void AbilitaCornici() {
   for (const auto& c : COPPIE) MostraAbilitato(c.cornice, c.scelta.scelta == 1);
 }
 
-void Selezione_Op(int) { AbilitaCornici(); }
+static void Selezione_Op(int) { AbilitaCornici(); }
 
-std::int16_t Limite(const Controllo& campo) {
+static std::int16_t Limite(const Controllo& campo) {
   double v = 0;
   std::int16_t n = 0;
   Val(campo.testo, v);
@@ -34,7 +32,7 @@ std::int16_t Limite(const Controllo& campo) {
   return n;
 }
 
-FiltroAste FiltroDalPannello() {
+static FiltroAste FiltroDalPannello() {
   FiltroAste f;
   for (int i = 0; i < NumColori; ++i) f.colori[i] = selezione.ColoriOp[0].scelta == 1 || selezione.ColoriCh[i].scelta == 1;
   for (int i = 0; i < NumLineeSel; ++i) f.linee[i] = selezione.LineeOp[0].scelta == 1 || selezione.LineeCh[i].scelta == 1;
@@ -43,7 +41,7 @@ FiltroAste FiltroDalPannello() {
   return f;
 }
 
-std::string AsteDeiNodi() {
+static std::string AsteDeiNodi() {
   bool troppi = false;
   std::string lista;
   if (selezione.nodi == nullptr || !LeggiLista(selezione.nodi->testo, nodo.NodiStr, MaxNodiStr, nodo.NumNodiStr, troppi)) return lista;
@@ -51,7 +49,7 @@ std::string AsteDeiNodi() {
   return lista;
 }
 
-void Selezione_Cerca(int) {
+static void Selezione_Cerca(int) {
   piattaforma.attesa(true);
   std::string lista = AsteDeiNodi();
   if (!lista.empty()) {
@@ -62,11 +60,11 @@ void Selezione_Cerca(int) {
   piattaforma.chiudi(Selezione);
 }
 
-void Selezione_Chiudi(int) { piattaforma.chiudi(Selezione); }
+static void Selezione_Chiudi(int) { piattaforma.chiudi(Selezione); }
 
-void MostraSuggerimento() { MostraTesto(selezione.HLabSel, selezione.suggerimento); }
+static void MostraSuggerimento() { MostraTesto(selezione.HLabSel, selezione.suggerimento); }
 
-void Passa(const char* testo) {
+static void Passa(const char* testo) {
   selezione.suggerimento = testo;
   if (selezione.suggerimento.empty()) {
     MostraTesto(selezione.HLabSel, "");
@@ -76,7 +74,7 @@ void Passa(const char* testo) {
   piattaforma.timer(Temporizzatore::Selezione, RITARDO_TIP, MostraSuggerimento);
 }
 
-void Carica() {
+static void Carica() {
   for (Controllo* primo : {selezione.ColoriOp, selezione.LineeOp, selezione.NomiOp}) SelezionaVoce(*primo, 0);
 }
 
@@ -90,7 +88,7 @@ constexpr const char* SUGG_NOMI[] = {"Cliccare per selezionare le aste con qualu
                                      "Cliccare per selezionare le aste con il nome compreso in un'intervallo"};
 constexpr const char* SUGG_LIMITI[] = {"Inserire il limite minimo dell'intervallo", "Inserire il limite massimo dell'intervallo"};
 
-constexpr StatoSelezione& P = selezione;
+static constexpr StatoSelezione& P = selezione;
 constexpr Genere CORNICE = Genere::Cornice, SCELTA = Genere::Scelta, SPUNTA = Genere::Spunta, ETICHETTA = Genere::Etichetta;
 
 constexpr RigaPannello RIGHE[] = {
@@ -109,7 +107,5 @@ constexpr RigaPannello RIGHE[] = {
   Riga("Chiudi",    Genere::Comando, P.Chiudi, "", "Chiudi", "Cliccare per chiudere la finestra", Selezione_Chiudi),
   Riga("HLabSel",   ETICHETTA, P.HLabSel, "", ""),
 };
-
-}  // namespace
 
 const Pannello Selezione = {"selezione", RIGHE, true, &selezione.titolo, Carica, nullptr, Passa, &selezione.aperto, &selezione.caricato};

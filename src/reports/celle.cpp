@@ -10,15 +10,13 @@
 #include "core/testo.h"
 #include "model/stato.h"
 
-namespace {
-
 constexpr double POTENZE[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
 constexpr double QUINDICI_CIFRE = 1e15;
 constexpr int PRIMO_ESPONENTE = 4;         // below 1E-4 a number is written with an exponent
 constexpr int MinLarghezza = 1, MaxLarghezza = 255;
 
 // u / 10^decimali, trailing zeros of the decimals dropped.
-int ScriviDecimale(char* a, bool negativo, unsigned long long u, int decimali) {
+static int ScriviDecimale(char* a, bool negativo, unsigned long long u, int decimali) {
   while (decimali > 0 && u % 10 == 0) {
     u /= 10;
     --decimali;
@@ -45,13 +43,13 @@ int ScriviDecimale(char* a, bool negativo, unsigned long long u, int decimali) {
 }
 
 template <class Valore>
-void AggiungiNumero(std::string& t, Valore v) {
+static void AggiungiNumero(std::string& t, Valore v) {
   char a[MaxNumero];
   t.append(a, static_cast<std::size_t>(ScriviVoce(a, v)));
 }
 
 // caratteri: those of voce, which may have more bytes.
-void Incolonna(std::string& t, const char* voce, std::size_t byte, std::size_t caratteri, Cella c) {
+static void Incolonna(std::string& t, const char* voce, std::size_t byte, std::size_t caratteri, Cella c) {
   if (c.larghezza < MinLarghezza || c.larghezza > MaxLarghezza) {
     t.append(c.larghezza > 0 ? static_cast<std::size_t>(c.larghezza) : 0, '*');
     return;
@@ -71,13 +69,11 @@ void Incolonna(std::string& t, const char* voce, std::size_t byte, std::size_t c
 }
 
 template <class Valore>
-void IncolonnaNumero(std::string& t, Valore v, Cella c) {
+static void IncolonnaNumero(std::string& t, Valore v, Cella c) {
   char a[MaxNumero];
   const std::size_t n = static_cast<std::size_t>(ScriviVoce(a, v));
   Incolonna(t, a, n, n, c);
 }
-
-}  // namespace
 
 int ScriviVoce(char* a, double v) {
   if (!std::isfinite(v)) {

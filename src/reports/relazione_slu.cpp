@@ -11,11 +11,12 @@
 #include "reports/foglio.h"
 #include "core/nomi_file.h"
 
-namespace {
-
 constexpr const char* TITOLO_METODO = " - METODO DEGLI STATI LIMITE (NTC 2008)";
 
+namespace {
 struct Colonna { const char* titolo; Cella cella; };
+}  // namespace
+
 constexpr Cella VUOTO = L(1);              // a literal blank between two columns
 
 constexpr Colonna COL_PROFILI[] = {{"Tipo prof.", LB(20)}, {"h", RB(20)}, {"b", RB(5)}, {"a", RB(5)}, {"e", RB(5)}, {"r", RB(5)}};
@@ -56,7 +57,7 @@ constexpr const char* RIGHE_VER_PIASTRA[] = {"", "Verifica piastra"};
 constexpr const char* RIGHE_VER_NERVATURE[] = {"", "Verifica nervature"};
 constexpr const char* RIGHE_VER_CLS[] = {"", "Verifica pressione sul calcestruzzo"};
 
-bool RigaTitoli(Foglio& f, std::span<const Colonna> colonne) {
+static bool RigaTitoli(Foglio& f, std::span<const Colonna> colonne) {
   const std::size_t inizio = f.file.testo.size();
   for (const Colonna& c : colonne) AggiungiCella(f.file.testo, c.titolo, c.cella);
   return FineRiga(f, inizio);
@@ -64,17 +65,17 @@ bool RigaTitoli(Foglio& f, std::span<const Colonna> colonne) {
 
 // Several values in cells of one form.
 template <class... Valore>
-void Celle(std::string& t, Cella c, const Valore&... v) { (AggiungiCella(t, v, c), ...); }
+static void Celle(std::string& t, Cella c, const Valore&... v) { (AggiungiCella(t, v, c), ...); }
 
 // The verdict's cell, which ends the line.
-bool RigaVerdetto(Foglio& f, std::size_t inizio, bool passa) {
+static bool RigaVerdetto(Foglio& f, std::size_t inizio, bool passa) {
   AggiungiCella(f.file.testo, passa ? "SI'" : "NO", RB(3));
   return FineRiga(f, inizio);
 }
 
 // ---- head
 
-bool ScriviProfili(Foglio& f) {
+static bool ScriviProfili(Foglio& f) {
   const Nodo& nodo = *f.l.nodo;
   if (!Riga(f, TitoloNodi(), TITOLO_METODO) || !Riga(f) ||
       !Riga(f, "UNITA' DI MISURA: [", suite.UnitaForze, "] ; [", suite.UnitaMomenti, "] ; [", suite.UnitaTensioni, "] ; [mm]") ||
@@ -89,7 +90,7 @@ bool ScriviProfili(Foglio& f) {
   return FineRiga(f, inizio);
 }
 
-bool RigaPiastra(Foglio& f, const char* nome, double lungo, double h, double s) {
+static bool RigaPiastra(Foglio& f, const char* nome, double lungo, double h, double s) {
   const std::size_t inizio = f.file.testo.size();
   AggiungiCella(f.file.testo, nome, LB(5));
   Celle(f.file.testo, RB(5), R1(lungo), R1(h), R1(s));
@@ -97,7 +98,7 @@ bool RigaPiastra(Foglio& f, const char* nome, double lungo, double h, double s) 
 }
 
 // The ribs' rows are written whatever TipoNodo, also for a joint without ribs.
-bool ScriviPiastre(Foglio& f) {
+static bool ScriviPiastre(Foglio& f) {
   const Nodo& nodo = *f.l.nodo;
   return Righe(f, RIGHE_PIASTRE) && RigaTitoli(f, COL_PIASTRE) &&
          RigaPiastra(f, "1", nodo.LatoZ, nodo.LatoY, nodo.SpessPiastra) &&
@@ -105,7 +106,7 @@ bool ScriviPiastre(Foglio& f) {
          RigaPiastra(f, "3(Z)", (nodo.LatoZ - nodo.Sezione.B) / 2 - nodo.SpNerv, nodo.HNerv, nodo.SpNerv);
 }
 
-void CelleTirafondo(std::string& t, const Nodo& nodo, int i, Cella numero) {
+static void CelleTirafondo(std::string& t, const Nodo& nodo, int i, Cella numero) {
   AggiungiCella(t, i, numero);
   AggiungiCella(t, R1(nodo.LatoZ - nodo.TfZ[i]), RB(3));
   AggiungiCella(t, R1(nodo.TfY[i]), RB(5));
@@ -113,7 +114,7 @@ void CelleTirafondo(std::string& t, const Nodo& nodo, int i, Cella numero) {
   AggiungiCella(t, R2(AreaResistente(suite, nodo.TfFi)), RB(7));
 }
 
-bool ScriviTirafondi(Foglio& f) {
+static bool ScriviTirafondi(Foglio& f) {
   const Nodo& nodo = *f.l.nodo;
   if (!Righe(f, RIGHE_TIRAFONDI) || !Riga(f, "Tirafondi (n° ", nodo.NTir, ")") || !RigaTitoli(f, COL_TIRAFONDI)) return false;
   std::string& t = f.file.testo;
@@ -133,14 +134,14 @@ bool ScriviTirafondi(Foglio& f) {
   return FineRiga(f, inizio);
 }
 
-void CelleSaldatura(std::string& t, const Lavoro& l, int w) {
+static void CelleSaldatura(std::string& t, const Lavoro& l, int w) {
   AggiungiCella(t, l.ris.Saldature[w].Nome, LB(5));
   AggiungiCella(t, R1(l.ris.Saldature[w].Lung), RB(7));
   AggiungiCella(t, R1(l.nodo->Gola), RB(4));
 }
 
 // One of a pair: a weld that is not made shows its name and dashes.
-void CelleSaldaturaInCoppia(std::string& t, const Lavoro& l, int w) {
+static void CelleSaldaturaInCoppia(std::string& t, const Lavoro& l, int w) {
   if (!SaldaturaInterna(w) || l.nodo->SaldInt != 0) return CelleSaldatura(t, l, w);
   AggiungiCella(t, w == 9 ? "S9" : "S19", LB(5));
   AggiungiCella(t, "-", RB(7));
@@ -148,7 +149,7 @@ void CelleSaldaturaInCoppia(std::string& t, const Lavoro& l, int w) {
 }
 
 // An odd count leaves the last weld alone, with its own values in any case.
-bool ScriviSaldature(Foglio& f) {
+static bool ScriviSaldature(Foglio& f) {
   if (!Riga(f) || !Riga(f) || !Riga(f, "SALDATURE (n° ", f.l.NumSaldature, ")") || !RigaTitoli(f, COL_SALDATURE)) return false;
   std::string& t = f.file.testo;
   const int meta = f.l.NumSaldature / 2 + f.l.NumSaldature % 2;
@@ -166,7 +167,7 @@ bool ScriviSaldature(Foglio& f) {
   return true;
 }
 
-bool ScriviMateriali(Foglio& f) {
+static bool ScriviMateriali(Foglio& f) {
   const Nodo& nodo = *f.l.nodo;
   const MatAcciaio& acc = nodo.MatAcc;
   const MatCls& cls = nodo.MatCls;
@@ -188,14 +189,14 @@ bool ScriviMateriali(Foglio& f) {
   return FineRiga(f, inizio);
 }
 
-bool ScriviTestata(Foglio& f) {
+static bool ScriviTestata(Foglio& f) {
   return ScriviProfili(f) && ScriviPiastre(f) && ScriviTirafondi(f) && ScriviSaldature(f) && ScriviMateriali(f) && Righe(f, RIGHE_STATO);
 }
 
 // ---- one sextet
 
 // Three components "nome: valore", one cell each.
-bool RigaSollecitazioni(Foglio& f, const char* const (&nomi)[3], const double (&valori)[3]) {
+static bool RigaSollecitazioni(Foglio& f, const char* const (&nomi)[3], const double (&valori)[3]) {
   const std::size_t inizio = f.file.testo.size();
   for (int n = 0; n < 3; ++n) {
     const std::string_view nome = nomi[n];
@@ -207,7 +208,7 @@ bool RigaSollecitazioni(Foglio& f, const char* const (&nomi)[3], const double (&
   return FineRiga(f, inizio);
 }
 
-bool ScriviSestetto(Foglio& f, int s) {
+static bool ScriviSestetto(Foglio& f, int s) {
   const Nodo& nodo = *f.l.nodo;
   const double F = suite.FattForze, M = suite.FattMomenti;
   return TitoloCombinazione(f, s) &&
@@ -215,7 +216,7 @@ bool ScriviSestetto(Foglio& f, int s) {
          RigaSollecitazioni(f, {"Mt: ", "My: ", "Mz: "}, {M * nodo.SollMt[s], M * nodo.SollMy[s], M * nodo.SollMz[s]});
 }
 
-bool RigaTirafondo(Foglio& f, int s, int i) {
+static bool RigaTirafondo(Foglio& f, int s, int i) {
   const Risultati& ris = f.l.ris;
   const std::size_t k = static_cast<std::size_t>(i - 1);
   const RigaControllo &co1 = RigheCriterio(f.l, s, SLU_TIR_CO1)[k], &co2 = RigheCriterio(f.l, s, SLU_TIR_CO2)[k],
@@ -228,14 +229,14 @@ bool RigaTirafondo(Foglio& f, int s, int i) {
   return RigaVerdetto(f, inizio, co1.passa && co2.passa && co3.passa);
 }
 
-bool BloccoTirafondi(Foglio& f, int s) {
+static bool BloccoTirafondi(Foglio& f, int s) {
   if (!Righe(f, RIGHE_VER_TIRAFONDI) || !RigaTitoli(f, COL_VER_TIRAFONDI)) return false;
   for (int i = 1; i <= f.l.nodo->NTir; ++i)
     if (!RigaTirafondo(f, s, i)) return false;
   return true;
 }
 
-bool RigaSaldatura(Foglio& f, int s, const RigaControllo& eq1, const RigaControllo& eq2) {
+static bool RigaSaldatura(Foglio& f, int s, const RigaControllo& eq1, const RigaControllo& eq2) {
   double a = 0, b = 0, d = 0;
   MaxTensioniSaldatura(f.l, a, b, d, eq1.elemento, s);
   std::string& t = f.file.testo;
@@ -247,7 +248,7 @@ bool RigaSaldatura(Foglio& f, int s, const RigaControllo& eq1, const RigaControl
 }
 
 // A weld without length was never made and has no row.
-bool BloccoSaldature(Foglio& f, int s) {
+static bool BloccoSaldature(Foglio& f, int s) {
   if (!Righe(f, RIGHE_VER_SALDATURE) || !RigaTitoli(f, COL_VER_SALDATURE)) return false;
   const std::span<const RigaControllo> eq1 = RigheCriterio(f.l, s, SLU_SALD_1), eq2 = RigheCriterio(f.l, s, SLU_SALD_2);
   for (std::size_t k = 0; k < eq1.size(); ++k)
@@ -255,46 +256,44 @@ bool BloccoSaldature(Foglio& f, int s) {
   return true;
 }
 
-bool RigaValoreLimite(Foglio& f, std::size_t inizio, double valore, const RigaControllo& r) {
+static bool RigaValoreLimite(Foglio& f, std::size_t inizio, double valore, const RigaControllo& r) {
   Celle(f.file.testo, RB(7), RD(valore), RD(r.limite));
   return RigaVerdetto(f, inizio, r.passa);
 }
 
-bool BloccoPiastra(Foglio& f, int s) {
+static bool BloccoPiastra(Foglio& f, int s) {
   if (!Righe(f, RIGHE_VER_PIASTRA) || !RigaTitoli(f, COL_VER_PIASTRA)) return false;
   return RigaValoreLimite(f, f.file.testo.size(), f.l.ris.SMaxPiastra[s] * MM2_SU_CM2, RigheCriterio(f.l, s, SLU_PIASTRA)[0]);
 }
 
-bool RigaNervatura(Foglio& f, int s, const char* nome, const int (&posizioni)[4], int criterio) {
+static bool RigaNervatura(Foglio& f, int s, const char* nome, const int (&posizioni)[4], int criterio) {
   const std::size_t inizio = f.file.testo.size();
   AggiungiCella(f.file.testo, nome, LB(9));
   return RigaValoreLimite(f, inizio, SMaxNervatura(f.l.ris, s, posizioni) * MM2_SU_CM2, RigheCriterio(f.l, s, criterio)[0]);
 }
 
-bool BloccoNervature(Foglio& f, int s) {
+static bool BloccoNervature(Foglio& f, int s) {
   if (f.l.nodo->TipoNodo != 2) return true;
   return Righe(f, RIGHE_VER_NERVATURE) && RigaTitoli(f, COL_VER_NERVATURE) && RigaNervatura(f, s, "Z", POSIZIONI_Z, SLU_NERV_Z) &&
          RigaNervatura(f, s, "Y", POSIZIONI_Y, SLU_NERV_Y);
 }
 
-bool BloccoCls(Foglio& f, int s) {
+static bool BloccoCls(Foglio& f, int s) {
   if (!Righe(f, RIGHE_VER_CLS) || !RigaTitoli(f, COL_VER_CLS)) return false;
   return RigaValoreLimite(f, f.file.testo.size(), f.l.ris.SMaxCls[s] * MM2_SU_CM2, RigheCriterio(f.l, s, SLU_CLS)[0]);
 }
 
-bool ScriviBlocco(Foglio& f, int s) {
+static bool ScriviBlocco(Foglio& f, int s) {
   return ScriviSestetto(f, s) && BloccoTirafondi(f, s) && BloccoSaldature(f, s) && BloccoPiastra(f, s) && BloccoNervature(f, s) &&
          BloccoCls(f, s) && EsitoCombinazione(f, s);
 }
 
-bool ScriviTutto(Foglio& f) {
+static bool ScriviTutto(Foglio& f) {
   if (!ScriviTestata(f)) return false;
   for (int s = 1; s <= f.l.nodo->NumSoll; ++s)
     if (!ScriviBlocco(f, s)) return false;
   return true;
 }
-
-}  // namespace
 
 bool RelazioneSLU(const Lavoro& l) {
   Foglio f{l, {}, {}};

@@ -9,8 +9,6 @@
 #include "reports/foglio.h"
 #include "core/nomi_file.h"
 
-namespace {
-
 constexpr const char* TITOLO_METODO = " - METODO DELLE TENSIONI AMMISSIBILI (CNR 10011/88)";
 
 constexpr const char* RIGHE_PROFILI[] = {"", "GEOMETRIA NODO", "", "\tProfili utilizzati", "\tTipo prof.\th\tb\ta\te\tr"};
@@ -23,13 +21,13 @@ constexpr const char* RIGHE_STATO[] = {"", "", "SOLLECITAZIONI AGENTI E STATO TE
 constexpr const char* RIGHE_LIMITI[] = {"", "\tTirafondi", "\t\tS_adm tf\tT_adm tf\tTiro max tf\tS_rf_adm p"};
 constexpr const char* RIGHE_BLOCCO_SALDATURE[] = {"", "\tSaldature", "\tNome\tS_prp\tTau_pa\tTau_pe\t% su adm"};
 
-bool ScriviUnita(Foglio& f) {
+static bool ScriviUnita(Foglio& f) {
   return Riga(f, TitoloNodi(), TITOLO_METODO) && Riga(f) && Riga(f, "UNITA' DI MISURA:") &&
          Riga(f, "FORZE:\t\t", suite.UnitaForze) && Riga(f, "MOMENTI:\t", suite.UnitaMomenti) &&
          Riga(f, "TENSIONI:\t", suite.UnitaTensioni) && Riga(f, "DIMENSIONI:\tmm");
 }
 
-bool ScriviGeometria(Foglio& f) {
+static bool ScriviGeometria(Foglio& f) {
   const Nodo& nodo = *f.l.nodo;
   const Sezione& z = nodo.Sezione;
   return Righe(f, RIGHE_PROFILI) &&
@@ -37,7 +35,7 @@ bool ScriviGeometria(Foglio& f) {
          Righe(f, RIGHE_PIASTRE) && Riga(f, "\t1\t", nodo.LatoZ, "\t", nodo.LatoY, "\t", nodo.SpessPiastra);
 }
 
-bool ScriviTirafondi(Foglio& f) {
+static bool ScriviTirafondi(Foglio& f) {
   const Nodo& nodo = *f.l.nodo;
   if (!Righe(f, RIGHE_TIRAFONDI) || !Riga(f, "\tTirafondi num.: ", nodo.NTir) || !Riga(f, "\tNum.\tZ\tY\tFi\tArea")) return false;
   for (int i = 1; i <= nodo.NTir; ++i)
@@ -47,13 +45,13 @@ bool ScriviTirafondi(Foglio& f) {
 }
 
 // Written whatever TipoNodo, also for a joint without ribs.
-bool ScriviNervature(Foglio& f) {
+static bool ScriviNervature(Foglio& f) {
   const Nodo& nodo = *f.l.nodo;
   return Righe(f, RIGHE_NERVATURE) && Riga(f, "\tY\t", nodo.LatoY, "\t", nodo.HNerv, "\t", nodo.SpNerv) &&
          Riga(f, "\tZ\t", (nodo.LatoZ - nodo.Sezione.B) / 2 - nodo.SpNerv, "\t", nodo.HNerv, "\t", nodo.SpNerv);
 }
 
-bool ScriviSaldature(Foglio& f) {
+static bool ScriviSaldature(Foglio& f) {
   const Nodo& nodo = *f.l.nodo;
   if (!Righe(f, RIGHE_SALDATURE) || !Riga(f, "\tNum. saldature: ", f.l.NumSaldature) || !Riga(f, "\tNome\tLungh.\tLato")) return false;
   for (int w = 1; w <= f.l.NumSaldature; ++w)
@@ -61,7 +59,7 @@ bool ScriviSaldature(Foglio& f) {
   return true;
 }
 
-bool ScriviMateriali(Foglio& f) {
+static bool ScriviMateriali(Foglio& f) {
   const Nodo& nodo = *f.l.nodo;
   const MatAcciaio &acc = nodo.MatAcc, &tir = nodo.MatTir;
   return Righe(f, RIGHE_MATERIALI) && Riga(f, "\t\t\tAcciaio ", acc.Nome, ", S_adm\t\tCls ", nodo.MatCls.Nome) &&
@@ -73,12 +71,12 @@ bool ScriviMateriali(Foglio& f) {
          Riga(f, "\tComb. car. II\t", RD(tir.Fyk / 1.5 * CLASSE_II / 1.33));
 }
 
-bool ScriviTestata(Foglio& f) {
+static bool ScriviTestata(Foglio& f) {
   return ScriviUnita(f) && ScriviGeometria(f) && ScriviTirafondi(f) && ScriviNervature(f) && ScriviSaldature(f) &&
          ScriviMateriali(f) && Righe(f, RIGHE_STATO);
 }
 
-bool ScriviSestetto(Foglio& f, int s) {
+static bool ScriviSestetto(Foglio& f, int s) {
   const Nodo& nodo = *f.l.nodo;
   const double F = suite.FattForze, M = suite.FattMomenti;
   return TitoloCombinazione(f, s) &&
@@ -87,7 +85,7 @@ bool ScriviSestetto(Foglio& f, int s) {
          Riga(f, "Combinazione di carico tipo ", nodo.SollCC[s] == 0 ? "I" : "II");
 }
 
-bool RigaTirafondo(Foglio& f, int s, int i) {
+static bool RigaTirafondo(Foglio& f, int s, int i) {
   const Risultati& ris = f.l.ris;
   const RigaControllo& coeff = RigheCriterio(f.l, s, TA_TIR_COEFF)[static_cast<std::size_t>(i - 1)];
   return Riga(f, "\t", i, "\t", RD(ris.SigmaTir[s][i] * MM2_SU_CM2), "\t\t", RD(ris.TauTir[s][i] * MM2_SU_CM2), "\t", coeff.domanda, "\t",
@@ -95,7 +93,7 @@ bool RigaTirafondo(Foglio& f, int s, int i) {
 }
 
 // The limits' line shows a force, the bond, rounded to the decimals of stresses: in kN at fewer decimals than other forces.
-bool BloccoTirafondi(Foglio& f, int s) {
+static bool BloccoTirafondi(Foglio& f, int s) {
   const LimitiTA& l = f.l.limitiTA[s];
   const Arrotondato tiro = {l.TadRd * suite.FattForze, suite.DecTensioni};
   if (!Righe(f, RIGHE_LIMITI) ||
@@ -108,55 +106,53 @@ bool BloccoTirafondi(Foglio& f, int s) {
 }
 
 // The stresses of the end that gives the ratio; "% su adm" shows the ratio itself.
-bool RigaSaldatura(Foglio& f, int s, const RigaControllo& r) {
+static bool RigaSaldatura(Foglio& f, int s, const RigaControllo& r) {
   const Saldatura& d = f.l.ris.Saldature[r.elemento];
   const int k = d.Estremo[s];
   return Riga(f, "\t", d.Nome, "\t", RD(d.SPrp[s][k] * MM2_SU_CM2), "\t", RD(d.TauPa[s][k] * MM2_SU_CM2), "\t",
               RD(d.TauPe[s][k] * MM2_SU_CM2), "\t", Arrotonda2(r.domanda));
 }
 
-bool BloccoSaldature(Foglio& f, int s) {
+static bool BloccoSaldature(Foglio& f, int s) {
   if (!Righe(f, RIGHE_BLOCCO_SALDATURE)) return false;
   for (const RigaControllo& r : RigheCriterio(f.l, s, TA_SALD))
     if (!RigaSaldatura(f, s, r)) return false;
   return true;
 }
 
-bool RigaValoreLimite(Foglio& f, double valore, const RigaControllo& r) { return Riga(f, "\t\t", RD(valore), "\t\t", RD(r.limite)); }
+static bool RigaValoreLimite(Foglio& f, double valore, const RigaControllo& r) { return Riga(f, "\t\t", RD(valore), "\t\t", RD(r.limite)); }
 
-bool BloccoPiastra(Foglio& f, int s) {
+static bool BloccoPiastra(Foglio& f, int s) {
   return Riga(f) && Riga(f, "\tPiastra\tS_max\t\tS_adm") &&
          RigaValoreLimite(f, f.l.ris.SMaxPiastra[s] * MM2_SU_CM2, RigheCriterio(f.l, s, TA_PIASTRA)[0]);
 }
 
-bool RigaNervatura(Foglio& f, int s, const char* nome, const int (&posizioni)[4], int criterio) {
+static bool RigaNervatura(Foglio& f, int s, const char* nome, const int (&posizioni)[4], int criterio) {
   return Riga(f, "\t", nome, "\t", RD(SMaxNervatura(f.l.ris, s, posizioni) * MM2_SU_CM2), "\t\t", RD(RigheCriterio(f.l, s, criterio)[0].limite));
 }
 
-bool BloccoNervature(Foglio& f, int s) {
+static bool BloccoNervature(Foglio& f, int s) {
   if (f.l.nodo->TipoNodo != 2) return true;
   return Riga(f) && Riga(f, "\tFazz.\tS_id max\tS_adm") && RigaNervatura(f, s, "Z", POSIZIONI_Z, TA_NERV_Z) &&
          RigaNervatura(f, s, "Y", POSIZIONI_Y, TA_NERV_Y);
 }
 
-bool BloccoPlinto(Foglio& f, int s) {
+static bool BloccoPlinto(Foglio& f, int s) {
   return Riga(f) && Riga(f, "\tPlinto\tS_max\t\tS_adm") &&
          RigaValoreLimite(f, f.l.ris.SMaxCls[s] * MM2_SU_CM2, RigheCriterio(f.l, s, TA_CLS)[0]);
 }
 
-bool ScriviBlocco(Foglio& f, int s) {
+static bool ScriviBlocco(Foglio& f, int s) {
   return ScriviSestetto(f, s) && BloccoTirafondi(f, s) && BloccoSaldature(f, s) && BloccoPiastra(f, s) && BloccoNervature(f, s) &&
          BloccoPlinto(f, s) && EsitoCombinazione(f, s);
 }
 
-bool ScriviTutto(Foglio& f) {
+static bool ScriviTutto(Foglio& f) {
   if (!ScriviTestata(f) || !Riga(f, "\t", f.l.CoeffRifollamento)) return false;
   for (int s = 1; s <= f.l.nodo->NumSoll; ++s)
     if (!ScriviBlocco(f, s)) return false;
   return true;
 }
-
-}  // namespace
 
 bool RelazioneTA(const Lavoro& l) {
   Foglio f{l, {}, {}};

@@ -10,6 +10,7 @@
 #include "model/regole_nodo.h"
 #include "results/governanti.h"
 
+namespace {
 struct Contesto {
   const Nodo& nodo;
   int metodo;
@@ -17,6 +18,7 @@ struct Contesto {
   const GradiFile& gradi;
   const Lavoro* giudicato;
 };
+}  // namespace
 
 static bool ConSestetti(const Contesto& c) { return c.nodo.NumSoll > 0; }
 
@@ -104,10 +106,13 @@ static void RigheAlLimite(const Contesto& c, std::vector<std::string>& t) {
     t.push_back("Controlli al limite: " + std::to_string(n) + ". L'esito si capovolge se la domanda cambia di un milionesimo.");
 }
 
+namespace {
 struct Voce {
   const char* id;
   void (*testi)(const Contesto&, std::vector<std::string>&);
 };
+}  // namespace
+
 static constexpr Voce AVVISI[] = {
   { "senza_sestetti", SenzaSestetti },     { "cls_ta", ClsTA },         { "uncino_ta", UncinoTA }, { "grado_diverso", GradoDiverso },
   { "oltre_40", SpessoreOltre40 },         { "tirafondo_fuori", TirafondoFuori }, { "diametro", Diametro },

@@ -8,7 +8,10 @@
 constexpr double SCARTO_LIMITE = 1e-6;
 constexpr double SCARTO_ARROTONDA = 0.1;         // farther from its limit no rounding of a check brings a demand across
 
+namespace {
 struct Unita { const char* nome; double fattore; };
+}  // namespace
+
 static constexpr Unita UNITA[] = {{"N/mm2", NMM2_DI_DANCM2}, {"kN", KN_DI_DAN}, {"-", 1}};     // by Grandezza
 
 std::string_view UnitaRiga(Grandezza g) { return UNITA[static_cast<int>(g)].nome; }
@@ -42,11 +45,13 @@ static double Peso(const RigaControllo& r, const Criterio& c) {
   return c.quadrato ? std::sqrt(rapporto) : rapporto;
 }
 
+namespace {
 struct Capofila {
   std::size_t riga = NESSUNA_RIGA;
   bool passa = true;
   double peso = 0;
 };
+}  // namespace
 
 // Rows come in the order of the ties, so that only a heavier one takes the place.
 static void Candida(Capofila& c, std::size_t k, bool passa, double peso) {

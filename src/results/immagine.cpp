@@ -20,11 +20,13 @@ constexpr double PRESSIONE_UNIFORME = 1e-9;      // relative spread of the press
 
 static double Pressione(const Lavoro& l, int s, PuntoPiano p) { return std::max(0.0, -PressioneNelPunto(l, s, p)); }
 
+namespace {
 struct Contorno {                  // the compressed part, with the pressure at its vertices
   int n = 0;
   std::array<PuntoScena, 8> v;
   std::array<double, 8> p;
 };
+}  // namespace
 
 static Contorno ContornoCompresso(const Lavoro& l, int s) {
   const PoligonoCompresso c = ParteCompressa(l, s);
@@ -84,7 +86,10 @@ std::vector<Isobara> Isobare(const Lavoro& l, int s) {
 
 constexpr const char* SCALA_PRESSIONI[FASCE_ISOBARE] = {"#fdf6d8", "#f3eab6", "#e3dfa0", "#cdd596", "#b1ca93", "#92bd96",
                                                         "#72ae9b", "#559d9f", "#408a9f", "#347599", "#2f5f8e", "#2c487d"};
+namespace {
 struct ColoreStato { double fino; const char* colore; double spessore; };
+}  // namespace
+
 constexpr ColoreStato STATI[] = {{0.5, "#0072b2", 1.5}, {0.8, "#56b4e9", 2.5}, {1, "#e69f00", 3.5}, {HUGE_VAL, "#d55e00", 5}};
 constexpr const char *INCHIOSTRO = "#222222", *GRIGIO = "#777777", *ACCIAIO = "#99a3ad", *BIANCO = "#ffffff";
 
@@ -145,10 +150,12 @@ static std::vector<PuntoScena> Rettangolo(double x1, double y1, double x2, doubl
 
 // ---- what a rod or a weld carries ----
 
+namespace {
 struct Carico {
   bool c_e = false, passa = true;
   double sfruttamento = 0;
 };
+}  // namespace
 
 static Carico CaricoDi(const Lavoro& l, int s, Elementi tipo, int e) {
   Carico c;
@@ -287,8 +294,10 @@ static Gruppo Pianta(const Lavoro& l, int s, const FattiSestetto& f) {
   return g;
 }
 
+namespace {
 // Labels keep apart: a rod's stands outward of it, away from the plate's centre, and moves on while it would cover another.
 struct Casella { double x1, y1, x2, y2; };
+}  // namespace
 
 static bool Copre(const Casella& a, const Casella& b) { return a.x1 < b.x2 && b.x1 < a.x2 && a.y1 < b.y2 && b.y1 < a.y2; }
 

@@ -46,10 +46,13 @@ static std::string RigaJsonl(std::string_view oggetto) {
 
 // ---- CSV ----
 
+namespace {
 struct FormaCsv {
   char separatore, decimale;
   std::string_view fine;
 };
+}  // namespace
+
 static constexpr FormaCsv CSV = {',', '.', "\n"}, CSV_IT = {';', ',', "\r\n"};
 
 static bool SembraFormula(std::string_view t) { return !t.empty() && std::string_view("=+-@\t\r").find(t.front()) != std::string_view::npos; }
@@ -147,8 +150,11 @@ std::string PiedeRiepilogo(FormatoRiepilogo f) { return f == FormatoRiepilogo::J
 
 // ---- an earlier output ----
 
+namespace {
 // The members that every object has, with their kinds: n null, t text, l list, o object.
 struct MembroAtteso { std::string_view nome; std::string_view generi; };
+}  // namespace
+
 static constexpr MembroAtteso MEMBRI[] = {
   { "schema", "t" },   { "programma", "o" },      { "percorso", "t" },       { "sha256", "nt" },   { "nome", "t" },       { "metodo", "nt" },
   { "stato", "t" },    { "motivo", "nt" },        { "opzioni", "o" },        { "suite_sha256", "nt" }, { "nodi_struttura", "l" }, { "ingresso", "no" },

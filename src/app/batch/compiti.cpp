@@ -11,12 +11,14 @@
 
 constexpr int STATO_MASSIMO = 2;           // of the program
 
+namespace {
 struct Andamento {
   std::size_t prossimo = 0;                // the next one to start
   std::size_t consegnati = 0;
   std::map<std::size_t, EsitoCompito> esiti;                 // ended, their turn not yet come
   std::vector<std::pair<std::size_t, std::string>> risorse;  // of those at work
 };
+}  // namespace
 
 static EsitoCompito EsitoDi(Figlio& f) {
   EsitoCompito e;

@@ -33,6 +33,7 @@ static std::string_view Parola(std::string_view& resto) {
   return p;
 }
 
+namespace {
 struct Bersaglio {                        // the control that an instruction names
   const Pannello* pannello = nullptr;
   const RigaPannello* riga = nullptr;
@@ -40,6 +41,7 @@ struct Bersaglio {                        // the control that an instruction nam
   bool intera = false;                    // an exclusive choice named without index: its first entry stands for all
   std::string nome;                       // as typed
 };
+}  // namespace
 
 static bool Trova(std::string_view nome, Bersaglio& b) {
   const std::size_t punto = nome.find('.');
@@ -250,10 +252,13 @@ static bool Modello(std::string_view resto) {
   return true;
 }
 
+namespace {
 struct Istruzione {
   std::string_view parola;
   bool (*esegui)(std::string_view resto);
 };
+}  // namespace
+
 static constexpr Istruzione ISTRUZIONI[] = {
   { "scrivi", Scrivi },     { "invio", Invio },     { "scegli", Scegli },     { "spunta", Spunta },
   { "premi", Premi },       { "doppioclic", DoppioClic }, { "scorri", Scorri }, { "passa", Passa },

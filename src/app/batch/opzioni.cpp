@@ -59,6 +59,7 @@ static bool NomeFile(Opzioni& o, std::string_view v) {
   return !v.empty();
 }
 
+namespace {
 struct RigaOpzione {
   std::string_view nome;                  // with its equals sign where a value follows
   const char* valori;
@@ -66,6 +67,8 @@ struct RigaOpzione {
   bool (*leggi)(Opzioni& o, std::string_view valore);
   bool comune;                            // of every verb
 };
+}  // namespace
+
 static constexpr RigaOpzione OPZIONI[] = {
   { "--metodo=",         "ta|slu",      "metodo di verifica, invece di quello del nodo (riepilogo: anche entrambi)", Metodo, true },
   { "--decimale=",       ".|,",         "segno decimale delle impostazioni locali (senza: quello del sistema)", Decimale, true },

@@ -24,6 +24,7 @@
 
 constexpr int ENTRAMBI[] = {MetodoTA, MetodoSLU};
 
+namespace {
 struct Incarico {                  // one node by one method
   std::string percorso;
   int metodo = -1;                 // -1: the file's own
@@ -43,6 +44,7 @@ struct CorsaRiepilogo {
   std::string ultimoErrore;
   int stato = 0;
 };
+}  // namespace
 
 // ---- what to do ----
 

@@ -158,10 +158,13 @@ void FinisciSeRichiesto() {
   std::_Exit(128 + segnale);               // the signal was blocked
 }
 
+namespace {
 struct NomeDiSegnale {
   int numero;
   const char* nome;
 };
+}  // namespace
+
 static constexpr NomeDiSegnale NOMI_SEGNALI[] = {
   { SIGHUP, "SIGHUP" },   { SIGINT, "SIGINT" },   { SIGQUIT, "SIGQUIT" }, { SIGILL, "SIGILL" },   { SIGTRAP, "SIGTRAP" },
   { SIGABRT, "SIGABRT" }, { SIGBUS, "SIGBUS" },   { SIGFPE, "SIGFPE" },   { SIGKILL, "SIGKILL" }, { SIGUSR1, "SIGUSR1" },

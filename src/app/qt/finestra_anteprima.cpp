@@ -78,6 +78,7 @@ struct Lavagna : QWidget {
 
 static bool SalvaFoglioSvg(const FoglioVisto&, const QString& file) { return EsportaDisegno(Utf8(file), 2, "SVG"); }
 
+namespace {
 struct FormatoAnteprima {
   const char* voce;
   const char* filtro;
@@ -85,6 +86,8 @@ struct FormatoAnteprima {
   const char* tasto;
   bool (*salva)(const FoglioVisto& f, const QString& file);
 };
+}  // namespace
+
 static constexpr FormatoAnteprima FORMATI_ANTEPRIMA[] = {
   { "PDF...", "Documento PDF|*.pdf", "pdf", "Ctrl+P", SalvaFoglioPdf },
   { "PNG...", "Immagine PNG|*.png", "png", "Ctrl+N", SalvaFoglioPng },

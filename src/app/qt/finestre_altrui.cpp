@@ -41,6 +41,7 @@ static Window Cerca(Display* d, Window w, const std::string& titolo) {
 // A window that goes while it is looked at is no reason to die.
 static int Tace(Display*, XErrorEvent*) { return 0; }
 
+namespace {
 struct Collegato {
   Display* d = XOpenDisplay(nullptr);
   int (*prima)(Display*, XErrorEvent*) = XSetErrorHandler(Tace);
@@ -52,6 +53,7 @@ struct Collegato {
   Collegato(const Collegato&) = delete;
   Collegato& operator=(const Collegato&) = delete;
 };
+}  // namespace
 
 // A window manager is asked to bring it in front; where there is none the focus is set.
 static bool GestoreDelleFinestre(Display* d) {

@@ -26,12 +26,14 @@
 
 // ---- one event of the user ----
 
+namespace {
 struct ComandoInCorso {                   // counted out also where it ends for lack of memory
   ComandoInCorso() { ++finestre.comandi; }
   ~ComandoInCorso() { --finestre.comandi; }
   ComandoInCorso(const ComandoInCorso&) = delete;
   ComandoInCorso& operator=(const ComandoInCorso&) = delete;
 };
+}  // namespace
 
 // Runs what an event does, if nothing runs on this panel and no other panel stands in front.
 template <class F>

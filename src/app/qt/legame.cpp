@@ -126,11 +126,14 @@ static void DipingiImmagine(Legame& l) { static_cast<Quadro*>(l.oggetto)->Mostra
 template <class T>
 static bool Di(const QWidget& w) { return dynamic_cast<const T*>(&w) != nullptr; }
 
+namespace {
 struct Classe {
   Genere genere;
   bool (*serve)(const QWidget& w);
   void (*dipingi)(Legame& l);
 };
+}  // namespace
+
 static constexpr Classe CLASSI[] = {
   { Genere::Cornice,   Di<QGroupBox>,       DipingiCornice },
   { Genere::Etichetta, Di<QLabel>,          DipingiEtichetta },

@@ -9,10 +9,13 @@
 #include <clocale>
 #include <cstring>
 
+namespace {
 struct Voce {
   const char* inglese;
   const char* italiano;
 };
+}  // namespace
+
 static constexpr Voce VOCI[] = {
   { "OK", "OK" },
   { "&OK", "&OK" },

@@ -37,10 +37,13 @@ static QWidget* Nuova() {
   return f;
 }
 
+namespace {
 struct RigaForma {
   const Pannello* pannello;
   QWidget* (*nuova)();
 };
+}  // namespace
+
 static constexpr RigaForma FORME[] = {
   { &InsDati,       Nuova<Ui::InsDati, QWidget> },
   { &FormTF,        Nuova<Ui::FormTF, QDialog> },

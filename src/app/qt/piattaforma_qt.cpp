@@ -28,7 +28,6 @@
 #include <utility>
 
 namespace {
-
 // An operation of the platform whose own arithmetic is not the program's: the flags are as before at its end.
 template <auto operazione>
 struct Riparata;
@@ -49,8 +48,9 @@ struct FrecciaNelRiquadro {
   FrecciaNelRiquadro(const FrecciaNelRiquadro&) = delete;
   FrecciaNelRiquadro& operator=(const FrecciaNelRiquadro&) = delete;
 };
+}  // namespace
 
-QMessageBox::Icon IconaRiquadro(Icona i) {
+static QMessageBox::Icon IconaRiquadro(Icona i) {
   switch (i) {
     case Icona::Critica: return QMessageBox::Critical;
     case Icona::Esclamazione: return QMessageBox::Warning;
@@ -60,7 +60,7 @@ QMessageBox::Icon IconaRiquadro(Icona i) {
   return QMessageBox::NoIcon;
 }
 
-bool MostraRiquadro(const std::string& testo, const std::string& titolo, Icona icona, bool conAnnulla) {
+static bool MostraRiquadro(const std::string& testo, const std::string& titolo, Icona icona, bool conAnnulla) {
   if (finestre.finita) return false;
   const FrecciaNelRiquadro freccia;
   QMessageBox box(FinestraDavanti());
@@ -76,19 +76,19 @@ bool MostraRiquadro(const std::string& testo, const std::string& titolo, Icona i
   return box.clickedButton() == ok;
 }
 
-void QtMessaggio(const std::string& testo, const std::string& titolo, Icona icona) {
+static void QtMessaggio(const std::string& testo, const std::string& titolo, Icona icona) {
   MostraRiquadro(testo, titolo, icona, false);
 }
 
-bool QtDomanda(const std::string& testo, const std::string& titolo, Icona icona) {
+static bool QtDomanda(const std::string& testo, const std::string& titolo, Icona icona) {
   return MostraRiquadro(testo, titolo, icona, true);
 }
 
 // ---- file dialogs ----
 
-bool HaCartella(const std::string& nome) { return nome.find_first_of("\\/") != std::string::npos; }
+static bool HaCartella(const std::string& nome) { return nome.find_first_of("\\/") != std::string::npos; }
 
-void PreparaNome(QFileDialog& d, const RichiestaFile& r) {
+static void PreparaNome(QFileDialog& d, const RichiestaFile& r) {
   if (!r.cartella.empty()) d.setDirectory(Testo(RisolviPercorso(r.cartella)));
   else if (!finestre.ultimaCartella.isEmpty()) d.setDirectory(finestre.ultimaCartella);
   if (r.nomeIniziale.empty()) return;
@@ -102,7 +102,7 @@ void PreparaNome(QFileDialog& d, const RichiestaFile& r) {
 }
 
 // The toolkit's own dialog: wide enough for name, size and date. The platform's has none of this.
-void Allarga(QFileDialog& d) {
+static void Allarga(QFileDialog& d) {
   auto* elenco = d.findChild<QTreeView*>("treeView");
   if (elenco == nullptr) return;
   d.resize(QSize(900, 480).boundedTo(d.screen()->availableSize() - QSize(40, 60)));
@@ -111,7 +111,7 @@ void Allarga(QFileDialog& d) {
   for (int k = 0; k < 4; ++k) elenco->header()->resizeSection(k, colonne[k]);
 }
 
-bool QtScegliFile(const RichiestaFile& r, std::string& percorso, int& filtro) {
+static bool QtScegliFile(const RichiestaFile& r, std::string& percorso, int& filtro) {
   if (finestre.finita) return false;
   const FrecciaNelRiquadro freccia;
   QFileDialog d(FinestraDavanti(), Testo(r.titolo));
@@ -130,7 +130,7 @@ bool QtScegliFile(const RichiestaFile& r, std::string& percorso, int& filtro) {
 
 // ---- timers, pointer, focus ----
 
-void QtTimer(Temporizzatore quale, int ms, void (*scaduto)()) {
+static void QtTimer(Temporizzatore quale, int ms, void (*scaduto)()) {
   static constexpr const char* NOMI[] = {"Timer1", "TimerSel"};
   const char* nome = NOMI[static_cast<int>(quale)];
   auto* t = qApp->findChild<QTimer*>(nome);
@@ -153,36 +153,34 @@ void QtTimer(Temporizzatore quale, int ms, void (*scaduto)()) {
   t->start(ms);
 }
 
-void QtAttesa(bool si) {
+static void QtAttesa(bool si) {
   const QCursor* ora = QApplication::overrideCursor();
   const bool acceso = ora != nullptr && ora->shape() == Qt::WaitCursor;
   if (si && !acceso) QApplication::setOverrideCursor(Qt::WaitCursor);
   if (!si && acceso) QApplication::restoreOverrideCursor();
 }
 
-void QtFuoco(Controllo& c) {
+static void QtFuoco(Controllo& c) {
   if (const Legame* l = LegameDi(c)) l->oggetto->setFocus(Qt::OtherFocusReason);
 }
 
-void QtAggiorna(Controllo& c) {
+static void QtAggiorna(Controllo& c) {
   if (&c == &insDati.Nodo)
     if (const Legame* l = LegameDi(c)) static_cast<Quadro*>(l->oggetto)->Campiture(CampitureNodo());
   Dipingi(c);
 }
 
 // The counts of an import stand on the panel that was used for it.
-void QtDiario(const std::string& riga) {
+static void QtDiario(const std::string& riga) {
   if (const FinestraPannello* f = FinestraDi(Soll3D))
     if (auto* esito = f->finestra->findChild<QLabel*>("_esito")) esito->setText(Testo(riga));
 }
 
 // The event loops of the modal panels end too; whoever called returns at once.
-void QtFine() {
+static void QtFine() {
   finestre.finita = true;
   QCoreApplication::exit(0);
 }
-
-}  // namespace
 
 QStringList FiltriDialogo(const std::string& filtro) {
   QStringList filtri;

@@ -8,11 +8,13 @@
 #include <algorithm>
 #include <cmath>
 
+namespace {
 struct FoglioPittura {
   QPainter& p;
   QTransform v;
   QColor linea, quota, ferro, piastra, rosso;
 };
+}  // namespace
 
 QTransform VistaSu(const QRectF& r, const QRectF& posto) {
   if (r.width() == 0 || r.height() == 0) return {};
@@ -252,11 +254,14 @@ static void Linea2(FoglioPittura& f) { Campione(f, Qt::DotLine); }
 static void Linea3(FoglioPittura& f) { Campione(f, Qt::DashDotLine); }
 static void Linea4(FoglioPittura& f) { Campione(f, Qt::DashDotDotLine); }
 
+namespace {
 struct RigaPittura {
   const char* nome;
   QRectF riquadro;
   void (*dipingi)(FoglioPittura& f);
 };
+}  // namespace
+
 static const RigaPittura PITTURE[] = {
   { "tipo1",     QRectF(0, 0, 1440, 1440),   Tipo1 },
   { "tipo2",     QRectF(0, 0, 1440, 1440),   Tipo2 },
@@ -335,10 +340,13 @@ static void SegnoTermina(QPainter& p) {
   p.drawLine(QPointF(13, 4), QPointF(4, 13));
 }
 
+namespace {
 struct RigaIcona {
   const char* nome;
   void (*dipingi)(QPainter& p);           // on 17 by 17
 };
+}  // namespace
+
 static constexpr RigaIcona ICONE[] = {
   { "verifica", SegnoVerifica }, { "salva", SegnoSalva },         { "carica", SegnoCarica },   { "disegno", SegnoDisegno },
   { "vista", SegnoVista },       { "anteprima", SegnoAnteprima }, { "opzioni", SegnoOpzioni }, { "chiudi", SegnoTermina },

@@ -14,15 +14,15 @@
 // ---- pass 1: hidden and axis lines under lines -------------------------------------------------------------------------------
 
 namespace {
-
 struct Segmento {
   double x1, y1, x2, y2, lunghezza;
   double alone;                    // a point farther than this from the segment does not lie on it
 };
+}  // namespace
 
-double Distanza(double x1, double y1, double x2, double y2) { return std::sqrt((x1 - x2) * (x1 - x2) + (y1 - y2) * (y1 - y2)); }
+static double Distanza(double x1, double y1, double x2, double y2) { return std::sqrt((x1 - x2) * (x1 - x2) + (y1 - y2) * (y1 - y2)); }
 
-Segmento SegmentoDi(int i) {
+static Segmento SegmentoDi(int i) {
   const Disegno& d = disegno;
   Segmento s{d.CoordX[d.LinIni[i]], d.CoordY[d.LinIni[i]], d.CoordX[d.LinFin[i]], d.CoordY[d.LinFin[i]], 0, 0};
   s.lunghezza = Distanza(s.x1, s.y1, s.x2, s.y2);
@@ -33,24 +33,26 @@ Segmento SegmentoDi(int i) {
 }
 
 // The way over the point is not longer than the segment.
-bool SulSegmento(const Segmento& s, double x, double y) {
+static bool SulSegmento(const Segmento& s, double x, double y) {
   return Distanza(x, y, s.x1, s.y1) + Distanza(x, y, s.x2, s.y2) - s.lunghezza < TOLL_GEO;
 }
 
+namespace {
 struct Griglia {                   // lines by the cells that their surroundings touch
   double x0 = 0, y0 = 0, passo = 1;
   int nx = 1, ny = 1;
   std::vector<int> inizio, righe;  // cell c holds righe[inizio[c] .. inizio[c + 1])
 };
+}  // namespace
 
-int Cella(double v, double v0, double passo, int n) {
+static int Cella(double v, double v0, double passo, int n) {
   const double c = std::floor((v - v0) / passo);
   return c > 0 ? (c < n - 1 ? static_cast<int>(c) : n - 1) : 0;
 }
 
 // Runs over the cells within the halo of a segment, column by column.
 template <class F>
-void PerCella(const Griglia& g, const Segmento& s, F f) {
+static void PerCella(const Griglia& g, const Segmento& s, F f) {
   const double sinistra = std::min(s.x1, s.x2), destra = std::max(s.x1, s.x2), a = s.alone;
   const double pendenza = destra > sinistra ? (s.y2 - s.y1) / (s.x2 - s.x1) : 0;
   const int c1 = Cella(sinistra - a, g.x0, g.passo, g.nx), c2 = Cella(destra + a, g.x0, g.passo, g.nx);
@@ -66,7 +68,7 @@ void PerCella(const Griglia& g, const Segmento& s, F f) {
   }
 }
 
-Griglia FaiGriglia(const std::vector<Segmento>& s, int numRicerche) {
+static Griglia FaiGriglia(const std::vector<Segmento>& s, int numRicerche) {
   Griglia g;
   double x1 = s[0].x1, y1 = s[0].y1;
   g.x0 = x1, g.y0 = y1;
@@ -90,7 +92,7 @@ Griglia FaiGriglia(const std::vector<Segmento>& s, int numRicerche) {
   return g;
 }
 
-bool Coperta(const Griglia& g, const std::vector<Segmento>& s, const std::vector<char>& via, std::size_t i) {
+static bool Coperta(const Griglia& g, const std::vector<Segmento>& s, const std::vector<char>& via, std::size_t i) {
   const Segmento& q = s[i];
   const std::size_t c = static_cast<std::size_t>(Cella(q.y1, g.y0, g.passo, g.ny) * g.nx + Cella(q.x1, g.x0, g.passo, g.nx));
   for (int k = g.inizio[c]; k < g.inizio[c + 1]; ++k) {
@@ -100,7 +102,7 @@ bool Coperta(const Griglia& g, const std::vector<Segmento>& s, const std::vector
   return false;
 }
 
-void TogliLineeCoperte() {
+static void TogliLineeCoperte() {
   Disegno& d = disegno;
   const auto ricerca = [&](int i) { return d.LinTipo[i] >= 1 && d.LinCol[i] > 0; };
   int numRicerche = 0;
@@ -130,7 +132,7 @@ void TogliLineeCoperte() {
 
 // ---- passes 2 and 3: double arcs, empty texts --------------------------------------------------------------------------------
 
-void TogliArchiDoppi() {
+static void TogliArchiDoppi() {
   Disegno& d = disegno;
   const auto chiave = [&](int i) { return std::array<std::int32_t, 6>{d.ArcCen[i], d.ArcIni[i], d.ArcCen2[i], d.ArcFin[i], d.ArcCol[i], d.ArcTipo[i]}; };
   std::vector<int> ordine(static_cast<std::size_t>(d.NumArchi));
@@ -152,7 +154,7 @@ void TogliArchiDoppi() {
   d.NumArchi = n;
 }
 
-void TogliTestiVuoti() {
+static void TogliTestiVuoti() {
   Disegno& d = disegno;
   int n = 0;
   for (int i = 0; i < d.NumTesti; ++i) {
@@ -173,6 +175,7 @@ void TogliTestiVuoti() {
 
 constexpr double PASSO_UNIONE = 0.01;         // mm; cells much larger than the tolerance, so that a point mostly looks into one
 
+namespace {
 struct Casella {
   double cx, cy;
   bool operator==(const Casella&) const = default;
@@ -185,10 +188,11 @@ struct HashCasella {
     return static_cast<std::size_t>((a * 0x9E3779B97F4A7C15ull) ^ (b * 0xC2B2AE3D27D4EB4Full >> 7));
   }
 };
+}  // namespace
 
 // For each coordinate the smallest index within the tolerance of it, itself if there is none. No chaining: the measure is
 // always taken to the coordinate itself.
-std::vector<int> PrimeVicine() {
+static std::vector<int> PrimeVicine() {
   const Disegno& d = disegno;
   std::vector<int> prima(static_cast<std::size_t>(d.NumCoord));
   std::vector<int> successiva(static_cast<std::size_t>(d.NumCoord), -1);      // next coordinate of the same cell, ascending
@@ -217,7 +221,7 @@ std::vector<int> PrimeVicine() {
   return prima;
 }
 
-void UnisciCoordinate() {
+static void UnisciCoordinate() {
   Disegno& d = disegno;
   const std::vector<int> prima = PrimeVicine();
   const auto porta = [&](std::int32_t* riferimento, int n) {
@@ -233,7 +237,7 @@ void UnisciCoordinate() {
 
 // ---- pass 5: unused coordinates ----------------------------------------------------------------------------------------------
 
-void TogliCoordinateInutili() {
+static void TogliCoordinateInutili() {
   Disegno& d = disegno;
   struct {
     std::int32_t* riferimento;
@@ -254,8 +258,6 @@ void TogliCoordinateInutili() {
     for (int i = 0; i < t.n; ++i) t.riferimento[i] = nuova[static_cast<std::size_t>(t.riferimento[i])];
   d.NumCoord = n;
 }
-
-}  // namespace
 
 void CompattaDisegno() {
   TogliLineeCoperte();

@@ -35,6 +35,7 @@ double AngoloArco(double px, double py, double cx, double cy) {
   return angolo >= 360 ? angolo - 360 : angolo;
 }
 
+namespace {
 struct Dxf {
   std::string* t = nullptr;
   int mono = 0;
@@ -45,6 +46,7 @@ struct Entita {
   char a[512];
   char* p = a;
 };
+}  // namespace
 
 template <std::size_t N>
 static void Metti(Entita& e, const char (&letterale)[N]) {

@@ -18,9 +18,11 @@ static const char* const COLORI_CARTA[] = {"#000000", "#000000", "#000080", "#c0
 // Dash patterns by line type, mm.
 static const char* const TRATTI[] = {"", "24 4 4 4", "8 4", "12 4 2 4 2 4", "6 4"};
 
+namespace {
 struct Pagina {
   double x1 = 0, y1 = 0, x2 = 0, y2 = 0;      // sheet coordinates of its corners
 };
+}  // namespace
 
 static void Allarga(Pagina& p, double x, double y) {
   p.x1 = std::min(p.x1, x);
