@@ -7,24 +7,22 @@
 #include <cstring>
 #include <limits>
 
-#include "core/aritmetica.h"
-#include "model/stato.h"
-#include "model/suite.h"
-
-namespace {
+#include "core/fault.h"
 
 constexpr int CIFRE = 15;          // significant digits of every written number
 constexpr double POTENZE[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
-bool Cifra(char c) { return c >= '0' && c <= '9'; }
+static bool Cifra(char c) { return c >= '0' && c <= '9'; }
 
+namespace {
 struct Decimali {                  // value = 0.d1 d2 ... dn x 10^esp, no trailing zeros
   char cifre[40] = {};             // read in blocks of 16
   int n = 0, esp = 0;
 };
+}  // namespace
 
 // v = p + e exactly, p the product rounded; both factors far from the ends of the range.
-void ProdottoEsatto(double a, double b, double& p, double& e) {
+static void ProdottoEsatto(double a, double b, double& p, double& e) {
   const double separa = 134217729;                       // 2^27 + 1: halves of 26 bits multiply without rounding
   const double ta = separa * a, a1 = ta - (ta - a), a2 = a - a1, tb = separa * b, b1 = tb - (tb - b), b2 = b - b1;
   p = a * b;
@@ -33,7 +31,7 @@ void ProdottoEsatto(double a, double b, double& p, double& e) {
 
 // The usual range, 1E-4 to 1E15: the 15 digits are the whole number nearest to v 10^k. The powers up to 10^22 are exact, so that the
 // product is known to the last bit; ties go to the even number.
-bool CifreConsuete(double v, Decimali& d) {
+static bool CifreConsuete(double v, Decimali& d) {
   if (!(v >= 1e-4 && v < 1e15)) return false;
   int esp = 1;                                           // v < 10^esp
   if (v >= 1) {
@@ -59,7 +57,7 @@ bool CifreConsuete(double v, Decimali& d) {
 // Digits of v > 0, at most 15 significant. The shortest text that gives v back is tried first: with up to 15 digits it is the
 // correctly rounded 15-digit text without its trailing zeros; a longer one is rounded anew from v itself, and so is a
 // denormal, whose shortest text has fewer digits than were asked for.
-Decimali CifreDi(double v) {
+static Decimali CifreDi(double v) {
   char testo[40];
   Decimali d;
   if (CifreConsuete(v, d)) return d;
@@ -81,13 +79,13 @@ Decimali CifreDi(double v) {
 }
 
 // n characters, at most 15; a whole block is moved, what lies behind is written over next.
-char* Copia(char* a, const char* da, int n) {
+static char* Copia(char* a, const char* da, int n) {
   std::memcpy(a, da, 16);
   return a + n;
 }
 
 // Below 1E-4 and from 1E15 on: mantissa with its point, E, sign, at least two digits.
-char* FormaEsponente(char* a, const Decimali& d, char mark) {
+static char* FormaEsponente(char* a, const Decimali& d, char mark) {
   *a++ = d.cifre[0];
   if (d.n > 1) {
     *a++ = mark;
@@ -101,7 +99,7 @@ char* FormaEsponente(char* a, const Decimali& d, char mark) {
   return std::to_chars(a, a + 4, esp).ptr;
 }
 
-char* FormaPiana(char* a, const Decimali& d, char mark, bool zeroIniziale) {
+static char* FormaPiana(char* a, const Decimali& d, char mark, bool zeroIniziale) {
   if (d.esp <= 0) {
     if (zeroIniziale) *a++ = '0';
     *a++ = mark;
@@ -119,7 +117,7 @@ char* FormaPiana(char* a, const Decimali& d, char mark, bool zeroIniziale) {
 }
 
 // The head's extent: sign, digits, one point, digits, exponent with at least one digit. Empty: no number there.
-std::string_view TestaNumerica(std::string_view t) {
+static std::string_view TestaNumerica(std::string_view t) {
   std::size_t i = 0;
   while (i < t.size() && t[i] == ' ') ++i;
   const std::size_t inizio = i;
@@ -145,7 +143,7 @@ std::string_view TestaNumerica(std::string_view t) {
 
 // A number too small for a double reads as 0 or as the platform's denormal; from_chars tells it apart from one too large by
 // neither value nor code, so the sign of the decimal exponent of its first digit decides.
-bool TroppoPiccolo(std::string_view testa) {
+static bool TroppoPiccolo(std::string_view testa) {
   long esp = 0;
   const std::size_t e = testa.find_first_of("eE");
   if (e != std::string_view::npos) {
@@ -163,19 +161,12 @@ bool TroppoPiccolo(std::string_view testa) {
 }
 
 template <class Intero>
-bool InInteroDi(double v, Intero& n) {
+static bool InInteroDi(double v, Intero& n) {
   const double r = std::nearbyint(v);
   if (!(r >= static_cast<double>(std::numeric_limits<Intero>::min()) && r <= static_cast<double>(std::numeric_limits<Intero>::max()))) return false;
   n = static_cast<Intero>(r);
   return true;
 }
-
-std::string Testo(double v, char mark, bool zeroIniziale) {
-  char a[32];
-  return std::string(a, static_cast<std::size_t>(ScriviNumero(v, a, mark, zeroIniziale)));
-}
-
-}  // namespace
 
 int ScriviNumero(double v, char* a, char mark, bool zeroIniziale) {
   const bool finito = std::isfinite(v);
@@ -194,9 +185,10 @@ int ScriviNumero(double v, char* a, char mark, bool zeroIniziale) {
   return static_cast<int>(p - a);
 }
 
-std::string NumeroPiano(double v) { return Testo(v, '.', false); }
-
-std::string NumeroRelazione(double v) { return Testo(v, suite.Decimale, true); }
+std::string NumeroPiano(double v) {
+  char a[32];
+  return std::string(a, static_cast<std::size_t>(ScriviNumero(v, a, '.', false)));
+}
 
 std::string NumeroFile(double v) {
   std::string t = NumeroPiano(v);

@@ -2,7 +2,7 @@
 // Three written forms, never merged:
 //   NumeroFile       the point, no zero before it, a blank before if not negative, a blank behind (files)
 //   NumeroPiano      the same without the blanks (fields, labels, drawing texts, arguments)
-//   NumeroRelazione  the user's decimal mark (suite.Decimale), with the zero before it (reports)
+//   ScriviNumero     in place, the decimal mark that it is given; for reports the user's, with the zero before it
 // Digits: correctly rounded to 15 significant ones, trailing zeros dropped; an exponent (1E+20, 1E-05) below 1E-4 and
 // from 1E15 on; negative zero is 0. An argument that is not finite is an arithmetic fault and is written 0.
 #pragma once
@@ -12,7 +12,6 @@
 
 std::string NumeroFile(double v);
 std::string NumeroPiano(double v);
-std::string NumeroRelazione(double v);
 int ScriviNumero(double v, char* a, char mark, bool zeroIniziale);   // into a[32], of which the rest is scratch; returns the length
 
 // The numeric head of a text: blanks, sign, digits, one point, digits, optional exponent; the rest is ignored. No head: 0.

@@ -341,7 +341,7 @@ class Confronto:
             esito[k] = r["passa"]
         for n, riga in esiti:
             suoi = [esito[n, v.id, v.elemento] for v in riga.voci]
-            self.g(riga.esito is None or riga.esito is all(suoi), 
+            self.g(riga.esito is None or riga.esito is all(suoi),
                    "sestetto %d, riga %d: stampato %s, righe %s" % (n, riga.numero, riga.esito, suoi))
         cadono = {n for (n, _, _), e in esito.items() if not e}
         for s in self.rel.sestetti:

@@ -284,7 +284,7 @@ TEST_F(LayoutNodo, SaldIntEVirgolette) {
   const std::string byte = ComponiNodo();
   EXPECT_NE(byte.find("\r\n\"tra\" virgolette\r\n"), std::string::npos);
   Leggi(byte);
-  EXPECT_EQ(nodo.SollNome[1], "tra");              // does not come back whole, as told of names that begin with a quote
+  EXPECT_EQ(nodo.SollNome[1], "tra");              // a name that begins with a quote ends at the next one
 }
 
 // Lines 0 to n of the file: what was read counts, every later value stays, the status is failed but for the whole file.

@@ -8,10 +8,13 @@
 
 #include "core/aritmetica.h"
 #include "core/numeri.h"
-#include "model/stato.h"
-#include "model/suite.h"
 
 namespace {
+
+std::string NumeroRelazione(double v, char segno) {
+  char a[32];
+  return std::string(a, static_cast<std::size_t>(ScriviNumero(v, a, segno, true)));
+}
 
 std::string PianoDaPrintf(double v) {
   if (v == 0) return "0";
@@ -70,13 +73,11 @@ TEST(Numeri, FormaDiFile) {
 }
 
 TEST(Numeri, FormaDiRelazioneColSegnoDellUtente) {
-  suite.Decimale = ',';
-  EXPECT_EQ(NumeroRelazione(.5), "0,5");
-  EXPECT_EQ(NumeroRelazione(-1234.25), "-1234,25");
-  EXPECT_EQ(NumeroRelazione(3), "3");
-  EXPECT_EQ(NumeroRelazione(1.5e-7), "1,5E-07");
-  suite.Decimale = '.';
-  EXPECT_EQ(NumeroRelazione(.05), "0.05");
+  EXPECT_EQ(NumeroRelazione(.5, ','), "0,5");
+  EXPECT_EQ(NumeroRelazione(-1234.25, ','), "-1234,25");
+  EXPECT_EQ(NumeroRelazione(3, ','), "3");
+  EXPECT_EQ(NumeroRelazione(1.5e-7, ','), "1,5E-07");
+  EXPECT_EQ(NumeroRelazione(.05, '.'), "0.05");
 }
 
 TEST(Numeri, QuindiciCifreComeIlSecondoMetodoSuUnMilioneDiValori) {

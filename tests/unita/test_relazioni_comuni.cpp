@@ -15,9 +15,10 @@ namespace {
 
 class RelazioniComuni : public ProvaRelazione {};
 
-std::string Voce(Arrotondato a) {
+template <class Valore = Arrotondato>
+std::string Voce(Valore v) {
   std::string t;
-  Aggiungi(t, a);
+  Aggiungi(t, v);
   return t;
 }
 
@@ -66,13 +67,13 @@ TEST_F(RelazioniComuni, NumeriPiani) {
   for (const char mark : {'.', ','}) {
     suite.Decimale = mark;
     const std::string m(1, mark);
-    EXPECT_EQ(NumeroRelazione(12.5), "12" + m + "5");
-    EXPECT_EQ(NumeroRelazione(0.5), "0" + m + "5");
-    EXPECT_EQ(NumeroRelazione(-0.25), "-0" + m + "25");
-    EXPECT_EQ(NumeroRelazione(1200), "1200");                            // an integer has no mark
-    EXPECT_EQ(NumeroRelazione(1e20), "1E+20");
-    EXPECT_EQ(NumeroRelazione(1.5e-5), "1" + m + "5E-05");
-    EXPECT_EQ(NumeroRelazione(1.0 / 3), "0" + m + "333333333333333");    // 15 significant digits
+    EXPECT_EQ(Voce(12.5), "12" + m + "5");
+    EXPECT_EQ(Voce(0.5), "0" + m + "5");
+    EXPECT_EQ(Voce(-0.25), "-0" + m + "25");
+    EXPECT_EQ(Voce(1200.0), "1200");                            // an integer has no mark
+    EXPECT_EQ(Voce(1e20), "1E+20");
+    EXPECT_EQ(Voce(1.5e-5), "1" + m + "5E-05");
+    EXPECT_EQ(Voce(1.0 / 3), "0" + m + "333333333333333");    // 15 significant digits
     EXPECT_EQ(FormattazioneValore(0.85, 6, true, 'R'), "|  0" + m + "85");   // the mark counts in the width
   }
 }
@@ -114,7 +115,7 @@ TEST_F(RelazioniComuni, ArrotondatoComeLaFormaPiana) {
     const int n = static_cast<int>(seme % 7);
     const double mantissa = static_cast<double>(static_cast<std::int64_t>(seme)) / 9.3e18;
     const double v = mantissa * std::pow(10.0, static_cast<int>((seme >> 8) % 24) - 7);
-    ASSERT_EQ(Voce({v, n}), NumeroRelazione(ArrotondaPari(v, n))) << v << " at " << n;
+    ASSERT_EQ(Voce(Arrotondato{v, n}), Voce(ArrotondaPari(v, n))) << v << " at " << n;
   }
 }
 

@@ -91,7 +91,7 @@ TEST_F(SaldatureTest, Direzioni) {
   EXPECT_DOUBLE_EQ(Direzione(0, 0, 2, -1), std::atan(-0.5));
   EXPECT_DOUBLE_EQ(Direzione(-5, 0, -4.5, 1), std::atan(2.0));
   EXPECT_DOUBLE_EQ(Direzione(3, 0, 1, 1), std::atan(0.5) + p / 2);
-  EXPECT_DOUBLE_EQ(Direzione(0, 0, -2, 1), std::atan(0.5) + p / 2);       // the last branch is odd (deliberate)
+  EXPECT_DOUBLE_EQ(Direzione(0, 0, -2, 1), std::atan(0.5) + p / 2);       // second quadrant: the true direction at 45 degrees only
   EXPECT_DOUBLE_EQ(Direzione(0, 0, -2, -1), std::atan(-0.5) - p / 2);
   EXPECT_DOUBLE_EQ(Direzione(1, 2, 3, 5), std::atan(1.5));                // neither point on an axis
   EXPECT_DOUBLE_EQ(Direzione(3, 1, 1, 4), std::atan(1.5) + p / 2);

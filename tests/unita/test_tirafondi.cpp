@@ -89,7 +89,7 @@ TEST_F(TirafondiTest, CostantiTA) {
   EXPECT_EQ(lavoro.TauCls, 0.2);
 }
 
-TEST_F(TirafondiTest, AderenzaUncinoTA) {              // by 100 (deliberate)
+TEST_F(TirafondiTest, AderenzaUncinoTA) {              // divided by 100, a tenth of the bond: safe
   nodo.TipoTirafondo = 1;
   ResistenzeTA(lavoro);
   // L + R + 6.4 R + 3.5 L1 = 500 + 70 + 448 + 1575 = 2593; 0.1 x 51.92714 x 2593 / 100 = 134.647.
