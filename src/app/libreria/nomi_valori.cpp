@@ -9,10 +9,13 @@
 
 // ---- bounds of whole numbers: what indexes a table or chooses must exist ----
 
+namespace {
 struct Limiti {
   std::string_view nome;
   int minimo, massimo;
 };
+}  // namespace
+
 static constexpr Limiti INTERI[] = {
   { "TipoNodo", 1, 2 },         { "SaldInt", 0, 1 },           { "NTir", 1, MaxTir },
   { "TipoTirafondo", 0, 1 },    { "TfDiamIdx", 0, MaxDiam + 1 }, { "OptionNTir", 0, 3 },

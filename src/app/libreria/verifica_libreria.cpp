@@ -12,6 +12,7 @@
 #include "results/avvisi.h"
 #include "results/governanti.h"
 
+namespace {
 struct CorsaLib {
   const NodoLib& n;
   unsigned opzioni;
@@ -22,6 +23,7 @@ struct CorsaLib {
   std::vector<RigaControllo> alLimite = {};
   double TadRd = 0;                          // of the sextets so far
 };
+}  // namespace
 
 // ---- questions of the geometry: the answer is the same for all ----
 
