@@ -18,8 +18,10 @@ void LegaLavoro() {
 }
 
 void AzzeraLavoro() {
-  static const Lavoro VUOTO;
-  if (lavoro.usato) lavoro = VUOTO;
+  if (lavoro.usato) {
+    static const Lavoro VUOTO;     // large: made only where it is needed
+    lavoro = VUOTO;
+  }
   LegaLavoro();
 }
 

@@ -120,13 +120,11 @@ static int StatoOggetto(std::string_view oggetto) {
   return 2;
 }
 
-static bool Riprende(const CorsaRiepilogo& c, const NodoGiudicato& n) {
-  for (std::size_t k = 0; k < c.ripresa.size(); ++k) {
-    if (c.ripresa[k].percorso != n.percorso || !RipresaVale(c.ripresa[k], n, c.o.tutteLeRighe)) continue;
-    Stampa(PRESA + std::to_string(k));
-    return true;
-  }
-  return false;
+// Empty: no earlier line holds.
+static std::string Ripresa(const CorsaRiepilogo& c, const NodoGiudicato& n) {
+  for (std::size_t k = 0; k < c.ripresa.size(); ++k)
+    if (c.ripresa[k].percorso == n.percorso && RipresaVale(c.ripresa[k], n, c.o.tutteLeRighe)) return PRESA + std::to_string(k);
+  return {};
 }
 
 static NodoGiudicato Prepara(const CorsaRiepilogo& c, const Incarico& i) {
@@ -142,21 +140,23 @@ static NodoGiudicato Prepara(const CorsaRiepilogo& c, const Incarico& i) {
 }
 
 // One line: the object, or the earlier one that holds. The panels start as behind the start, the tables clean.
-static void Lavora(CorsaRiepilogo& c, const Incarico& i) {
+static std::string Lavora(CorsaRiepilogo& c, const Incarico& i) {
   NodoGiudicato n = Prepara(c, i);
-  if (i.metodo >= 0 && Riprende(c, n)) return;
+  if (i.metodo >= 0)
+    if (std::string presa = Ripresa(c, n); !presa.empty()) return presa;
   if (c.toccato) RipristinaProgramma(*c.inizio);
   AzzeraLavoro();
   c.toccato = true;
   if (!CaricaMuto(i.percorso)) {
     NonCaricato(n);
-  } else {
-    if (i.metodo >= 0) ScegliMetodoMuto(i.metodo);
-    n.metodo = nodo.TipoVer;
-    if (i.metodo < 0 && Riprende(c, n)) return;
-    GiudicaMuto(n, lavoro);
+    return NodoInJson(n, c.o.tutteLeRighe);
   }
-  Stampa(NodoInJson(n, c.o.tutteLeRighe));
+  if (i.metodo >= 0) ScegliMetodoMuto(i.metodo);
+  n.metodo = nodo.TipoVer;
+  if (i.metodo < 0)
+    if (std::string presa = Ripresa(c, n); !presa.empty()) return presa;
+  GiudicaMuto(n, lavoro);
+  return NodoInJson(n, c.o.tutteLeRighe);
 }
 
 // ---- output ----
@@ -228,7 +228,12 @@ static void Ritira(CorsaRiepilogo& c, const Blocco& b, const EsitoCompito& e, st
   }
 }
 
+// One piece alone has no others to keep from harm: this process does it, which spares a copy of itself.
 static void Esegui(CorsaRiepilogo& c) {
+  if (c.incarichi.size() == 1) {
+    c.fatti[0] = Lavora(c, c.incarichi[0]);
+    return EmettiPronti(c);
+  }
   std::vector<Blocco> blocchi = InBlocchi(c.incarichi.size(), static_cast<std::size_t>(ProcessiInsieme()));
   while (!blocchi.empty()) {
     std::vector<Blocco> ancora;
@@ -237,7 +242,7 @@ static void Esegui(CorsaRiepilogo& c) {
     lavori.insieme = ProcessiInsieme();
     lavori.esegui = [&](std::size_t b) {
       ospite.lavorante = true;
-      for (const std::size_t k : blocchi[b]) Lavora(c, c.incarichi[k]);
+      for (const std::size_t k : blocchi[b]) Stampa(Lavora(c, c.incarichi[k]));
       return 0;
     };
     lavori.consegna = [&](std::size_t b, const EsitoCompito& e) {
