@@ -16,6 +16,7 @@
 
 // ---- bands ----
 
+constexpr double PRESSIONE_NULLA = 1e-12;        // of the highest one
 constexpr double PRESSIONE_UNIFORME = 1e-9;      // relative spread of the pressure up to which it is one band
 
 static double Pressione(const Lavoro& l, int s, PuntoPiano p) { return std::max(0.0, -PressioneNelPunto(l, s, p)); }
@@ -67,9 +68,11 @@ static std::vector<PuntoScena> Fascia(const Contorno& c, double da, double a) {
 
 std::vector<Isobara> Isobare(const Lavoro& l, int s) {
   std::vector<Isobara> fasce;
-  const Contorno c = ContornoCompresso(l, s);
+  Contorno c = ContornoCompresso(l, s);
   if (c.n < 3) return fasce;
   const auto fine = c.p.begin() + c.n;
+  for (double& p : c.p)            // where the axis cuts, rounding leaves a trace of pressure
+    if (p < PRESSIONE_NULLA * *std::max_element(c.p.begin(), fine)) p = 0;
   const double massima = *std::max_element(c.p.begin(), fine), minima = *std::min_element(c.p.begin(), fine);
   if (!(massima > 0)) return fasce;
   const bool uniforme = massima - minima <= PRESSIONE_UNIFORME * massima;
