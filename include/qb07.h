@@ -22,6 +22,9 @@
 
 #include <stddef.h>
 
+/* Declarations and their comments stand in columns. */
+/* clang-format off */
+
 #ifndef QB07_API
 #if defined(_WIN32)
 #define QB07_API __declspec(dllimport)

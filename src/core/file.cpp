@@ -89,6 +89,7 @@ namespace {
 struct Motivo { std::errc errore;  const char* testo; };
 }  // namespace
 
+// clang-format off
 constexpr Motivo MOTIVI[] = {
   { std::errc::no_space_on_device,           "spazio su disco esaurito" },
   { std::errc::file_too_large,               "dimensione massima dei file superata" },
@@ -106,6 +107,7 @@ constexpr Motivo MOTIVI[] = {
   { std::errc::too_many_files_open_in_system, "troppi file aperti" },
   { std::errc::io_error,                     "errore del disco" },
 };
+// clang-format on
 
 // With the system's separators, a run of them as one.
 static std::string ComeScritto(std::string_view percorso) {

@@ -20,10 +20,12 @@ struct ChiaveUnita {
 };
 }  // namespace
 
+// clang-format off
 constexpr ChiaveUnita CHIAVI[] = {
     {"lunghezze", &Suite::UnitaLung},          {"forze", &Suite::UnitaForze},       {"carichi_superficie", &Suite::UnitaCarichi},
     {"coppie_momenti", &Suite::UnitaMomenti},  {"tensioni", &Suite::UnitaTensioni}, {"dati_sezioni", &Suite::UnitaSezioni},
 };
+// clang-format on
 
 namespace {
 // The first row whose text the unit holds wins; case counts.

@@ -121,6 +121,7 @@ static void AngoloFaccia(int s, const Faccia& f, bool secondo) {
 
 void NervaturePianta() {
   const double B = nodo.Sezione.B / 2, H = nodo.Sezione.H / 2, E = nodo.Sezione.E, SP = nodo.SpNerv, Z = nodo.LatoZ / 2, Y = nodo.LatoY / 2;
+  // clang-format off
   const Faccia FACCE[] = {
     // from             to                 looks at  weld
     {B,      -Y,      B,      -H,       -1,  0, 23},
@@ -133,6 +134,7 @@ void NervaturePianta() {
     {Z,      H - SP,  B + SP, H - SP,   0,  -1, 25},
     {Z,      H,       B + SP, H,        0,   1, 26},
   };
+  // clang-format on
   const Faccia INTERNA = {B, -H + E, B, H - E, -1, 0, 19};       // drawn with the section's welds
   for (const int s : {-1, 1}) {
     for (const Faccia& f : FACCE) FacciaSaldata(s, f);

@@ -8,6 +8,7 @@
 #include "drawing/formats/tipi_linea.h"
 #include "drawing/tavola.h"
 
+// clang-format off
 static constexpr RigaNome NOMI[] = {
   // Store
   VOCE(disegno, NumCoord), VOCE(disegno, CoordX, DA_0), VOCE(disegno, CoordY, DA_0),
@@ -34,4 +35,5 @@ static constexpr RigaNome NOMI[] = {
   VOCE(esecutivo, BoxAXMax), VOCE(esecutivo, BoxAYMax), VOCE(esecutivo, BoxAXMin), VOCE(esecutivo, BoxAYMin), VOCE(esecutivo, BoxCXMax),
   VOCE(esecutivo, BoxCYMax), VOCE(esecutivo, BoxCXMin), VOCE(esecutivo, BoxCYMin), VOCE(esecutivo, XQuoteDx), VOCE(esecutivo, YTitoloC),
 };
+// clang-format on
 std::span<const RigaNome> NomiDisegno() { return NOMI; }

@@ -121,6 +121,7 @@ struct Prova {
 }  // namespace
 
 #define STESSO(t) { t, t }
+// clang-format off
 static constexpr Prova PROVE[NumGeometria] = {
   { "geo.colonna",       Colonna,      GenereGeometria::Domanda, STESSO("Incompatibilità geometrica fra piastra e colonna") },
   { "geo.piastra",       Piastra,      GenereGeometria::Domanda, STESSO("Dimensioni della piastra negative o nulle") },
@@ -136,6 +137,7 @@ static constexpr Prova PROVE[NumGeometria] = {
     { "La distanza dei tirafondi dal bordo della piastra risulta difforme dalle prescrizioni della CNR-UNI 10011/88",
       "La distanza dei tirafondi dal bordo della piastra risulta difforme dalle prescrizioni (NTC 2008)" } },
 };
+// clang-format on
 #undef STESSO
 
 static RigaGeometria Esegui(const Prova& p, const Nodo& nodo, int metodo) {

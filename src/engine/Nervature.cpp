@@ -174,6 +174,7 @@ void CalcolaNervature(Lavoro& l, int s) {
   const Nodo& nodo = *l.nodo;
   const double b = nodo.Sezione.B / 2, h = nodo.Sezione.H / 2, SP = nodo.SpNerv;
   const double z = nodo.LatoZ / 2, y = nodo.LatoY / 2;
+  // clang-format off
   const SezioneDiTaglio TAGLI[] = {
     // pa      pb       qa  qb   L           W           lungoP segnoP mom  M2   anchors   side      positions  welds
     { b + SP,  z,       -y, y,   z - b - SP, nodo.LatoY, true,  +1,    -1,  -1,  { 1, 3 }, SINISTRO, { 1, 2 },  { 30, 40, 37, 39 } },
@@ -181,6 +182,7 @@ void CalcolaNervature(Lavoro& l, int s) {
     { -z,      z,       -y, -h,  y - h,      nodo.LatoZ, false, 0,     +1,  -1,  { 3, 4 }, INFERIORE, { 3, 4 },  { 34, 36, 37, 38 } },
     { -z,      z,       h,  y,   y - h,      nodo.LatoZ, false, 0,     +1,  +1,  { 1, 2 }, SUPERIORE, { 7, 8 },  { 29, 30, 31, 32 } },
   };
+  // clang-format on
   for (const SezioneDiTaglio& g : TAGLI) {
     const Azioni a = AzioniTaglio(l, g);
     const double J = TensioniNervature(l, s, g, a);

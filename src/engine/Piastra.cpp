@@ -23,12 +23,14 @@ void PiastraSenzaNervature(Lavoro& l, int s) {
   const double y = (nodo.LatoY - H) / 2, z = (nodo.LatoZ - B) / 2;
   const double Wz = t * t * nodo.LatoZ / 6, Wy = t * t * nodo.LatoY / 6;
   struct Lato { double a; int i1, i2; LatoPiastra lato; double W; };
+  // clang-format off
   const Lato LATI[] = {
     { y - nodo.TfY[1],                1, 2, SUPERIORE, Wz },
     { z - (nodo.LatoZ - nodo.TfZ[2]), 2, 4, DESTRO, Wy },
     { y - (nodo.LatoY - nodo.TfY[3]), 3, 4, INFERIORE, Wz },
     { z - nodo.TfZ[1],                1, 3, SINISTRO, Wy },
   };
+  // clang-format on
   const int schema = SchemaTir(nodo);
   for (int j = 0; j < std::min<int>(nodo.NTir, 4); ++j) {
     const Lato& r = LATI[j];
@@ -75,11 +77,13 @@ static void LuciLarghezze(const Nodo& nodo, Strisce& c, const double* armZ, cons
   // Neighbours a, b: no anchor stands there, the place lends the mean widths of two corners.
   const double nulla = 0, intera = H / 2 - SP;           // pattern 1 spans between the ribs, pattern 2 between their mid-lines: more to the strip along Y, over less (either side)
   struct Posto { int opzione, i; const double *luceZ, *luceY; int a, b; };
+  // clang-format off
   const Posto POSTI[] = {
     { 2, 5, nullptr, &Yr,     0, 0 }, { 2, 6, nullptr, &Yr,     0, 0 }, { 2, 7, &Zr,    &nulla,  3, 4 }, { 2, 8, &Zr,    &nulla,  1, 2 },
     { 3, 5, &Zr,     nullptr, 0, 0 }, { 3, 6, &Zr,     nullptr, 0, 0 }, { 3, 7, &nulla, &Yr,     3, 1 }, { 3, 8, &nulla, &Yr,     4, 2 },
     { 1, 5, nullptr, &intera, 0, 0 }, { 1, 6, nullptr, &intera, 0, 0 }, { 1, 7, &Zr,    nullptr, 0, 0 }, { 1, 8, &Zr,    nullptr, 0, 0 },
   };
+  // clang-format on
   for (const Posto& r : POSTI) {
     if (r.opzione != nodo.OptionNTir) continue;
     const int i = r.i;
@@ -101,22 +105,26 @@ namespace {
 struct Angolo { int opzione, i, u, v, wz1, wz2, wy1, wy2; };
 }  // namespace
 
+// clang-format off
 constexpr Angolo ANGOLI[] = {
   { 2, 1, 5, 8, 1, 1, 1, 5 }, { 2, 2, 6, 8, 2, 2, 2, 6 }, { 2, 3, 5, 7, 3, 3, 3, 5 }, { 2, 4, 6, 7, 4, 4, 4, 6 },
   { 3, 1, 7, 6, 1, 6, 1, 1 }, { 3, 2, 8, 6, 2, 6, 2, 2 }, { 3, 3, 7, 5, 3, 5, 3, 3 }, { 3, 4, 8, 5, 4, 5, 4, 4 },
   { 1, 1, 5, 8, 1, 8, 1, 5 }, { 1, 2, 6, 8, 2, 8, 2, 6 }, { 1, 3, 5, 7, 3, 7, 5, 5 }, { 1, 4, 6, 7, 4, 7, 4, 6 },
 };                                                        // pattern 1, anchor 3: width 5 against itself, so its own corner's never governs (unsafe if narrower)
+// clang-format on
 
 namespace {
 // Mid-side anchors: the strip along the side is a beam fixed at both ends, relieved by the moments of corners a, b.
 struct MezzoLato { int opzione, i; char lato; int a, b; };
 }  // namespace
 
+// clang-format off
 constexpr MezzoLato MEZZI[] = {
   { 2, 5, 'Z', 1, 3 }, { 2, 6, 'Z', 2, 4 },
   { 3, 5, 'Y', 3, 4 }, { 3, 6, 'Y', 1, 2 },
   { 1, 5, 'Z', 1, 3 }, { 1, 6, 'Z', 2, 4 }, { 1, 7, 'Y', 3, 4 }, { 1, 8, 'Y', 1, 2 },
 };
+// clang-format on
 
 // Share of force T that goes to the strip along Z, by the ratio R of the flexibilities Y over Z. Keeps T's sign.
 static double QuotaZ(double R, double T) { return std::fabs(R / (1 + R)) * T; }

@@ -175,10 +175,12 @@ void DatiSezione(Lavoro& l, int s) {
   StatoPresInfl& p = l.presInfl;
   const double z = nodo.LatoZ / 2, y = nodo.LatoY / 2;
   p.NumVertici = 4;
+  // clang-format off
   p.VertX[1] = -z; p.VertY[1] = -y;
   p.VertX[2] = -z; p.VertY[2] = y;
   p.VertX[3] = z;  p.VertY[3] = y;
   p.VertX[4] = z;  p.VertY[4] = -y;
+  // clang-format on
   p.NumBarre = nodo.NTir;
   for (int i = 1; i <= nodo.NTir; ++i) {
     p.BarraX[i] = -z + nodo.TfZ[i];

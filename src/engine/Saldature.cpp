@@ -60,6 +60,7 @@ static void SaldatureNervature(Lavoro& l, int c, int& lato) {
   const Nodo& nodo = *l.nodo;
   const double H = nodo.Sezione.H / 2, B = nodo.Sezione.B / 2, e = nodo.Sezione.E, SP = nodo.SpNerv, HN = nodo.HNerv;
   const double Z = c * (nodo.LatoZ / 2), Y = nodo.LatoY / 2, z = c * B, zs = c * (B + SP), zh = c * (H - SP);
+  // clang-format off
   const Chiamata CHIAMATE[] = {
     // on the plate: offset 10 in the second pass
     { 13, 10, '=', false, z,  -H,      z,  -Y      },
@@ -81,6 +82,7 @@ static void SaldatureNervature(Lavoro& l, int c, int& lato) {
     { 41, 1,  'c', true,  z,  0, z,  HN },
     { 43, 1,  'c', true,  z,  0, z,  HN },
   };
+  // clang-format on
   for (const Chiamata& r : CHIAMATE) {
     if (r.soloInterne && nodo.SaldInt != 1) continue;
     if (r.lato == 'c') lato = -c;
@@ -163,10 +165,12 @@ namespace {
 struct SaldCorrente { int w; int segnoZ, segnoY; bool interna; };
 }  // namespace
 
+// clang-format off
 constexpr SaldCorrente SALD_NERV[] = {
   { 29, +1, +1, false }, { 31, +1, -1, false }, { 36, -1, -1, false }, { 38, -1, +1, false },
   { 41, +1, +1, true },  { 42, +1, -1, true },  { 43, -1, +1, true },  { 44, -1, -1, true },
 };
+// clang-format on
 
 void TensioniSaldatureColonna(Lavoro& l, int s) {
   const Nodo& nodo = *l.nodo;

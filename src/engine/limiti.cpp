@@ -34,11 +34,13 @@ namespace {
 struct Famiglia { const char* grado; BetaSaldature beta; };
 }  // namespace
 
+// clang-format off
 static constexpr Famiglia FAMIGLIE[] = {   // in the order of the tests
   {"235", {0.85, 1.0}},
   {"275", {0.7, 0.85}}, {"355", {0.7, 0.85}},
   {"420", {0.62, 0.75}}, {"450", {0.62, 0.75}}, {"460", {0.62, 0.75}},
 };
+// clang-format on
 
 BetaSaldature CalcolaBeta(const MatAcciaio& acciaio) {
   for (const Famiglia& f : FAMIGLIE)

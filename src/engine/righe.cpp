@@ -84,6 +84,7 @@ static constexpr const char* NTC_S2 = "NTC 2008 4.2.8.2.4 (4.2.79)";
 static constexpr const char* NTC_ACC = "NTC 2008 4.2.4.1.1";
 static constexpr const char* NTC_CLS = "NTC 2008 4.1.2.1.1.1";
 
+// clang-format off
 static constexpr Criterio CRITERI_TA[] = {
   // id           name                               quantity  clause elements   present       demand             rounding    limit            passes
   { "tir.coeff", "Tirafondo, trazione e taglio",     RAPPORTO, CNR,  TIRAFONDI, nullptr,      SommaQuadrati,     Arrotonda2, Uno,             NonOltre, true },
@@ -107,6 +108,7 @@ static constexpr Criterio CRITERI_SLU[] = {
   { "nerv.y",    "Nervature lungo Y",                TENSIONE, NTC_ACC, NODO,      ConNervature, NervaturaYAssoluta,   nullptr, LimNerv,    NonOltre },
   { "cls",       "Pressione sul calcestruzzo",       TENSIONE, NTC_CLS, NODO,      nullptr,      CalcestruzzoAssoluto, nullptr, LimCls,     NonOltre },
 };
+// clang-format on
 static_assert(std::size(CRITERI_TA) == TA_CLS + 1 && std::size(CRITERI_SLU) == SLU_CLS + 1);
 static_assert(std::size(CRITERI_TA) <= MaxCriteri && std::size(CRITERI_SLU) <= MaxCriteri);
 

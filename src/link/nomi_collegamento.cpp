@@ -4,6 +4,7 @@
 #include "link/collegamento.h"
 
 std::span<const RigaNome> NomiCollegamento() {
+  // clang-format off
   static const RigaNome NOMI[] = {
     VOCE(collegamento, NumAsteNodo), VOCE(collegamento, AsteNodo), VOCE(collegamento, SezAsteNodo),
     VOCE(collegamento, SezioniStr, DA_1, CampiSezione()), VOCE(collegamento, SezioneImp, DA_1, CampiSezione()),
@@ -11,5 +12,6 @@ std::span<const RigaNome> NomiCollegamento() {
     VOCE(collegamento, NumCondStr), VOCE(collegamento, CondStr), VOCE(collegamento, NumSestettiStr), VOCE(collegamento, SestettiStr),
     VOCE(collegamento, TipiCaso), VOCE(collegamento, Letti), VOCE(collegamento, Presi),
   };
+  // clang-format on
   return NOMI;
 }

@@ -30,6 +30,7 @@ struct Layout {
 };
 }  // namespace
 
+// clang-format off
 constexpr Layout LAYOUT[] = {
     {FILTRO_PROFILI, "S1--2----t---" "c" "--HBAER", {}},
     {" INP ", "S1--2----t---" "c" "--HBAERr", {}},
@@ -40,6 +41,7 @@ constexpr Layout LAYOUT[] = {
     {" LU ", "S1-2-t--" "c" "--BAxy-Rr", {{&Sezione::H, &Sezione::R2}, {&Sezione::E, &Sezione::R2}}},
     {" UPN ", "S1-2-t--" "c" "--HBAEyRr", {{&Sezione::Xc, &Sezione::B, 0.5}}},
 };
+// clang-format on
 
 namespace {
 // Which field a letter fills, and how it scales: 1 length, 2 area, 4 second moment.
@@ -50,11 +52,13 @@ struct Campo {
 };
 }  // namespace
 
+// clang-format off
 constexpr Campo CAMPI[] = {
     {'H', &Sezione::H, 1},    {'B', &Sezione::B, 1},  {'A', &Sezione::A, 1},  {'E', &Sezione::E, 1},
     {'R', &Sezione::R, 1},    {'r', &Sezione::R2, 1}, {'x', &Sezione::Xc, 1}, {'y', &Sezione::Yc, 1},
     {'S', &Sezione::Area, 2}, {'1', &Sezione::J1, 4}, {'2', &Sezione::J2, 4}, {'t', &Sezione::Jt, 4},
 };
+// clang-format on
 
 static bool InElenco(std::string_view elenco, std::string_view famiglia) { return Contiene(elenco, " " + std::string(famiglia) + " "); }
 

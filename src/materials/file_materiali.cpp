@@ -82,6 +82,7 @@ struct SezioneCatalogo {
 };
 }  // namespace
 
+// clang-format off
 constexpr SezioneCatalogo SEZIONI[] = {
     {"ACCIAIO_DA_CARPENTERIA_SEZIONI_APERTE", [](FileLettura& f) { LeggiSezione(f, materiali.NumAcciai, materiali.AcciaiBase, LeggiAcciaio); }},
     {"ACCIAIO_DA_CARPENTERIA_SEZIONI_CHIUSE", [](FileLettura& f) { LeggiSezione(f, materiali.NumAcciaiChiusi, materiali.AcciaiChiusiBase, LeggiAcciaio); }},
@@ -89,6 +90,7 @@ constexpr SezioneCatalogo SEZIONI[] = {
     {"CALCESTRUZZI", [](FileLettura& f) { LeggiSezione(f, materiali.NumCls, materiali.ClsBase, LeggiCls); }},
     {"ACCIAIO_DA_CA", [](FileLettura& f) { LeggiSezione(f, materiali.NumAcciaiCA, materiali.AcciaiCABase, LeggiAcciaioCA); }},
 };
+// clang-format on
 
 // --- the job's materials -----------------------------------------------------------------------------------------------------
 

@@ -94,6 +94,7 @@ bool ValoreModello(std::string_view nome, std::string& valore, TabelleNomi altri
   return false;
 }
 
+// clang-format off
 static constexpr RigaNome CAMPI_SEZIONE[] = {
   CAMPO(Sezione, Nome), CAMPO(Sezione, H), CAMPO(Sezione, B), CAMPO(Sezione, A), CAMPO(Sezione, E), CAMPO(Sezione, R),
   CAMPO(Sezione, R2), CAMPO(Sezione, Xc), CAMPO(Sezione, Yc), CAMPO(Sezione, Area), CAMPO(Sezione, J1), CAMPO(Sezione, J2),
@@ -113,7 +114,9 @@ static constexpr RigaNome CAMPI_VITI[] = {
   CAMPO(MatViti, Nome), CAMPO(MatViti, SAmm), CAMPO(MatViti, TauAmm), CAMPO(MatViti, Fy), CAMPO(MatViti, Ft),
   CAMPO(MatViti, NonUsato), CAMPO(MatViti, GammaM2),
 };
+// clang-format on
 static constexpr RigaNome CAMPI_CA[] = {CAMPO(MatCA, Nome), CAMPO(MatCA, V)};
+// clang-format off
 static constexpr RigaNome NOMI[] = {
   // Joint
   VOCE(nodo, NomeNodo), VOCE(nodo, Sezione, DA_1, CAMPI_SEZIONE), VOCE(nodo, LatoZ), VOCE(nodo, LatoY), VOCE(nodo, SpessPiastra),
@@ -145,5 +148,6 @@ static constexpr RigaNome NOMI[] = {
   VOCE(materiali, MatBaseCls, DA_1, CAMPI_CLS), VOCE(materiali, ModuloEBase), VOCE(materiali, GammaMBase),
   VOCE(materiali, MemoriaMateriali, PRIMA_1, CAMPI_ACCIAIO),
 };
+// clang-format on
 std::span<const RigaNome> NomiModello() { return NOMI; }
 std::span<const RigaNome> CampiSezione() { return CAMPI_SEZIONE; }

@@ -11,6 +11,7 @@ struct TrattiSaldature { Estremi tratti[SALD_COLONNA]; };   // welds 1 to 8
 
 inline TrattiSaldature TrattiColonna(const Sezione& s) {
   const double H = s.H, B = s.B, a = s.A, e = s.E, r = s.R;
+  // clang-format off
   return {{
     //  zi          yi              zf          yf
     { a / 2,      -H / 2 + e + r, a / 2,      H / 2 - e - r  },
@@ -22,4 +23,5 @@ inline TrattiSaldature TrattiColonna(const Sezione& s) {
     { -B / 2,     -H / 2,         B / 2,      -H / 2         },
     { B / 2,      -H / 2 + e,     a / 2 + r,  -H / 2 + e     },
   }};
+  // clang-format on
 }

@@ -20,6 +20,7 @@ struct SchemaTirafondi {
   int lato[4];                     // anchor added at each side of the plate, 0 none; the row there has three
 };
 
+// clang-format off
 constexpr SchemaTirafondi SCHEMI[4] = {
   // n  extra anchors                          holes                                                              upper, right, lower, left
   { 4, {},                                     { { 'Z', 1, 2 }, { 'Y', 1, 3 } },                                  { 0, 0, 0, 0 } },
@@ -27,6 +28,7 @@ constexpr SchemaTirafondi SCHEMI[4] = {
   { 6, { {1, 0}, {2, 0} },                     { { 'Z', 1, 2 }, { 'Y', 1, 5 }, { 'Y', 5, 3 } },                   { 0, 6, 0, 5 } },
   { 6, { {0, 3}, {0, 1} },                     { { 'Z', 1, 6 }, { 'Z', 6, 2 }, { 'Y', 1, 3 } },                   { 6, 0, 5, 0 } },
 };
+// clang-format on
 
 // The joint's pattern; a choice outside the table counts as four.
 inline int SchemaTir(const Nodo& nodo) { return nodo.OptionNTir >= 1 && nodo.OptionNTir <= 3 ? nodo.OptionNTir : 0; }

@@ -19,10 +19,12 @@ struct CampoTf {
 };
 }  // namespace
 
+// clang-format off
 constexpr CampoTf CAMPI[] = {
   {&Nodo::TfLFt, 11, 1},    {&Nodo::TfL, 12, 2},     {&Nodo::TfR, 13, 3},  {&Nodo::TfL1, 14, 4},        {&Nodo::TfLF, 15, 0},
   {&Nodo::TfHMalta, 17, 7}, {&Nodo::TfLFil, 0, 9},   {&Nodo::TfDForo, 19, 9}, {&Nodo::TfDistBordo, 20, 10},
 };
+// clang-format on
 
 static bool Uncinato() { return nodo.TipoTirafondo == TIPO_UNCINATO; }
 static int CampoDelTipo(const CampoTf& c) { return Uncinato() ? c.tipo2 : c.tipo1; }
@@ -78,6 +80,7 @@ constexpr const char* LABEL6[] = {"L", "R", "L fuori plinto", "", "Dist. bordo p
 static constexpr StatoFormTF& P = formTF;
 constexpr Genere CAMPO = Genere::Campo, ETICHETTA = Genere::Etichetta, LISTA = Genere::Lista;
 
+// clang-format off
 constexpr RigaPannello RIGHE[] = {
   {"SSTab1", Genere::Schede, &P.SSTab1, 0, 0, false, "", SCHEDE, {}, nullptr, FormTF_SSTab1},
   Riga("PictureTF1", Genere::Immagine, P.PictureTF[0], "SSTab1/0", ""),
@@ -106,6 +109,7 @@ constexpr RigaPannello RIGHE[] = {
 
   Riga("MatBulOK", Genere::Comando, P.MatBulOK, "", "OK", {}, FormTF_MatBulOK),
 };
+// clang-format on
 
 const Pannello FormTF = {"FormTF", RIGHE, true, &formTF.titolo, RileggiFormTF, Mostrato, nullptr, &formTF.aperto, &formTF.caricato};
 

@@ -20,25 +20,31 @@ static constexpr const char* LABEL3[] = {"LFt", "L", "R", "L1", "LF", "Fi"};
 static constexpr const char* LABEL30[] = {"Acciaio", "Acciaio, C.c. II", "Tirafondi, C.c. II", "Calcestruzzo", "Tirafondi"};
 static constexpr const char* TIPOVER[] = {"Tensioni ammissibili (CNR 10011/88)", "Stati limite (NTC 2008)"};
 
+// clang-format off
 static constexpr const char* AIUTO_LATO[] = {
     "Inserire il valore del lato piastra lungo Z", "Inserire il valore del lato piastra lungo Y",
     "Inserire il valore dei margini piastra-colonna lungo Z",
     "Inserire il valore dei margini piastra_colonna lungo Y",           // the underscore is part of the text
     "Inserire lo spessore della piastra"};
+// clang-format on
 static constexpr const char* AIUTO_LABEL2[] = {"", "", "", "", "Inserire lo spessore della piastra"};
 static constexpr const char* AIUTO_GEOP[] = {"Inserimento dei lati della piastra", "Inserimento dei margini piastra-colonna"};
 static constexpr const char* AIUTO_DTF[] = {"Inserire il valore di Dz1", "Inserire il valore di Dz2",
                                             "Inserire il valore di Dy1", "Inserire il valore di Dy2"};
 static constexpr const char* AIUTO_NERV[] = {"Inserire l'altezza delle nervature", "Inserire lo spessore delle nervature"};
 static constexpr const char* AIUTO_GOLA = "Inserire il lato dei cordoni di saldatura";
+// clang-format off
 static constexpr const char* AIUTO_TIPO[] = {"Tipologia n°1: non è prevista nessuna nervatura",
                                              "Tipologia n°2: sono previste 4 nervature",
                                              "Schema dei valori da inserire per posizionare i tirafondi"};
+// clang-format on
 static constexpr const char* AIUTO_GEOM[] = {"Altezza colonna", "Larghezza colonna", "Spessore anima colonna",
                                              "Spessore ali colonna", "Raggio colonna"};
+// clang-format off
 static constexpr const char* AIUTO_TIR[] = {
     "Tirafondo: lunghezza fuori plinto", "Tirafondo: lunghezza di annegamento", "Tirafondo: raggio di curvatura",
     "Tirafondo: lunghezza di risalita", "Tirafondo: profondità dei fori nel plinto", "Tirafondo: diametro nominale"};
+// clang-format on
 
 // ---- rows ----
 
@@ -48,6 +54,7 @@ static constexpr Genere CORNICE = Genere::Cornice, ETICHETTA = Genere::Etichetta
 
 static constexpr StatoInsDati& P = insDati;
 
+// clang-format off
 static constexpr RigaPannello RIGHE[] = {
   // tabs, status line, version
   {"SSTab", Genere::Schede, &P.SSTab, 0, 0, false, "", SCHEDE},
@@ -159,6 +166,7 @@ static constexpr RigaPannello RIGHE[] = {
   Riga("LegendaButt", COMANDO, P.LegendaButt, "", "<",           {}, InsDati_LegendaButt),
   Riga("Chiudi",      COMANDO, P.Chiudi,      "", "Chiudi",      "Chiusura del programma", InsDati_Chiudi),
 };
+// clang-format on
 
 const Pannello InsDati = {"InsDati", RIGHE, false, &insDati.titolo, InsDati_Mostrato, nullptr, InsDati_Passa,
                           &insDati.aperto, &insDati.caricato};

@@ -28,11 +28,13 @@ struct CampoOpzione {
 };
 }  // namespace
 
+// clang-format off
 constexpr CampoOpzione CAMPI[] = {
   {0, 0, true},   {1, 1, true},   {2, 2, true},   {3, 3, true},   {4, 4, true},   {5, 5, true},   {6, 6, true},
   {7, 7, true},   {8, 8, true},   {9, 9, true},   {10, 10, true}, {11, 11, true}, {12, 12, true}, {13, 13, true},
   {14, 14, true}, {15, 19, true}, {16, 20, false}, {25, 25, false}, {26, 26, false}, {27, 27, false},
 };
+// clang-format on
 
 static void MostraScelte() {
   SelezionaVoce(opNodo.Option1[0], suite.ParNodo[QUOTE_INF] != 0 ? 1 : 0);
@@ -61,16 +63,19 @@ static void Op_Nodo_Def(int) {
   piattaforma.fine();
 }
 
+// clang-format off
 constexpr const char* PARAMETRI[] = {
     "Colore disegno nodo", "Colore assi sezioni", "Colore sezioni", "Colore quote", "Colore linee quote", "Colore testo", "Colore distinta",
     "Altezza quote", "Larghezza quote", "Altezza testi", "Larghezza testi", "Altezza testi distinta", "Larghezza testi distinta",
     "Distanza testo-quote", "Diametro indicatori quote", "Scala nodo/Scala tiraf.", "Colore saldature"};
+// clang-format on
 constexpr const char* STILI[] = {"Stile quote particolari GRB", "Stile testi GRB", "Stile quote GRB"};
 constexpr const char* OPTION1[] = {"Quote sup.", "Quote inf."};
 
 static constexpr StatoOpNodo& P = opNodo;
 constexpr Genere CAMPO = Genere::Campo, ETICHETTA = Genere::Etichetta, COMANDO = Genere::Comando;
 
+// clang-format off
 constexpr RigaPannello RIGHE[] = {
   Serie("Par_Nodo", CAMPO,     P.Par_Nodo,       0, 16, "", ""),
   Serie("Par_Nodo", CAMPO,     &P.Par_Nodo[25], 25, 27, "", ""),
@@ -84,6 +89,7 @@ constexpr RigaPannello RIGHE[] = {
   Riga("Chiudi",    COMANDO, P.Chiudi,  "", "Chiudi",  {}, Op_Nodo_Chiudi),
   Riga("Def",       COMANDO, P.Def,     "", "Salva",   {}, Op_Nodo_Def),
 };
+// clang-format on
 
 const Pannello Op_Nodo = {"Op_Nodo", RIGHE, false, &opNodo.titolo, nullptr, nullptr, nullptr, &opNodo.aperto, &opNodo.caricato};
 

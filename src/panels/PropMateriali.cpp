@@ -70,6 +70,7 @@ static void PropMateriali_Chiudi(int) { piattaforma.chiudi(PropMateriali); }
 static constexpr StatoPropMateriali& P = propMateriali;
 constexpr Genere CORNICE = Genere::Cornice, ETICHETTA = Genere::Etichetta;
 
+// clang-format off
 constexpr RigaPannello RIGHE[] = {
   Riga("Unit", ETICHETTA, P.Unit, "", ""),
 
@@ -126,6 +127,7 @@ constexpr RigaPannello RIGHE[] = {
 
   Riga("Chiudi", Genere::Comando, P.Chiudi, "", "Chiudi", {}, PropMateriali_Chiudi),
 };
+// clang-format on
 
 const Pannello PropMateriali = {"PropMateriali", RIGHE, true, &propMateriali.titolo, Carica, nullptr, nullptr, &propMateriali.aperto,
                                 &propMateriali.caricato};

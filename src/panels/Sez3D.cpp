@@ -106,6 +106,7 @@ constexpr const char* GEOM[] = {"h:", "b:", "a:", "e:", "r :"};
 static constexpr StatoSez3D& P = sez3D;
 constexpr Genere ETICHETTA = Genere::Etichetta, COMANDO = Genere::Comando;
 
+// clang-format off
 constexpr RigaPannello RIGHE[] = {
   Riga("Label2",   ETICHETTA, P.Label2, "", "Colonna"),
   Riga("Label1",   ETICHETTA, P.Label1, "", "Nome Nodo"),
@@ -119,5 +120,6 @@ constexpr RigaPannello RIGHE[] = {
   Riga("OK",       COMANDO, P.OK, "", "OK", {}, Sez3D_OK),
   Riga("Annulla",  COMANDO, P.Annulla, "", "Annulla", {}, Sez3D_Annulla),
 };
+// clang-format on
 
 const Pannello Sez3D = {"Sez3D", RIGHE, true, &sez3D.titolo, Carica, nullptr, nullptr, &sez3D.aperto, &sez3D.caricato};

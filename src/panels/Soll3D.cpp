@@ -116,6 +116,7 @@ constexpr const char* SUGG_CERCA[] = {"Cerca le aste corrispondenti ai nodi inse
 static constexpr StatoSoll3D& P = soll3D;
 constexpr Genere CAMPO = Genere::Campo, ETICHETTA = Genere::Etichetta, COMANDO = Genere::Comando;
 
+// clang-format off
 constexpr RigaPannello RIGHE[] = {
   Riga("LNodi",  ETICHETTA, P.LNodi,  "", "Inserimento nodi"),
   Riga("LAste",  ETICHETTA, P.LAste,  "", "Inserimento aste"),
@@ -141,6 +142,7 @@ constexpr RigaPannello RIGHE[] = {
   Riga("Importa",   COMANDO, P.Importa,   "", "Importa", "Importa le sollecitazioni nel pannello principale", Soll3D_Importa),
   Riga("Chiudi",    COMANDO, P.Chiudi,    "", "Chiudi",  "Chiude la finestra", Soll3D_Chiudi),
 };
+// clang-format on
 
 const Pannello Soll3D = {"Soll3D", RIGHE, true, &soll3D.titolo, Carica, nullptr, nullptr, &soll3D.aperto, &soll3D.caricato};
 

@@ -29,6 +29,7 @@ struct Componente {
 };
 }  // namespace
 
+// clang-format off
 static constexpr Componente COMPONENTI[] = {
     {&Nodo::SollN, &StatoInsDati::TxtSN, &Suite::FattForze},
     {&Nodo::SollTy, &StatoInsDati::TxtTy, &Suite::FattForze},
@@ -37,6 +38,7 @@ static constexpr Componente COMPONENTI[] = {
     {&Nodo::SollMy, &StatoInsDati::TxtMy, &Suite::FattMomenti},
     {&Nodo::SollMz, &StatoInsDati::TxtMz, &Suite::FattMomenti},
 };
+// clang-format on
 constexpr int NumComp = 6;
 
 static double& Valore(int k, int n) { return (nodo.*COMPONENTI[k].valori)[n]; }

@@ -8,6 +8,7 @@
 
 static_assert(std::is_standard_layout_v<Saldatura>);          // offsetof is told for this layout
 
+// clang-format off
 static constexpr RigaNome CAMPI_SALDATURA[] = {
   CAMPO(Saldatura, Nome), CAMPO(Saldatura, Lung), CAMPO(Saldatura, TauPa, DA_0), CAMPO(Saldatura, TauPe, DA_0),
   CAMPO(Saldatura, SPrp, DA_0), CAMPO(Saldatura, SEq1, DA_0), CAMPO(Saldatura, SEq2, DA_0), CAMPO(Saldatura, PZ),
@@ -29,4 +30,5 @@ static constexpr RigaNome NOMI[] = {
   VOCE(lavoro.presInfl, NumPoli), VOCE(lavoro.presInfl, PoliX), VOCE(lavoro.presInfl, PoliY), VOCE(lavoro.presInfl, K), VOCE(lavoro.presInfl, ForzeInt),
   VOCE(lavoro.presInfl, Residuo), VOCE(lavoro.presInfl, PianoDef), VOCE(lavoro.presInfl, IterPres),
 };
+// clang-format on
 std::span<const RigaNome> NomiLavoro() { return NOMI; }

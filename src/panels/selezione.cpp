@@ -91,6 +91,7 @@ constexpr const char* SUGG_LIMITI[] = {"Inserire il limite minimo dell'intervall
 static constexpr StatoSelezione& P = selezione;
 constexpr Genere CORNICE = Genere::Cornice, SCELTA = Genere::Scelta, SPUNTA = Genere::Spunta, ETICHETTA = Genere::Etichetta;
 
+// clang-format off
 constexpr RigaPannello RIGHE[] = {
   Riga("Colori",    CORNICE, P.Colori, "", "Colori"),
   Riga("Linee",     CORNICE, P.Linee,  "", "Linee"),
@@ -107,5 +108,6 @@ constexpr RigaPannello RIGHE[] = {
   Riga("Chiudi",    Genere::Comando, P.Chiudi, "", "Chiudi", "Cliccare per chiudere la finestra", Selezione_Chiudi),
   Riga("HLabSel",   ETICHETTA, P.HLabSel, "", ""),
 };
+// clang-format on
 
 const Pannello Selezione = {"selezione", RIGHE, true, &selezione.titolo, Carica, nullptr, Passa, &selezione.aperto, &selezione.caricato};

@@ -26,11 +26,14 @@ constexpr Colonna COL_TIRAFONDI[] = {
   {"Num", LB(7)}, {"X", RB(3)}, {"Y", RB(5)}, {"Fi", RB(4)}, {"Area", RB(7)},
 };
 constexpr Colonna COL_DIMENSIONI[] = {{"l", RB(5)}, {"lft", RB(5)}, {"l1", RB(5)}, {"r", RB(5)}};
+// clang-format off
 constexpr Colonna COL_SALDATURE[] = {      // the second "Nome" is 4 wide over cells of 5: its column stands one to the left
   {"Nome", LB(5)}, {"Lung", RB(7)}, {"Lato", RB(4)}, {" ", VUOTO}, {"Nome", LB(4)}, {"Lung", RB(7)}, {"Lato", RB(4)},
 };
+// clang-format on
 constexpr Colonna COL_MATERIALI[] = {{"fd s<40mm", LB(20)}, {"fd 40mm<s<80mm", LB(20)}, {"fcd", L(40)}};
 constexpr Colonna COL_MAT_TIRAFONDI[] = {{"fd", LB(41)}};
+// clang-format off
 constexpr Colonna COL_VER_TIRAFONDI[] = {
   {"Num", LB(3)},    {"Fv,Ed", RB(7)}, {"Fv,Rd", RB(7)},  {"Fb,Rd", RB(7)}, {"Ft,Ed", RB(7)}, {"Ft,Rd", RB(7)},
   {"Bp,Rd", RB(7)}, {"Tad,Rd", RB(7)}, {"Co-1", RB(4)}, {"Co-2", RB(4)},  {"Co-3", RB(4)},  {"Ver", RB(4)},
@@ -39,6 +42,7 @@ constexpr Colonna COL_VER_SALDATURE[] = {
   {"Nome", RB(5)},  {"S_prp", RB(5)}, {"Tau_pa", RB(8)}, {"Tau_pe", RB(8)}, {"SEq-1", RB(8)},
   {"SEq-2", RB(8)}, {"SLim-1", RB(8)}, {"SLim-2", RB(8)}, {"Ver", RB(8)},
 };
+// clang-format on
 constexpr Colonna COL_VER_PIASTRA[] = {{"Smax", RB(7)}, {"fd", RB(7)}, {"Ver", RB(7)}};
 constexpr Colonna COL_VER_NERVATURE[] = {{"Posizione", LB(9)}, {"Smax", RB(7)}, {"fd", RB(7)}, {"Ver", RB(7)}};
 constexpr Colonna COL_VER_CLS[] = {{"Smax", RB(7)}, {"fcd", RB(7)}, {"Ver", RB(7)}};

@@ -113,11 +113,13 @@ struct Voce {
 };
 }  // namespace
 
+// clang-format off
 static constexpr Voce AVVISI[] = {
   { "senza_sestetti", SenzaSestetti },     { "cls_ta", ClsTA },         { "uncino_ta", UncinoTA }, { "grado_diverso", GradoDiverso },
   { "oltre_40", SpessoreOltre40 },         { "tirafondo_fuori", TirafondoFuori }, { "diametro", Diametro },
   { "quota_nervatura", QuotaNervatura },   { "nomi_con_virgola", NomiConVirgola }, { "al_limite", RigheAlLimite },
 };
+// clang-format on
 
 std::vector<Avviso> AvvisiNodo(const Nodo& nodo, int metodo, const Suite& suite, const GradiFile& gradi, const Lavoro* giudicato) {
   const RiparoFault riparo;

@@ -102,10 +102,12 @@ static void MembroTirafondi(Scrittura& j, const Nodo& n, const Suite& suite) {
   Apri(j, '[');
   for (int i = 1; i <= n.NTir; ++i) Coppia(j, n.TfZ[i], n.TfY[i]);
   Chiudi(j, ']');
+  // clang-format off
   const std::pair<const char*, double> misure[] = {
     {"l", n.TfL},   {"lft", n.TfLFt},        {"l1", n.TfL1},          {"r", n.TfR},
     {"lf", n.TfLF}, {"d_foro", n.TfDForo},   {"h_malta", n.TfHMalta}, {"dist_bordo", n.TfDistBordo},
   };
+  // clang-format on
   for (const auto& [nome, v] : misure) Membro(j, nome, v);
   Chiudi(j, '}');
 }

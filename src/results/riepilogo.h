@@ -41,10 +41,12 @@ std::string NodoPersoInJson(NodoGiudicato n, const std::string& motivo, bool tut
 
 enum class FormatoRiepilogo : unsigned char { Json, Jsonl, Csv, CsvIt, Testo };
 struct RigaFormatoRiepilogo { std::string_view nome; FormatoRiepilogo formato; };
+// clang-format off
 constexpr RigaFormatoRiepilogo FORMATI_RIEPILOGO[] = {
   { "json", FormatoRiepilogo::Json },     { "jsonl", FormatoRiepilogo::Jsonl }, { "csv", FormatoRiepilogo::Csv },
   { "csv-it", FormatoRiepilogo::CsvIt },  { "testo", FormatoRiepilogo::Testo },
 };
+// clang-format on
 
 // An output is its head, one piece an object in the order of the list, and its foot.
 std::string TestaRiepilogo(FormatoRiepilogo f);

@@ -155,11 +155,13 @@ namespace {
 struct MembroAtteso { std::string_view nome; std::string_view generi; };
 }  // namespace
 
+// clang-format off
 static constexpr MembroAtteso MEMBRI[] = {
   { "schema", "t" },   { "programma", "o" },      { "percorso", "t" },       { "sha256", "nt" },   { "nome", "t" },       { "metodo", "nt" },
   { "stato", "t" },    { "motivo", "nt" },        { "opzioni", "o" },        { "suite_sha256", "nt" }, { "nodi_struttura", "l" }, { "ingresso", "no" },
   { "geometria", "nl" }, { "sestetti", "l" },     { "governanti", "no" },    { "avvisi", "l" },
 };
+// clang-format on
 
 static char LetteraDi(const Letto& v) {
   using enum Letto::Genere;

@@ -139,23 +139,27 @@ TEST_F(ControlliTest, LimitiDeiPositivi) {             // the bound is zero itse
 TEST_F(ControlliTest, ForiSovrapposti) {
   // Pattern by pattern the holes that touch pass, a tenth of a millimetre more does not. Spacing along Z 300, along Y 400.
   struct Riga { int schema; double foro; bool passa; };
+  // clang-format off
   const Riga RIGHE[] = {
     { 0, 300, true }, { 0, 300.1, false },             // 1-2 at 300 along Z; 1-3 at 400 along Y
     { 1, 150, true }, { 1, 150.1, false },             // 1-8 and 8-2 at 150; 1-5, 5-3 at 200
     { 2, 200, true }, { 2, 200.1, false },             // 1-5, 5-3 at 200 along Y
     { 3, 150, true }, { 3, 150.1, false },             // 1-6, 6-2 at 150 along Z
   };
+  // clang-format on
   for (const Riga& r : RIGHE) {
     const Eventi e = Dopo([&] { SchemaProva(r.schema); nodo.TfDForo = r.foro; nodo.TfLFt = r.foro + 20; });
     EXPECT_EQ(e, r.passa ? Eventi{} : Eventi{ Domanda(T4) }) << r.schema << ' ' << r.foro;
   }
   // Each listed pair by itself.
   struct Coppia { int schema, sposta; char asse; double valore; };
+  // clang-format off
   const Coppia COPPIE[] = {
     { 0, 3, 'Y', 149 }, { 1, 8, 'Z', 149 }, { 1, 8, 'Z', 251 }, { 1, 5, 'Y', 149 }, { 1, 5, 'Y', 351 },
     { 2, 5, 'Y', 149 }, { 2, 5, 'Y', 351 }, { 3, 6, 'Z', 149 }, { 3, 6, 'Z', 251 }, { 3, 3, 'Y', 149 },
     { 1, 3, 'Y', 349 }, { 2, 3, 'Y', 349 },
   };
+  // clang-format on
   for (const Coppia& c : COPPIE)
     EXPECT_EQ(Dopo([&] { SchemaProva(c.schema); (c.asse == 'Z' ? nodo.TfZ : nodo.TfY)[c.sposta] = c.valore; }), Eventi{ Domanda(T4) })
         << c.schema << ' ' << c.sposta;
@@ -287,12 +291,14 @@ TEST_F(ControlliTest, BordoNTC) {
   const std::string testo = "La distanza dei tirafondi dal bordo della piastra risulta difforme dalle prescrizioni (NTC 2008)";
   // Lower bound 1.2 x 20 = 24. Upper: exposed 4 x 20 + 40 = 120, not exposed none, else the larger of 8 x 20 = 160 and 125.
   struct Riga { int esposizione; double t, D; bool passa; };
+  // clang-format off
   const Riga RIGHE[] = {
     { 0, 20, 24, true },  { 0, 20, 23.9, false }, { 0, 20, 120, true },   { 0, 20, 120.1, false },
     { 1, 20, 24, true },  { 1, 20, 23.9, false }, { 1, 20, 10000, true },
     { 2, 20, 160, true }, { 2, 20, 160.1, false }, { 2, 10, 125, true },  { 2, 10, 125.1, false }, { 2, 20, 23.9, false },
     { -1, 20, 160, true }, { -1, 20, 160.1, false }, { -1, 10, 125.1, false },
   };
+  // clang-format on
   for (const Riga& r : RIGHE) {
     NodoProva();
     nodo.Esposizione = r.esposizione;

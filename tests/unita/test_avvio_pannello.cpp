@@ -222,6 +222,7 @@ TEST(AvvioPannello, TheTemplateComesBetweenLibraryAndCatalogue) {
 // Everything is missing at first; each file put back lets the start come one step further.
 TEST(AvvioPannello, TheFirstFailureInTheOrderOfTheStartEndsIt) {
   const std::string radice = PreparaSuite("avvio_tutto"), altrove = PreparaSuite("avvio_intera");
+  // clang-format off
   const struct { const char* file; const char* box; } passi_[] = {
       {"/impostazioni/dirlav", "dirlav errato o mancante"},
       {"/impostazioni/lavoro", "lavoro errato o mancante"},
@@ -231,6 +232,7 @@ TEST(AvvioPannello, TheFirstFailureInTheOrderOfTheStartEndsIt) {
       {"/custom/MaterialiNTC08.tx1", "non trovato o non valido"},
       {"/custom/OpzioniNodi1-5.txt", "OpzioniNodi1-5.txt errato o mancante."},
   };
+  // clang-format on
   const std::string dirlav = LeggiByte(radice + "/impostazioni/dirlav");
   for (const auto& p : passi_) Togli(radice + p.file);
   for (const auto& p : passi_) {

@@ -236,6 +236,7 @@ TEST_F(CalcoliTest, SolutoreFallitoAlTerzo) {
 
 TEST_F(CalcoliTest, FaultFermanoLaVerifica) {          // one box, no report, nothing of the diameter
   struct Guasto { const char* nome; void (*modifica)(); };
+  // clang-format off
   const Guasto GUASTI[] = {
     { "SommaR2", [] { for (int i = 1; i <= 4; ++i) { nodo.TfZ[i] = 200; nodo.TfY[i] = 250; } } },
     { "LungTz", [] { nodo.TipoNodo = 1; nodo.Sezione.B = nodo.Sezione.A = nodo.Sezione.R = 0; } },
@@ -256,6 +257,7 @@ TEST_F(CalcoliTest, FaultFermanoLaVerifica) {          // one box, no report, no
     { "area nulla", [] { for (double& a : suite.DiamArea) a = 0; } },
     { "troppo grande", [] { nodo.SollMz[1] = 1e308; nodo.SollN[1] = 1e308; } },
   };
+  // clang-format on
   for (const Guasto& g : GUASTI) {
     Prepara();
     g.modifica();

@@ -27,8 +27,10 @@ TEST(Casa, LeStanzeVannoInUnSensoSolo) {
 }
 
 TEST(Casa, FrecceAllaRovesciaTrovate) {
+  // clang-format off
   Sorgenti s = {{"model/nodo.h", ""}, {"core/file.h", "#include \"model/nodo.h\"\n"}, {"engine/a.h", ""}, {"reports/a.h", ""},
                 {"link/a.h", ""},     {"panels/a.h", "#include \"reports/a.h\"\n"},     {"app/qt/a.h", "#include \"app/b.h\"\n"}, {"app/b.h", ""}};
+  // clang-format on
   EXPECT_EQ(Elenco(FrecceAllaRovescia(s)), "");
   s["model/nodo.h"] = "#include <vector>\n#include \"core/file.h\"\n";
   s["engine/a.h"] = "  #  include \"reports/a.h\"\n";
@@ -65,14 +67,18 @@ TEST(Casa, PortataDelMotoreTrovata) {
 }
 
 TEST(Casa, VariabiliDelMotoreTrovate) {
+  // clang-format off
   const char* const mutabili[] = {"inline int conta = 0;", "static double v;", "int tabella[3] = {1, 2, 3};", "const char* testo = \"const\";", "namespace { S s{}; }",
                                   "struct S { int a; } s;", "thread_local int n;", "void (*chiama)(int) = nullptr;", "void F() { static int volte = 0; ++volte; }",
                                   "inline std::vector<int> lista;", "namespace prova { inline S s; }"};
+  // clang-format on
   for (const char* t : mutabili) EXPECT_EQ(PortataDelMotore({{"engine/a.h", t}}).size(), 1u) << t;
+  // clang-format off
   const char* const fisse[] = {"constexpr int N = 3;", "inline constexpr double K[] = {1, 2};", "const S TABELLA[] = {{1}, {2}};", "static const char* const NOMI[] = {\"a;\", \"b\"};",
                                "struct S { int a = 0; static int F(); };", "int F(int a = 0);", "static double G(double x) { double y = x; return y; }", "// inline int a;\n",
                                "/* int b; */", "#define A int c;\n", "using T = int;", "enum class E { A, B };", "template <class T> T H(T t) { return t; }", "struct D;",
                                "void F() { static const S VUOTO; static constexpr int K = 1; }", "static_assert(sizeof(int) == 4);", "char F() { return ';'; }"};
+  // clang-format on
   for (const char* t : fisse) EXPECT_EQ(Elenco(PortataDelMotore({{"engine/a.cpp", t}})), "") << t;
 }
 

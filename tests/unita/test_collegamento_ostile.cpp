@@ -264,6 +264,7 @@ const std::vector<std::string> CORPO_RISPOSTE = {"\r\n", "1,,2\r\n", "-\r\n", ",
 }  // namespace
 
 const std::vector<Lettore>& Lettori() {
+  // clang-format off
   static const std::vector<Lettore> lettori = {
       {"struttura", "struttur.str", 110, STRUTTURA_MINIMA, OstileStruttura,
        {"Caricare e risalvare la struttura in 'Ambiente Grafico'", "Errore: uno o più nodi inesistenti", "Errore: mancata corrispondenza fra aste e nodi",
@@ -276,6 +277,7 @@ const std::vector<Lettore>& Lettori() {
       {"nodo", "risposta", 74, "0,2\r\n15\r\n1,5\r\nA\r\nB\r\n", OstileNodo, {"Il profilo della colonna non è applicabile"}, {}, NodoSenzaRisposta, CORPO_RISPOSTE},
       {"calcolatrice", "risposta", 440, " 7.25 \r\n", OstileCalcolatrice, {"Errore aritmetico: il comando non può continuare."}, {}, CalcolatriceSenzaRisposta, CORPO_RISPOSTE},
   };
+  // clang-format on
   return lettori;
 }
 

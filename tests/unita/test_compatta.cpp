@@ -361,11 +361,13 @@ void Passo4() {
 
 void Passo5() {
   Disegno& d = disegno;
+  // clang-format off
   struct {
     std::int32_t* t;
     int n;
   } tabelle[] = {{d.LinIni, d.NumLinee}, {d.LinFin, d.NumLinee}, {d.ArcCen, d.NumArchi}, {d.ArcIni, d.NumArchi},
                  {d.ArcCen2, d.NumArchi}, {d.ArcFin, d.NumArchi}, {d.TesPos, d.NumTesti}, {d.CerCen, d.NumCerchi}};
+  // clang-format on
   for (int i = 0; i < d.NumCoord;) {
     bool usata = false;
     for (const auto& t : tabelle)

@@ -48,11 +48,13 @@ TEST_F(Diametri, SenzaFileRigheInterne) {
   EXPECT_TRUE(registratore.eventi.empty());
   EXPECT_EQ(suite.NumDiam, 22);
   // ISO 898-1 / ISO 724: name, diameter mm, resistant area mm2.
+  // clang-format off
   const struct { const char* nome; double d, area; } attese[] = {
       {"M8", 8, 38.6},   {"M10", 10, 58},   {"M12", 12, 84.3}, {"M14", 14, 115},  {"M16", 16, 157},  {"M18", 18, 192},
       {"M20", 20, 245},  {"M22", 22, 303},  {"M24", 24, 353},  {"M27", 27, 459},  {"M30", 30, 561},  {"M33", 33, 694},
       {"M36", 36, 817},  {"M39", 39, 976},  {"M42", 42, 1120}, {"M45", 45, 1310}, {"M48", 48, 1470}, {"M52", 52, 1760},
       {"M56", 56, 2030}, {"M60", 60, 2360}, {"M64", 64, 2680}, {"M68", 68, 3060}};
+  // clang-format on
   int i = 0;
   for (const auto& a : attese) {
     EXPECT_EQ(suite.DiamNome[i], a.nome);

@@ -305,11 +305,13 @@ TEST_F(FattiTest, DopoIlSolutore) {
   nodo.EcCls = 312201.85778;
   for (double& a : suite.DiamArea) a = 1e-6;           // the anchors hold nothing
   struct Riga { double kz, ky, area, K; };             // eccentricities over the sides; K = pmax A / |N|
+  // clang-format off
   const Riga RIGHE[] = {
     { 0, 0, 100, 1 },      { 0.1, 0, 100, 1.6 },  { 0, -0.12, 100, 1.72 }, { 0.05, 0.05, 100, 1.6 },     // kern: 1 + 6 k
     { 0.3, 0, 60, 10 / 3.0 }, { 0, 0.4, 30, 20 / 3.0 },                // one axis: depth 3 (1/2 - k), 2 / (3 (1/2 - k))
     { 0.3, 0.3, 100 * 0.5 * 0.8 * 0.8, 3 / (8 * 0.2 * 0.2) },            // a corner: legs 4 (1/2 - k)
   };
+  // clang-format on
   nodo.NumSoll = 0;
   for (const Riga& r : RIGHE) SestettoProva(-40000, 0, 0, 0, r.kz * 40000 * 40, r.ky * 40000 * 50);
   ASSERT_TRUE(CalcolaTabelle(LavoroProva()));

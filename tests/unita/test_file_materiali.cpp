@@ -191,12 +191,14 @@ TEST_F(FileMateriali, ConteggioSbagliatoRestaQuelloDiPrima) {
 
 // A line that holds several titles opens the first in the order of the tests, wherever it stands in the line.
 TEST_F(FileMateriali, IlPrimoTitoloDecide) {
+  // clang-format off
   const struct { const char* riga; std::int16_t Materiali::*conteggio; } casi[] = {
     {"ACCIAIO_DA_CARPENTERIA_SEZIONI_CHIUSE ACCIAIO_DA_CARPENTERIA_SEZIONI_APERTE", &Materiali::NumAcciai},
     {"VITI ACCIAIO_DA_CARPENTERIA_SEZIONI_CHIUSE", &Materiali::NumAcciaiChiusi},
     {"CALCESTRUZZI VITI", &Materiali::NumViti},
     {"ACCIAIO_DA_CA CALCESTRUZZI", &Materiali::NumCls},
   };
+  // clang-format on
   for (const auto& c : casi) {
     materiali.NumAcciai = materiali.NumAcciaiChiusi = materiali.NumViti = materiali.NumCls = materiali.NumAcciaiCA = 0;
     Catalogo(c.riga + std::string("\r\n1\r\nA\r\nB\r\n1 2 3 4 5 6 7 8\r\n"));
@@ -242,6 +244,7 @@ TEST_F(FileMateriali, LavoroDiAltroRilascio) {
 
 TEST_F(FileMateriali, OgniChiaveIlSuoCampo) {
   suite.Decimale = ',';                                    // always the point here
+  // clang-format off
   const char* chiavi[] = {"Cls_Classe", "ValoreCalcolato_Cls_Rck", "Cls_Coefficiente_GammaC", "ValoreCalcolato_Cls_Fck", "ValoreCalcolato_Cls_AlfaCC",
       "ValoreCalcolato_Cls_Fcd", "ValoreCalcolato_Cls_Ecm", "ValoreCalcolato_Cls_SAmm", "Acc_Carp_1_Tipo", "Acc_Carp_ModuloDiElasticita_E",
       "Acc_Carp_Coefficiente_GammaM 1", "Acc_Carp_Coefficiente_GammaM 4 9 9 9 9", "ValoreCalcolato_Acc_Carp_1_Fyk_Sp_Min_40", "ValoreCalcolato_Acc_Carp_1_Ftk_Sp_Min_40",
@@ -249,6 +252,7 @@ TEST_F(FileMateriali, OgniChiaveIlSuoCampo) {
       "ValoreCalcolato_Acc_Carp_1_Fyd_Sp_Min_80", "ValoreCalcolato_Acc_Carp_1_SAmm", "Acc_Carp_2_Tipo", "ValoreCalcolato_Acc_Carp_2_Fyk_Sp_Min_40",
       "ValoreCalcolato_Acc_Carp_2_Ftk_Sp_Min_40", "ValoreCalcolato_Acc_Carp_2_Fyd_Sp_Min_40", "ValoreCalcolato_Acc_Carp_2_Fyk_Sp_Min_80",
       "ValoreCalcolato_Acc_Carp_2_Ftk_Sp_Min_80", "ValoreCalcolato_Acc_Carp_2_Fyd_Sp_Min_80", "ValoreCalcolato_Acc_Carp_2_SAmm"};
+  // clang-format on
   std::string t = "x [ReleaseQuestoFile=3] y\r\nsenza chiave\r\n1 [Ignota]\r\n";
   int n = 0;
   for (const char* c : chiavi) t += " " + std::to_string(++n) + ".5 [" + c + "]  \r\n";     // line k holds k.5

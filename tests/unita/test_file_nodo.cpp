@@ -265,11 +265,13 @@ static void Motivo(Righe& r, const char* cifra, int n) {
 }
 
 TEST_F(FileNodo, MotiviEPosizioni) {
+  // clang-format off
   const struct { const char* cifra; int voce, scritti, NTir; } casi[] = {
     {"0", 0, 4, 4}, {"1", 1, 8, 8}, {"2", 2, 6, 6}, {"3", 3, 6, 6}, {" 3 ", 3, 6, 6},
     {"0", 0, 8, 4},                // four by the pattern, whatever the file counts
     {"1", 1, 4, 8},                // eight by the pattern: the four that the file lacks are zero
   };
+  // clang-format on
   for (const auto& c : casi) {
     Righe r = Buono();
     Motivo(r, c.cifra, c.scritti);

@@ -99,6 +99,7 @@ void CatalogoMancante(const std::string& cartella) {
 }  // namespace
 
 const std::vector<Lettore>& Lettori() {
+  // clang-format off
   static const std::vector<Lettore> lettori = {
       {"diametri", "QbDiam.txt", 70, "rem x|\r\nM8|8|38.6|\r\nM20|20|245|\r\nM24|24|353|\r\n", OstileDiametri,
        {"| Errore nella lettura del file QbDiam.txt", "contiene un numero eccessivo di diametri (max 100)"}},
@@ -125,6 +126,7 @@ const std::vector<Lettore>& Lettori() {
        [](const std::string& c) { Altro(c, "impostazioni/dirlav", "c:\\dati\\lavori"); OstileAvvio(c); },
        {"\\impostazioni\\lavoro errato o mancante"}},
   };
+  // clang-format on
   return lettori;
 }
 

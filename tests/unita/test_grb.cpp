@@ -241,6 +241,7 @@ TEST_F(Grb, NomiDelleSaldature) {
   ASSERT_TRUE(EdizioneGrb(edizione));
   quote.EtichetteSald = true;
   ris.Saldature[3].Nome = "S3";
+  // clang-format off
   struct {
     double x2, y2;
     int lato;
@@ -249,6 +250,7 @@ TEST_F(Grb, NomiDelleSaldature) {
     {100, 0, 1, 50, 7 + 12, 0, 12},    {100, 0, -1, 50, -7 - 36, 0, 36},   {-100, 0, 1, -50, -7 - 36, 0, 36},
     {0, 100, 1, -7 - 12, 50, 90, 12},  {0, 100, -1, 7 + 36, 50, 90, 36},   {0, -100, 1, 7 + 36, -50, 90, 36},
   };
+  // clang-format on
   for (const auto& k : casi) {
     AzzeraDisegno();
     DisSaldatura(nullptr, 0, 0, k.x2, k.y2, k.lato, 2, 3);

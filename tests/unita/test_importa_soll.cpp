@@ -42,9 +42,11 @@ struct Importa : testing::Test {
 };
 
 // Bar 5 then bar 6; two sections, two sextets: N tells bar, section and sextet.
+// clang-format off
 const std::vector<RecordRisultati> OTTO = {
     {5, 511, 1, 2, 3, 4, 5},  {5, 512, 1, 2, 3, 4, 5}, {5, 521, 1, 2, 3, 4, 5}, {5, 522, 10.25, -2.25, 0.5, 1.5, 2.5},
     {6, 611, 0, 0, 0, 0, 0},  {6, 612, 0, 0, 0, 0, 0}, {6, 621, 0, 0, 0, 0, 0}, {6, 622, 0, 0, 0, 0, 0}};
+// clang-format on
 
 std::string DaLista(const char* testo, int limite = 2000) {
   std::vector<std::int16_t> lista(static_cast<std::size_t>(limite) + 1);
@@ -174,11 +176,13 @@ TEST_F(Importa, InviluppoDiDodiciRighe) {
   Scrivi("astec007.bin", FileRisultatiDi(1, 1, 3, {{5, 100, 1, -5, 0, 0, 7}, {5, -50, 9, 2, 0, 0, 7}, {5, 100, -3, 2, 0, 0, 7}}));
   ImportaSollecitazioni(true);
   ASSERT_EQ(nodo.NumSoll, 12);
+  // clang-format off
   const struct { int riga; double N, Ty, Tz; } ATTESE[] = {
       {1, 100, 1, -5},  {2, -50, 9, 2},                   // N: the first of two equal ones stays
       {3, -50, 9, 2},   {4, 100, 1, -5},                  // Tz
       {5, -50, 9, 2},   {6, 100, -3, 2},                  // Ty
       {9, 100, 1, -5},  {10, 100, 1, -5}};                // Mz: all equal, the first
+  // clang-format on
   for (const auto& a : ATTESE) {
     EXPECT_EQ(nodo.SollN[a.riga], a.N) << a.riga;
     EXPECT_EQ(nodo.SollTy[a.riga], a.Ty) << a.riga;

@@ -32,6 +32,7 @@ TEST_F(Pannello71, TabsAndFrames) {
 }
 
 TEST_F(Pannello71, CaptionsOfChoicesAndCommands) {
+  // clang-format off
   const struct { const char* nome; int i; const char* testo; } attesi[] = {
       {"TipoVer", 0, "Tensioni ammissibili (CNR 10011/88)"}, {"TipoVer", 1, "Stati limite (NTC 2008)"},
       {"GeoP", 0, " Lati"}, {"GeoP", 1, " Margini"}, {"Op_Tip", 0, " Tipo 1"}, {"Op_Tip", 1, " Tipo 2"},
@@ -46,6 +47,7 @@ TEST_F(Pannello71, CaptionsOfChoicesAndCommands) {
       {"Verifica", -1, "Verifica"}, {"Sav_Nodo", -1, "Salva Nodo"}, {"Car_Nodo", -1, "Carica Nodo"},
       {"CheckMatBase", -1, "Imposta da Materiali-Base"}, {"LegendaButt", -1, "<"}, {"Chiudi", -1, "Chiudi"},
       {"Versione", -1, "Versione NTC 2008"}};
+  // clang-format on
   for (const auto& a : attesi) EXPECT_EQ(C(a.nome, a.i).testo, a.testo) << a.nome << a.i;
 }
 
@@ -176,8 +178,10 @@ TEST_F(Pannello71, SectionIsCopiedWholeAndShown) {
 // All fourteen fields are the library's; nothing of the section before stays.
 TEST_F(Pannello71, NoFieldOfTheFormerSectionStays) {
   Sezione& p = suite.ProfiliLib[10];
+  // clang-format off
   double Sezione::*const campi[] = {&Sezione::H,  &Sezione::B,    &Sezione::A,  &Sezione::E,  &Sezione::R,  &Sezione::R2,
                                     &Sezione::Xc, &Sezione::Yc,   &Sezione::Area, &Sezione::J1, &Sezione::J2, &Sezione::Jt};
+  // clang-format on
   double v = 100;
   for (double Sezione::*c : campi) {
     p.*c = v++;
@@ -385,6 +389,7 @@ TEST_F(Pannello71, PanelAndFramesClearTheStatusLine) {
 }
 
 TEST_F(Pannello71, StatusTexts) {
+  // clang-format off
   const struct { const char* nome; int i; const char* testo; } attesi[] = {
       {"LatoTxt", 0, "Inserire il valore del lato piastra lungo Z"}, {"LatoTxt", 1, "Inserire il valore del lato piastra lungo Y"},
       {"LatoTxt", 2, "Inserire il valore dei margini piastra-colonna lungo Z"},
@@ -416,6 +421,7 @@ TEST_F(Pannello71, StatusTexts) {
       {"ApriVis", -1, "Apertura del visualizzatore ed aggiornamento del file disegno"}, {"Opz", -1, "Opzioni di visualizzazione del disegno"},
       {"DimTf", -1, "Cliccare per dimensionare i tirafondi"},
       {"ImpS3D", -1, "Importazione  dal modello tridimensionale delle sollecitazioni agenti"}};
+  // clang-format on
   for (const auto& a : attesi) {
     insDati.StatoTxt.clear();
     Scatena(InsDati, C(a.nome, a.i), Evento::Passa);
@@ -428,11 +434,13 @@ TEST_F(Pannello71, StatusTexts) {
 }
 
 TEST_F(Pannello71, StatusTextsOfTheMaterialsByMethod) {
+  // clang-format off
   const char* ta[] = {"Tensione ammissibile dell'acciaio, combinazione di carico di tipo I",
                       "Tensione ammissibile dell'acciaio, combinazione di carico di tipo II",
                       "Tensione ammissibile dell'acciaio tirafondi, combinazione di carico di tipo II",
                       "Tensione ammissibile del calcestruzzo",
                       "Tensione ammissibile dell'acciaio Tirafondi, combinazione di carico di tipo I"};
+  // clang-format on
   const char* slu[] = {"Tensione limite elastica di calcolo dell'acciaio", ta[1], ta[2], "Tensione massima di calcolo del calcestruzzo",
                        "Tensione limite elastica di calcolo dell'acciaio tirafondi"};
   for (int m = 0; m < 2; m++) {

@@ -320,6 +320,7 @@ TEST_F(LayoutNodo, TroncatoAOgniRiga) {
 
 struct Ostile { const char* testo; int NTir, NumSoll, NumNodiStr; bool fallito; };   // the counts kept; before: 4, 2, 3
 TEST_F(LayoutNodo, ConteggiOstili) {
+  // clang-format off
   const Ostile casi[] = {
     {"-1", 0, 0, 0, true},
     {"-32768", 0, 0, 0, true},
@@ -336,6 +337,7 @@ TEST_F(LayoutNodo, ConteggiOstili) {
     {"inf", 0, 0, 0, false},
     {"", 0, 0, 0, false},
   };
+  // clang-format on
   for (const Ostile& c : casi)
     for (const int riga : {15, 39, 56}) {
       nodo = NODO_VUOTO;

@@ -59,9 +59,11 @@ TEST_F(Righe72, EveryFieldOfEveryRowStores) {
 }
 
 TEST_F(Righe72, StatusTextsOfEveryRow) {
+  // clang-format off
   const char* testi[] = {"Inserire il valore della sollecitazione di sforzo normale", "Inserire il valore della sollecitazione di taglio Y",
                          "Inserire il valore della sollecitazione di taglio Z", "Inserire il valore della sollecitazione di momento torcente",
                          "Inserire il valore della sollecitazione di momento Y", "Inserire il valore della sollecitazione di momento Z"};
+  // clang-format on
   Aggiungi(5);
   for (int i = 0; i < 5; i++) {
     for (int k = 0; k < 6; k++) {
@@ -155,6 +157,7 @@ TEST_F(Righe72, RemovalOutsideTheListDoesNothing) {
 // ---- texts ----
 
 TEST_F(Righe72, CaptionsAndStatusTexts) {
+  // clang-format off
   const struct { Controllo* c; const char* didascalia; const char* stato; } attesi[] = {
       {&insDati.Singolo, "Agg. sing.", "Cliccare per inserire un nuovo gruppo di sollecitazioni agenti"},
       {&insDati.RimuoviSA, "Rim. ultimo", "Cliccare per rimuovere l'ultimo gruppo di sollecitazioni della lista"},
@@ -172,6 +175,7 @@ TEST_F(Righe72, CaptionsAndStatusTexts) {
       {&insDati.TxtMt[3], "", "Inserire il valore della sollecitazione di momento torcente"},
       {&insDati.TxtMy[4], "", "Inserire il valore della sollecitazione di momento Y"},
       {&insDati.TxtMz[0], "", "Inserire il valore della sollecitazione di momento Z"}};
+  // clang-format on
   for (const auto& a : attesi) {
     insDati.StatoTxt.clear();
     EXPECT_EQ(a.c->testo, a.didascalia);

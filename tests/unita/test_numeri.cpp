@@ -113,11 +113,13 @@ TEST(Numeri, QuindiciCifreComeIlSecondoMetodoSuUnMilioneDiValori) {
 }
 
 TEST(Numeri, TestaNumerica) {
+  // clang-format off
   const struct { const char* testo; double valore; } CASI[] = {
       {"12", 12},     {"  12.5 mm", 12.5}, {"", 0},     {"abc", 0},  {"-.5x", -0.5}, {"+7", 7},  {"1.2.3", 1.2}, {"1e3", 1000},
       {"1E+3", 1000}, {"1e", 1},           {"1e+", 1},  {".", 0},    {"-", 0},       {"5.", 5},  {"9,81", 9},    {"nan", 0},
       {"inf", 0},     {"-inf", 0},         {"0x10", 0}, {"1 2", 1},  {"1d5", 1},     {"--5", 0}, {"105E-2", 1.05},
       {"1e-400", 0},  {"0e999999", 0},     {"\t5", 0},  {"00012", 12}};
+  // clang-format on
   for (const auto& c : CASI) {
     double v = -99;
     EXPECT_TRUE(Val(c.testo, v)) << c.testo;

@@ -15,8 +15,10 @@ namespace {
 
 // Field of the panel and entry of the options.
 struct CampoVoce { int campo, voce; };
+// clang-format off
 constexpr CampoVoce CAMPI[] = {{0, 0}, {1, 1}, {2, 2},   {3, 3},   {4, 4},   {5, 5},   {6, 6},   {7, 7},   {8, 8},   {9, 9},
                                {10, 10}, {11, 11}, {12, 12}, {13, 13}, {14, 14}, {15, 19}, {16, 20}, {25, 25}, {26, 26}, {27, 27}};
+// clang-format on
 
 struct OpzioniPannello : testing::Test {
   void Avvia(int quote, int inferiori, int distinta) {

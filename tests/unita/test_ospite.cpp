@@ -23,11 +23,13 @@ static const StatoOspite OSPITE_VUOTO;
 
 // --- options ----------------------------------------------------------------------------------------------------------------------
 
+// clang-format off
 static constexpr Verbo VERBI[] = {
   { "verifica", "NODO.qb7...", "", 1, SIZE_MAX, nullptr },
   { "esegui", "COPIONE", "", 1, 1, nullptr },
   { "dati", "[NODO.qb7...]", "", 0, SIZE_MAX, nullptr, nullptr, "--formato --righe --uscita" },
 };
+// clang-format on
 
 static bool Leggi(std::vector<const char*> argomenti, Opzioni& o, std::string* perche = nullptr) {
   std::string motivo;

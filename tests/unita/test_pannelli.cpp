@@ -45,6 +45,7 @@ TEST_F(Pannelli_, OgniControlloHaUnaRigaSola) {
 // ---- anchor chooser ----
 
 TEST_F(Pannelli_, TestiDellaSceltaTirafondiAllaCreazione) {
+  // clang-format off
   const TestoAtteso attesi[] = {                          // the sizes of a new node, on both tabs
       {"GeoTfTxt", 11, "120"}, {"GeoTfTxt", 12, "500"}, {"GeoTfTxt", 13, "70"}, {"GeoTfTxt", 14, "450"}, {"GeoTfTxt", 15, "10"},
       {"GeoTfTxt", 17, "50"}, {"GeoTfTxt", 19, "100"}, {"GeoTfTxt", 20, "200"},
@@ -55,6 +56,7 @@ TEST_F(Pannelli_, TestiDellaSceltaTirafondiAllaCreazione) {
       {"LGeo", 4, "L1"}, {"LGeo", 7, "Altezza malta"}, {"LGeo", 9, "Diametro fori"},
       {"LGeo", 13, "Lato piastra"}, {"LGeo", 14, "L1"}, {"LGeo", 15, "LF"},
       {"LGeo", 17, "Altezza malta"}, {"LGeo", 19, "Diametro fori"}, {"LGeo", 20, "Dist. bordo plinto"}};
+  // clang-format on
   for (const auto& a : attesi) EXPECT_EQ(C(FormTF, a.nome, a.i).testo, a.testo) << a.nome << " " << a.i;
   EXPECT_EQ(C(FormTF, "SSTab1").voci, (std::vector<std::string>{" Tipo 1", " Tipo 2"}));
 }
@@ -165,6 +167,7 @@ TEST_F(Pannelli_, OpzioniRiempiteAllAvvio) {
   for (int i = 0; i <= 14; ++i) EXPECT_FALSE(C(Op_Nodo, "Par_Nodo", i).testo.empty()) << i;
   EXPECT_EQ(suite.ParNodo[17], suite.ParNodo[13]);        // set from entry 13 at each reading
   EXPECT_EQ(TrovaControllo(Op_Nodo, "Par_Nodo", 17), nullptr);
+  // clang-format off
   const TestoAtteso attesi[] = {
       {"LPar", 0, "Colore disegno nodo"}, {"LPar", 1, "Colore assi sezioni"}, {"LPar", 2, "Colore sezioni"}, {"LPar", 3, "Colore quote"},
       {"LPar", 4, "Colore linee quote"}, {"LPar", 5, "Colore testo"}, {"LPar", 6, "Colore distinta"}, {"LPar", 7, "Altezza quote"},
@@ -174,6 +177,7 @@ TEST_F(Pannelli_, OpzioniRiempiteAllAvvio) {
       {"LPar", 26, "Stile testi GRB"}, {"LPar", 27, "Stile quote GRB"}, {"Option1", 0, "Quote sup."}, {"Option1", 1, "Quote inf."},
       {"CheckQuote", -1, "Quote"}, {"CheckDistinta", -1, "Distinta"}, {"Annulla", -1, "Annulla"}, {"Applica", -1, "Applica"},
       {"Chiudi", -1, "Chiudi"}, {"Def", -1, "Salva"}};
+  // clang-format on
   for (const auto& a : attesi) EXPECT_EQ(C(Op_Nodo, a.nome, a.i).testo, a.testo) << a.nome << " " << a.i;
 }
 

@@ -33,6 +33,7 @@ TEST_F(Pannelli_, ElenchiDellImportazione) {
 }
 
 TEST_F(Pannelli_, SuggerimentiEDidascalieDellImportazione) {
+  // clang-format off
   const struct { const char* nome; int i; const char* didascalia; const char* suggerimento; } attesi[] = {
       {"NodiTxt", -1, "", "Inserire i nodi dai quali importare le sollecitazioni"},
       {"AsteTxt", -1, "", "Inserire le aste associate ai nodi dalle quali importare le sollecitazioni"},
@@ -45,6 +46,7 @@ TEST_F(Pannelli_, SuggerimentiEDidascalieDellImportazione) {
       {"TuttiCdc2", -1, "Tutti", "Seleziona tutte le condizioni di carico"}, {"ASes", -1, "A", "Annulla i sestetti inseriti"},
       {"TuttiSes", -1, "Tutti", "Seleziona tutti i sestetti"}, {"Importa", -1, "Importa", "Importa le sollecitazioni nel pannello principale"},
       {"Chiudi", -1, "Chiudi", "Chiude la finestra"}};
+  // clang-format on
   for (const auto& a : attesi) {
     EXPECT_EQ(C(Soll3D, a.nome, a.i).testo, a.didascalia) << a.nome;
     EXPECT_EQ(Suggerimento(Soll3D, a.nome, a.i), a.suggerimento) << a.nome;
@@ -236,6 +238,7 @@ TEST_F(Pannelli_, LaSelezioneLeggeLaStrutturaUnaVolta) {
 }
 
 TEST_F(Pannelli_, SuggerimentiDellaSelezione) {
+  // clang-format off
   const TestoAtteso attesi[] = {
       {"Cerca", -1, "Cliccare per importare i nomi delle aste trovate"}, {"Chiudi", -1, "Cliccare per chiudere la finestra"},
       {"ColoriOp", 0, "Cliccare per selezionare le aste di tutti i colori"},
@@ -245,6 +248,7 @@ TEST_F(Pannelli_, SuggerimentiDellaSelezione) {
       {"NomiOp", 0, "Cliccare per selezionare le aste con qualunque nome"},
       {"NomiOp", 1, "Cliccare per selezionare le aste con il nome compreso in un'intervallo"},
       {"NomiTxt", 0, "Inserire il limite minimo dell'intervallo"}, {"NomiTxt", 1, "Inserire il limite massimo dell'intervallo"}};
+  // clang-format on
   for (const auto& a : attesi) EXPECT_EQ(Suggerimento(Selezione, a.nome, a.i), a.testo) << a.nome;
   const TestoAtteso didascalie[] = {{"ColoriOp", 0, "Tutti"}, {"ColoriOp", 1, "Selezione"}, {"LineeOp", 0, "Tutte"}, {"LineeOp", 1, "Selezione"},
                                     {"NomiOp", 0, "Tutti"}, {"NomiOp", 1, "Selezione"}, {"LNomi", 0, "da"}, {"LNomi", 1, "a"}};
@@ -253,9 +257,11 @@ TEST_F(Pannelli_, SuggerimentiDellaSelezione) {
 
 TEST_F(Pannelli_, OgniSceltaAccendeLaSuaCornice) {
   registratore.dentro.push_back([] {
+    // clang-format off
     const struct { Controllo* scelta; const Controllo& dentro; } coppie[] = {{selezione.ColoriOp, selezione.ColoriCh[9]},
                                                                              {selezione.LineeOp, selezione.LineeCh[4]},
                                                                              {selezione.NomiOp, selezione.NomiTxt[1]}};
+    // clang-format on
     for (const auto& c : coppie) {
       EXPECT_FALSE(Abilitato(Selezione, c.dentro));
       UtenteSceglie(Selezione, c.scelta[1], 1);
@@ -381,9 +387,11 @@ TEST_F(Pannelli_, OkSelezionaLUltimoProfiloDiNomeUguale) {
 }
 
 TEST_F(Pannelli_, DidascalieDellaSezione) {
+  // clang-format off
   const TestoAtteso attesi[] = {{"command1", -1, "Cerca nodo"}, {"Cerca", -1, "Cerca profilo"}, {"OK", -1, "OK"}, {"Annulla", -1, "Annulla"},
                                 {"Label2", -1, "Colonna"}, {"Label1", -1, "Nome Nodo"}, {"geom", 0, "h:"}, {"geom", 1, "b:"},
                                 {"geom", 2, "a:"}, {"geom", 3, "e:"}, {"geom", 4, "r :"}};
+  // clang-format on
   for (const auto& a : attesi) EXPECT_EQ(C(Sez3D, a.nome, a.i).testo, a.testo) << a.nome;
 }
 

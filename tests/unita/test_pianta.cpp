@@ -106,12 +106,14 @@ TEST_F(FoglioDisegno, NervatureInPianta) {
   Prepara();
   disegno.ColCorr = 2;
   NervaturePianta();
+  // clang-format off
   struct {
     double x1, y1, x2, y2, mx, my;             // face, displacement of its mark; x times s
   } facce[] = {
     {90, -250, 90, -100, -7, 0}, {90, 250, 90, 100, -7, 0}, {98, -250, 98, -100, 7, 0}, {98, -92, 98, 92, 7, 0}, {98, 250, 98, 100, 7, 0},
     {200, -100, 98, -100, 0, -7}, {200, -92, 98, -92, 0, 7}, {200, 92, 98, 92, 0, -7}, {200, 100, 98, 100, 0, 7},
   };
+  // clang-format on
   for (const int s : {-1, 1}) {
     for (const auto& f : facce) {
       Linea(s * f.x1, f.y1, s * f.x2, f.y2, 2);

@@ -54,12 +54,14 @@ TEST_F(PiastraTest, QuattroLati) {
   // compressed, since absolute values are added. Faces: (500 - 190) / 2 = 155, (400 - 200) / 2 = 100.
   struct Riga { int lato; double coppia; double extra[4]; double W; };
   const double Wz = 400.0 * 400 / 6, Wy = 400.0 * 500 / 6;
+  // clang-format off
   const Riga RIGHE[] = {
     { 1, 3,  { 0, 128, 0, 32 }, Wz },                  // 1 + 2; anchor 8 of eight, 6 of six Orizz.
     { 2, 10, { 0, 32, 32, 0 },  Wy },                  // 2 + 4; anchor 6
     { 3, 12, { 0, 64, 0, 16 },  Wz },                  // 3 + 4; anchor 7 or 5
     { 4, 5,  { 0, 16, 16, 0 },  Wy },                  // 1 + 3; anchor 5
   };
+  // clang-format on
   for (const Riga& r : RIGHE)
     for (int schema = 0; schema < 4; ++schema) {
       SchemaProva(schema);

@@ -105,6 +105,7 @@ TEST_F(PresInflTest, ScambioDiAssiEDiSegni) {
 TEST_F(PresInflTest, ConAncoraggi) {
   AncoraggiRiferimento();
   struct Riga { double N, My, Mz, p, s[4]; };          // daN, daN cm; daN/mm2 at (-150,200), (150,200), (-150,-200), (150,-200)
+  // clang-format off
   const Riga RIGHE[] = {
     { -30000, 0,      0,      -0.14613, { -0.9361, -0.9361, -0.9361, -0.9361 } },
     { -30000, 150000, 200000, -0.37543, { 0.2257, -0.8540, -0.9930, -2.0727 } },
@@ -113,6 +114,7 @@ TEST_F(PresInflTest, ConAncoraggi) {
     { 20000,  300000, 300000, -1.51296, { 51.0341, 20.1448, 29.0886, -1.8008 } },
     { 20000,  0,      0,      0,        { 20.4082, 20.4082, 20.4082, 20.4082 } },
   };
+  // clang-format on
   for (const Riga& r : RIGHE) {
     const Esito e = Risolvi(r.N, r.My, r.Mz);
     EXPECT_TRUE(e.ok);
@@ -124,8 +126,10 @@ TEST_F(PresInflTest, ConAncoraggi) {
 
 TEST_F(PresInflTest, LatiQuasiParalleliAY) {          // a large My with a small remainder of Mz must converge
   AncoraggiRiferimento();
+  // clang-format off
   const double carichi[][3] = { { -8874.5, 831104, 1 },     { 19880.7, 863868, 1 },     { -47589, -3167417, -4 },   { -11029.3, 3906387, 5 },
                                 { -18067.1, -4761195, 14 }, { 276.3, -4689378, 15 },    { -35942.7, -4819196, -22 }, { -11720, -2965425, 29 } };
+  // clang-format on
   for (const auto& c : carichi) {
     EXPECT_TRUE(Risolvi(c[0], c[1], c[2]).ok) << c[0];
     double scarto[3];
@@ -183,10 +187,12 @@ TEST_F(PresInflTest, PrimaIterazioneTogliePiuCalcestruzzo) {
 TEST_F(PresInflTest, AncoraggioFuoriDallaRegione) {
   // The ray meets the left edge alone: left of the plate outside, beyond the right edge inside (falling edges do not count),
   // at the upper edge's height inside (y <= y2), at the lower edge's outside (y1 < y).
+  // clang-format off
   nodo.TfZ[1] = -10;  nodo.TfY[1] = 100;
   nodo.TfZ[2] = 410;  nodo.TfY[2] = 100;
   nodo.TfZ[3] = 50;   nodo.TfY[3] = 0;
   nodo.TfZ[4] = 350;  nodo.TfY[4] = 500;
+  // clang-format on
   Risolvi(-30000, 0, 0);
   EXPECT_FALSE(presInfl.DentroBarra[1]);
   EXPECT_TRUE(presInfl.DentroBarra[2]);

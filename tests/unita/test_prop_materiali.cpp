@@ -27,6 +27,7 @@ TEST_F(Pannelli_, ProprietaDeiMateriali) {
   nodo.MatCls.GammaC = 1.5;
   Premi(InsDati, "PropMatButton");
   EXPECT_EQ(registratore.pannelli.back(), "PropMateriali");
+  // clang-format off
   const struct { const char* nome; const char* testo; } ATTESI[] = {
       {"Unit", "[N/mm2]"},
       {"FrameAcc", "Acciaio profili e piastre - [NTC08 11.3.4.1] - Tipo S 275 (FE 430)"},
@@ -42,6 +43,7 @@ TEST_F(Pannelli_, ProprietaDeiMateriali) {
       {"RckClsLabel", "30"}, {"fckClsLabel", "24.9"}, {"gMClsLabel", "1.5"},
       {"fcdClsLabel", "14.11"},                           // 24.9 * .85 / 1.5
       {"SammClsLabel", "9.75"}};                          // 60 + 150 / 4 = 97.5 daN/cm2
+  // clang-format on
   for (const auto& a : ATTESI) EXPECT_EQ(C(PropMateriali, a.nome).testo, a.testo) << a.nome;
   EXPECT_FALSE(propMateriali.FrameBull.visibile);
   EXPECT_FALSE(propMateriali.FrameAccPia.visibile);
@@ -77,6 +79,7 @@ TEST_F(Pannelli_, ProprietaConTuttiIRiquadri) {
   nodo.MatVit.GammaM2 = 1.25;
   nodo.MatTir.SAmm = 1600;
   Premi(InsDati, "PropMatButton");
+  // clang-format off
   const TestoAtteso attesi[] = {
       {"FrameAccPia", -1, "Acciaio piastre - [NTC08 11.3.4.1] - Tipo S 355"},
       {"fkPLabel", -1, "3550"}, {"gMPLabel", -1, "1.05"}, {"gMTPLabel", -1, "1.25"}, {"fdPLabel", -1, "3381"},      // 3380.95
@@ -87,6 +90,7 @@ TEST_F(Pannelli_, ProprietaConTuttiIRiquadri) {
       {"ftdVitiLabel", -1, "6400"}, {"SAmmIVitiLabel", -1, "3730"}, {"SAmmIIVitiLabel", -1, "4196.2"},              // 4196.25: tie to even
       {"TauAmmIVitiLabel", -1, "2640"}, {"TauAmmIIVitiLabel", -1, "2970"},
       {"SAmmIITirLabel", -1, "1800"}, {"TauAmmITirLabel", -1, "923.8"}};                                            // 1600 / sqrt 3 = 923.76
+  // clang-format on
   for (const auto& a : attesi) EXPECT_EQ(C(PropMateriali, a.nome).testo, a.testo) << a.nome;
   EXPECT_TRUE(C(PropMateriali, "FrameAcc").testo.starts_with("Acciaio profili - [NTC08 11.3.4.1] - Tipo "));
   EXPECT_TRUE(propMateriali.FrameBull.visibile);

@@ -355,6 +355,7 @@ TEST_F(Marchi, Tipo1HaGliEstremi) {
 
 // Directions: upward, downward, leftward, and the two oblique ones; the mark of a weld of length 0.
 TEST_F(Marchi, Direzioni) {
+  // clang-format off
   struct {
     double x2, y2, vx, vy;
   } casi[] = {
@@ -365,6 +366,7 @@ TEST_F(Marchi, Direzioni) {
     {-10, -20, 7 / std::sqrt(5.0), -14 / std::sqrt(5.0)},
     {0, 0, 7, 0},
   };
+  // clang-format on
   for (const auto& c : casi) {
     AzzeraDisegno();
     DisSaldatura(nullptr, 0, 0, c.x2, c.y2, 1, 1, 0);
@@ -380,6 +382,7 @@ TEST_F(Marchi, ScostamentoDelCerchioDelProgramma) {
 
 // The name stands outward of the parallel line. Height 15, width 10: two characters 20 wide on a line of 100.
 TEST_F(Marchi, NomeFuori) {
+  // clang-format off
   struct {
     double x2, y2;
     int lato;
@@ -394,6 +397,7 @@ TEST_F(Marchi, NomeFuori) {
     {0, -100, 1, -22.5, 7 + 22.5, -60, 90},
     {0, -100, -1, 7.5, -7 - 7.5, -60, 90},
   };
+  // clang-format on
   quote.EtichetteSald = true;
   for (const auto& c : casi) {
     AzzeraDisegno();
@@ -457,10 +461,12 @@ TEST_F(Marchi, GolaMinuscola) {
 
 // The steps tried are never more than the store holds lines, whatever two numbers of a file say.
 TEST_F(Marchi, TrattiMaiPiuDelleLinee) {
+  // clang-format off
   const struct {
     double lunghezza, passo;
     std::int32_t attesi;
   } casi[] = {{20, 7, 3}, {20, -7, -3}, {50000, 1, 50000}, {50001, 1, 50001}, {50002, 1, 50001}, {2e9, 1, 50001}, {2147483647e12, 1e12, 50001}};
+  // clang-format on
   for (const auto& k : casi) {
     std::int32_t n = 0;
     EXPECT_TRUE(TrattiSaldatura(k.lunghezza, k.passo, n)) << k.lunghezza;

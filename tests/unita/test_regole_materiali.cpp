@@ -27,12 +27,14 @@ int Alternativo(bool ta, const char* ruolo, const std::string& nome, const std::
 }  // namespace
 
 TEST(RegoleMateriali, Valido) {
+  // clang-format off
   const struct { MatAcciaio m; bool ta, profili, bulloni; } casi[] = {
       {Acciaio("", 1, 1, 1, 1, 1, 1), true, true, true},     {Acciaio("", 0, 1, 1, 1, 1, 1), false, true, true},
       {Acciaio("", 1, 0, 1, 1, 1, 1), false, true, true},    {Acciaio("", 1, 1, 0, 1, 1, 1), true, false, true},
       {Acciaio("", 1, 1, 1, 0, 1, 1), true, false, true},    {Acciaio("", 1, 1, 1, 1, 0, 1), true, true, false},
       {Acciaio("", 1, 1, 1, 1, 1, 0), true, true, false},    {Acciaio("", -1, 1, 1, -1, 1, -1), false, false, false},
   };
+  // clang-format on
   for (const auto& c : casi) {
     EXPECT_EQ(MaterialeValido(true, "PROFILI", c.m), c.ta);
     EXPECT_EQ(MaterialeValido(true, "BULLONI", c.m), c.ta);

@@ -315,6 +315,7 @@ struct CasoLimite {
   void (*imposta)();               // everything zero but this
   bool passa;
 };
+// clang-format off
 const CasoLimite CASI[] = {
   {"Co-1 1", [] { ris.Co1[1][1] = 1; }, true},
   {"Co-1 1.004: judged as rounded", [] { ris.Co1[1][1] = 1.004; }, true},
@@ -343,6 +344,7 @@ const CasoLimite CASI[] = {
   {"concrete", [] { ris.SMaxCls[1] = 1.411001; }, false},
   {"concrete, absolute", [] { ris.SMaxCls[1] = -1.411001; }, false},
 };
+// clang-format on
 
 TEST_F(RelSLU, OgniVerificaEStretta) {
   for (const CasoLimite& caso : CASI) {
@@ -412,12 +414,14 @@ TEST_F(RelSLU, ClasseDiCaricoSenzaEffetto) {
 
 // Weld factors by part of the name, the first family first.
 TEST_F(RelSLU, BetaDalNomeDellAcciaio) {
+  // clang-format off
   const struct { const char* nome; double Beta1, Beta2; } casi[] = {
     {"S 235", 0.85, 1},       {"S 235 (FE 360)", 0.85, 1}, {"s235jr", 0.85, 1},   {"S 275", 0.7, 0.85},
     {"S 355 (FE 510)", 0.7, 0.85}, {"S 420", 0.62, 0.75},  {"S 450", 0.62, 0.75}, {"S 460 N", 0.62, 0.75},
     {"275 o 235", 0.85, 1},   {"460-355", 0.7, 0.85},      {"S 500", 0, 0},       {"", 0, 0},
     {"S 23 27 35 42 45 46", 0, 0},                       // three digits, not two
   };
+  // clang-format on
   for (const auto& c : casi) {
     nodo.MatAcc.Nome = c.nome;
     EXPECT_EQ(CalcolaBeta(nodo.MatAcc).Beta1, c.Beta1) << c.nome;

@@ -201,6 +201,7 @@ struct CasoLimite {
 };
 void Acciaio235() { nodo.MatAcc.Nome = "S 235 (FE 360)", nodo.MatAcc.SAmm = 1000; }
 
+// clang-format off
 const CasoLimite CASI[] = {
   // (SAdmTir / SAdmTir)^2 = 1; 3208 x 1.003 -> 1.006 -> 1.01; 1.002 -> 1.004 -> 1 (judged as rounded)
   {"coeff 1", [] { ris.SigmaTir[1][2] = 32.08; }, true},
@@ -239,6 +240,7 @@ const CasoLimite CASI[] = {
   {"concrete", [] { ris.SMaxCls[1] = 0.1106; }, false},
   {"concrete, halves go up", [] { nodo.MatCls.SAmm = 11.2, ris.SMaxCls[1] = 0.1125; }, false},         // 11.25 -> 11.3
 };
+// clang-format on
 
 TEST_F(RelTA, OgniVerificaEStretta) {
   for (const CasoLimite& caso : CASI) {

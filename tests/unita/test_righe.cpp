@@ -87,6 +87,7 @@ double* Rapporto3() { return &ris.Co3[1][2]; }
 // Numbers rounded before the comparison: the next step of the rounding begins at half of it. A ratio 1.005 (1000.05 daN/cm2) is the first
 // that rounds upward, in binary a little to either side of it.
 const double TA_COEFF_OLTRE = 20 * std::sqrt(1.00501), TA_TAU_OLTRE = 11.547 * std::sqrt(1.00501);
+// clang-format off
 const Prova PROVE[] = {
   { MetodoTA, TA_TIR_COEFF, 2, Sigma2, 1, 20, TA_COEFF_OLTRE },
   { MetodoTA, TA_TIR_COEFF, 2, Sigma2, 1, -20, -TA_COEFF_OLTRE },
@@ -132,6 +133,7 @@ const Prova PROVE[] = {
   { MetodoSLU, SLU_NERV_Y, 0, Nervatura<5>, 2000, 20, 0 },
   { MetodoSLU, SLU_NERV_Y, 0, Nervatura<6>, 2000, 20, 0 },
 };
+// clang-format on
 
 constexpr double FCD_200 = 0.85 * 0.83 * 200;            // 141.1 but for its last binary digit
 
@@ -316,6 +318,7 @@ TEST_F(RigheTest, NomiUnitaClausole) {
     return righe;
   };
   const std::string CNR = "CNR 10011/88", TIR = "NTC 2008 4.2.8.1.1 (4.2.65)", ACC = "NTC 2008 4.2.4.1.1";
+  // clang-format off
   EXPECT_EQ(elenco(MetodoTA), (std::vector<R>{
     { "tir.coeff", "-", "tirafondo", CNR }, { "tir.rif", "daN/cm2", "tirafondo", CNR }, { "tir.tiro", "daN", "tirafondo", CNR },
     { "sald", "-", "saldatura", CNR },      { "piastra", "daN/cm2", "", CNR },          { "nerv.z", "daN/cm2", "", CNR },
@@ -326,6 +329,7 @@ TEST_F(RigheTest, NomiUnitaClausole) {
     { "sald.1", "daN/cm2", "saldatura", "NTC 2008 4.2.8.2.4 (4.2.78)" }, { "sald.2", "daN/cm2", "saldatura", "NTC 2008 4.2.8.2.4 (4.2.79)" },
     { "piastra", "daN/cm2", "", ACC }, { "nerv.z", "daN/cm2", "", ACC }, { "nerv.y", "daN/cm2", "", ACC },
     { "cls", "daN/cm2", "", "NTC 2008 4.1.2.1.1.1" } }));
+  // clang-format on
 }
 
 // ---- order and presence
@@ -513,6 +517,7 @@ struct Guasto {
   void (*modifica)();
   int sestetto, criterio, elemento;
 };
+// clang-format off
 const Guasto GUASTI[] = {
   { "TfFi",            MetodoTA,  [] { nodo.TfFi = 0; },                                   0, 0, 0 },
   { "GammaM",          MetodoSLU, [] { nodo.MatAcc.GammaM = 0; },                          0, 0, 0 },
@@ -534,6 +539,7 @@ const Guasto GUASTI[] = {
   { "cls",             MetodoSLU, [] { ris.SMaxCls[2] = 1e307; },                          2, SLU_CLS, 0 },
   { "due",             MetodoTA,  [] { ris.SMaxCls[2] = ris.SMaxPiastra[2] = ris.SRfTir[3][1] = 1e307; }, 2, TA_PIASTRA, 0 },   // the first
 };
+// clang-format on
 
 }  // namespace
 

@@ -51,13 +51,16 @@ void Confronta(const Posto& p) {
 }
 
 // Column: throats outside the profile's lines. H/2 - e - r = 67, a/2 = 3.25, a/2 + r = 21.25.
+// clang-format off
 constexpr Posto COLONNA[] = {
   { 1, 5.75, 67, 5.75, -67, 134 },      { 2, 100, 82.5, 21.25, 82.5, 78.8 },      { 3, -100, 97.5, 100, 97.5, 200 },
   { 4, -21.25, 82.5, -100, 82.5, 78.8 }, { 5, -5.75, -67, -5.75, 67, 134 },       { 6, -100, -82.5, -21.25, -82.5, 78.8 },
   { 7, 100, -97.5, -100, -97.5, 200 },  { 8, 21.25, -82.5, 100, -82.5, 78.8 },
 };
+// clang-format on
 
 // Ribs without the inner welds. Side -1: lato +1, but for 33 and 40; side +1: lato -1 throughout.
+// clang-format off
 constexpr Posto NERVATURE[] = {
   { 13, -102.5, -250, -102.5, -95, 155 }, { 11, -97.5, 250, -97.5, 95, 155 },   { 14, -112.5, -250, -112.5, -95, 155 },
   { 10, -112.5, -85, -112.5, 85, 170 },   { 12, -107.5, 250, -107.5, 95, 155 }, { 18, -200, -92.5, -110, -92.5, 90 },
@@ -71,12 +74,15 @@ constexpr Posto NERVATURE[] = {
   { 35, 82.5, 150, 82.5, 0, 150 },        { 39, 82.5, 150, 82.5, 0, 150 },
   { 34, 92.5, 150, 92.5, 0, 150 },        { 37, -112.5, 150, -112.5, 0, 150 },
 };
+// clang-format on
 
 // The inner welds; with them weld 23 takes the side that the first pass left, +1.
+// clang-format off
 constexpr Posto INTERNE[] = {
   { 9, -102.5, -85, -102.5, 85, 170 }, { 41, -97.5, 150, -97.5, 0, 150 }, { 43, -97.5, 150, -97.5, 0, 150 },
   { 19, 102.5, -85, 102.5, 85, 170 },  { 42, 97.5, 150, 97.5, 0, 150 },   { 44, 97.5, 150, 97.5, 0, 150 },
 };
+// clang-format on
 
 }  // namespace
 
@@ -310,10 +316,12 @@ TEST_F(SaldatureTest, SaldatureDellaColonnaNervata) {
   Nervato(1);
   const double zi = zc - 10, a = 0.25 * zc * 3000 / ((zi * zi + zc * zc) * 3000), b = 0.25;
   TensioniSaldatureColonna(lavoro, 1);
+  // clang-format off
   const std::pair<int, double> ATTESI[] = {
     { 29, a * zc + b }, { 31, a * zc - b }, { 36, -a * zc - b }, { 38, -a * zc + b },
     { 41, a * zi + b }, { 42, a * zi - b }, { 43, -a * zi + b }, { 44, -a * zi - b },
   };
+  // clang-format on
   for (const auto& [w, v] : ATTESI) EXPECT_NEAR(ris.Saldature[w].TauPa[1][3], -0.5 + v, 1e-9) << w;
   nodo.SaldInt = -1;                                   // any value but 0
   ris.Saldature[44].TauPa[1][3] = 0;

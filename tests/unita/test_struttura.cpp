@@ -103,9 +103,11 @@ TEST_F(Struttura, ProfiloDallaSezioneConPrefissoEBlank) {
 // The prefix is "P_" at the beginning of the name without its blanks; the rest is the library's name, blanks aside, letter for letter.
 TEST_F(Struttura, PrefissoENomeInteri) {
   suite.ProfiliLib[2].Nome = AllineaSinistra("HE A200", LungNomeSez);
+  // clang-format off
   const struct { const char* nome; int profilo; } casi[] = {
       {"P_IPE300", 1}, {"P _HE A200", 2}, {" HEA 20 0", 2},
       {"PXIPE300", 0}, {"p_IPE300", 0}, {"IPEP_300", 0}, {"P_P_IPE300", 0}, {"P_HEA20", 0}, {"P_HEA2000", 0}, {"P_hea200", 0}};
+  // clang-format on
   for (const auto& c : casi) {
     Scrivi("sezioni_", std::string("1\r\n1,\"") + c.nome + "\",0\r\nr\r\nr\r\nr\r\nr\r\n");
     EXPECT_EQ(ProfiloDaAsta(5), c.profilo) << c.nome;

@@ -227,6 +227,7 @@ TEST_F(Tabelle, BlocchiConNervature) {
 TEST_F(Tabelle, Celle) {
   nodo.NTir = 6;
   Distinta();
+  // clang-format off
   const char* const celle[] = {
     "Prof.", "h", "b", "a", "e", "HEX 200", "200", "180", "10", "15",
     "N. piastre", "lz", "ly", "s", "1", "400", "500", "20",
@@ -234,6 +235,7 @@ TEST_F(Tabelle, Celle) {
     "N. t.fondi", "]", "L tot", "6", "20", "620",
     "Sald.", "lungh", "lato", "S1", "146", "7",          // along the web: 200 - 2 (15 + 12)
   };
+  // clang-format on
   ASSERT_GE(disegno.NumTesti, 42);
   for (std::size_t i = 0; i < std::size(celle); ++i) EXPECT_EQ(disegno.TesStr[i], celle[i]) << i;
 }

@@ -259,12 +259,14 @@ struct Istruzione {
 };
 }  // namespace
 
+// clang-format off
 static constexpr Istruzione ISTRUZIONI[] = {
   { "scrivi", Scrivi },     { "invio", Invio },     { "scegli", Scegli },     { "spunta", Spunta },
   { "premi", Premi },       { "doppioclic", DoppioClic }, { "scorri", Scorri }, { "passa", Passa },
   { "attendi", Attendi },   { "rispondi", Rispondi }, { "file", FileScelto }, { "mostra", Mostra },
   { "voci", Voci },         { "modello", Modello },
 };
+// clang-format on
 
 // --- the run ------------------------------------------------------------------------------------------------------------------------
 

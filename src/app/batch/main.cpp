@@ -54,6 +54,7 @@ static bool SenzaVuoti() {
   return std::ranges::none_of(ospite.opzioni.argomenti, [](const std::string& a) { return a.empty(); });
 }
 
+// clang-format off
 static constexpr Verbo VERBI[] = {
   { "verifica", "NODO.qb7...", "verifica ogni nodo e scrive la sua relazione", 1, SIZE_MAX, ComandoVerifica },
   { "disegno", "NODO.qb7 USCITA.dis|.dxf|.grb|.svg", "scrive il disegno esecutivo del nodo", 2, 2, ComandoDisegno,
@@ -64,6 +65,7 @@ static constexpr Verbo VERBI[] = {
   { "immagine", "NODO.qb7 USCITA.svg", "disegna un sestetto: pressioni, asse neutro, tirafondi e saldature", 2, 2, ComandoImmagine, UscitaImmagineAmmessa,
     "--sestetto" },
 };
+// clang-format on
 
 static bool Ammesso(const Verbo& v) {
   const std::size_t n = ospite.opzioni.argomenti.size();

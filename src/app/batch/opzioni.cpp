@@ -69,6 +69,7 @@ struct RigaOpzione {
 };
 }  // namespace
 
+// clang-format off
 static constexpr RigaOpzione OPZIONI[] = {
   { "--metodo=",         "ta|slu",      "metodo di verifica, invece di quello del nodo (riepilogo: anche entrambi)", Metodo, true },
   { "--decimale=",       ".|,",         "segno decimale delle impostazioni locali (senza: quello del sistema)", Decimale, true },
@@ -82,6 +83,7 @@ static constexpr RigaOpzione OPZIONI[] = {
   { "--elenco=",         "FILE|-",      "altri nodi, uno per riga, da un file o dallo standard input", NomeFile<&Opzioni::elenco>, false },
   { "--riprendi=",       "FILE",        "riprende le righe ancora valide di un risultato jsonl", NomeFile<&Opzioni::riprendi>, false },
 };
+// clang-format on
 
 static bool Ammessa(const RigaOpzione& r, const Verbo* v) {
   const std::string_view nome = r.nome.substr(0, r.nome.find('='));

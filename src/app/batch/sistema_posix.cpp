@@ -165,12 +165,14 @@ struct NomeDiSegnale {
 };
 }  // namespace
 
+// clang-format off
 static constexpr NomeDiSegnale NOMI_SEGNALI[] = {
   { SIGHUP, "SIGHUP" },   { SIGINT, "SIGINT" },   { SIGQUIT, "SIGQUIT" }, { SIGILL, "SIGILL" },   { SIGTRAP, "SIGTRAP" },
   { SIGABRT, "SIGABRT" }, { SIGBUS, "SIGBUS" },   { SIGFPE, "SIGFPE" },   { SIGKILL, "SIGKILL" }, { SIGUSR1, "SIGUSR1" },
   { SIGSEGV, "SIGSEGV" }, { SIGUSR2, "SIGUSR2" }, { SIGPIPE, "SIGPIPE" }, { SIGALRM, "SIGALRM" }, { SIGTERM, "SIGTERM" },
   { SIGXCPU, "SIGXCPU" }, { SIGXFSZ, "SIGXFSZ" }, { SIGSYS, "SIGSYS" },
 };
+// clang-format on
 
 std::string NomeSegnale(int segnale) {
   std::string testo = std::to_string(segnale);

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <mutex>
 
+// clang-format off
 static constexpr const char* TESTI[] = {
   "nessun errore",                               // by code
   "puntatore nullo",
@@ -23,6 +24,7 @@ static constexpr const char* TESTI[] = {
   "memoria esaurita",
   "errore interno",
 };
+// clang-format on
 static_assert(std::size(TESTI) == QB07_INTERNO + 1);
 
 const char* TestoErrore(int codice) {

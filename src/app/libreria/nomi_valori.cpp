@@ -16,11 +16,13 @@ struct Limiti {
 };
 }  // namespace
 
+// clang-format off
 static constexpr Limiti INTERI[] = {
   { "TipoNodo", 1, 2 },         { "SaldInt", 0, 1 },           { "NTir", 1, MaxTir },
   { "TipoTirafondo", 0, 1 },    { "TfDiamIdx", 0, MaxDiam + 1 }, { "OptionNTir", 0, 3 },
   { "Esposizione", -1, 2 },     { "NumNodiStr", 0, MaxNodiStr }, { "NodiStr", -32768, 32767 },
 };
+// clang-format on
 
 // The method and the loads have functions of their own.
 static bool Escluso(std::string_view nome) { return nome == "TipoVer" || nome == "NumSoll" || nome.starts_with("Soll"); }

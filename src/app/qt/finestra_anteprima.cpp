@@ -88,11 +88,13 @@ struct FormatoAnteprima {
 };
 }  // namespace
 
+// clang-format off
 static constexpr FormatoAnteprima FORMATI_ANTEPRIMA[] = {
   { "PDF...", "Documento PDF|*.pdf", "pdf", "Ctrl+P", SalvaFoglioPdf },
   { "PNG...", "Immagine PNG|*.png", "png", "Ctrl+N", SalvaFoglioPng },
   { "SVG...", "Disegno SVG|*.svg", "svg", "Ctrl+G", SalvaFoglioSvg },
 };
+// clang-format on
 
 // What is saved is the node as it stands, and the window shows it.
 static void SalvaAnteprima(const FormatoAnteprima& f, const FoglioVisto& foglio) {

@@ -134,6 +134,7 @@ struct Classe {
 };
 }  // namespace
 
+// clang-format off
 static constexpr Classe CLASSI[] = {
   { Genere::Cornice,   Di<QGroupBox>,       DipingiCornice },
   { Genere::Etichetta, Di<QLabel>,          DipingiEtichetta },
@@ -146,6 +147,7 @@ static constexpr Classe CLASSI[] = {
   { Genere::Schede,    Di<QTabWidget>,      DipingiSchede },
   { Genere::Immagine,  Di<Quadro>,          DipingiImmagine },
 };
+// clang-format on
 
 static const Classe& ClasseDi(Genere g) {
   for (const Classe& c : CLASSI)

@@ -16,6 +16,7 @@ struct Voce {
 };
 }  // namespace
 
+// clang-format off
 static constexpr Voce VOCI[] = {
   { "OK", "OK" },
   { "&OK", "&OK" },
@@ -143,6 +144,7 @@ static constexpr Voce VOCI[] = {
   { "File exists", "Il file esiste" },
   { "<qt>Do you want to overwrite it?</qt>", "<qt>Sostituirlo?</qt>" },
 };
+// clang-format on
 
 namespace {
 struct Riserva : QTranslator {

@@ -44,6 +44,7 @@ struct RigaForma {
 };
 }  // namespace
 
+// clang-format off
 static constexpr RigaForma FORME[] = {
   { &InsDati,       Nuova<Ui::InsDati, QWidget> },
   { &FormTF,        Nuova<Ui::FormTF, QDialog> },
@@ -53,6 +54,7 @@ static constexpr RigaForma FORME[] = {
   { &Soll3D,        Nuova<Ui::Soll3D, QDialog> },
   { &Selezione,     Nuova<Ui::selezione, QDialog> },
 };
+// clang-format on
 
 QWidget* NuovaFinestra(const Pannello& p) {
   for (const RigaForma& r : FORME)

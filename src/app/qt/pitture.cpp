@@ -262,6 +262,7 @@ struct RigaPittura {
 };
 }  // namespace
 
+// clang-format off
 static const RigaPittura PITTURE[] = {
   { "tipo1",     QRectF(0, 0, 1440, 1440),   Tipo1 },
   { "tipo2",     QRectF(0, 0, 1440, 1440),   Tipo2 },
@@ -276,6 +277,7 @@ static const RigaPittura PITTURE[] = {
   { "linea3",    QRectF(0, 0, 100, 10),      Linea3 },
   { "linea4",    QRectF(0, 0, 100, 10),      Linea4 },
 };
+// clang-format on
 
 void DipingiPittura(QPainter& p, const QString& nome, const QWidget& w, const QRectF& posto) {
   const QPalette& c = w.palette();
@@ -347,10 +349,12 @@ struct RigaIcona {
 };
 }  // namespace
 
+// clang-format off
 static constexpr RigaIcona ICONE[] = {
   { "verifica", SegnoVerifica }, { "salva", SegnoSalva },         { "carica", SegnoCarica },   { "disegno", SegnoDisegno },
   { "vista", SegnoVista },       { "anteprima", SegnoAnteprima }, { "opzioni", SegnoOpzioni }, { "chiudi", SegnoTermina },
 };
+// clang-format on
 
 static QPixmap Lastra(void (*dipingi)(QPainter&), int lato, const QColor& c) {
   QPixmap lastra(lato, lato);

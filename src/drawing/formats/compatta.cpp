@@ -239,11 +239,13 @@ static void UnisciCoordinate() {
 
 static void TogliCoordinateInutili() {
   Disegno& d = disegno;
+  // clang-format off
   struct {
     std::int32_t* riferimento;
     int n;
   } tabelle[] = {{d.LinIni, d.NumLinee}, {d.LinFin, d.NumLinee},  {d.ArcCen, d.NumArchi}, {d.ArcIni, d.NumArchi},
                  {d.ArcCen2, d.NumArchi}, {d.ArcFin, d.NumArchi}, {d.TesPos, d.NumTesti}, {d.CerCen, d.NumCerchi}};
+  // clang-format on
   std::vector<int> nuova(static_cast<std::size_t>(d.NumCoord), -1);
   for (const auto& t : tabelle)
     for (int i = 0; i < t.n; ++i) nuova[static_cast<std::size_t>(t.riferimento[i])] = 0;
