@@ -29,14 +29,31 @@ void Prepara() {
   };
   piattaforma.attesa = [](bool) {};
   nodo.Sezione.Nome = "HEB300            ";
-  nodo.Sezione.H = nodo.Sezione.B = 300; nodo.Sezione.A = 11; nodo.Sezione.E = 19; nodo.Sezione.R = 27;
-  nodo.LatoZ = 700; nodo.LatoY = 760; nodo.SpessPiastra = 30;
-  nodo.TipoNodo = 2; nodo.HNerv = 250; nodo.SpNerv = 15; nodo.SaldInt = 1; nodo.Gola = 11; nodo.GolaCalc = 11 / std::sqrt(2.0);
-  nodo.NTir = 8; nodo.OptionNTir = 1;
+  nodo.Sezione.H = nodo.Sezione.B = 300;
+  nodo.Sezione.A = 11;
+  nodo.Sezione.E = 19;
+  nodo.Sezione.R = 27;
+  nodo.LatoZ = 700;
+  nodo.LatoY = 760;
+  nodo.SpessPiastra = 30;
+  nodo.TipoNodo = 2;
+  nodo.HNerv = 250;
+  nodo.SpNerv = 15;
+  nodo.SaldInt = 1;
+  nodo.Gola = 11;
+  nodo.GolaCalc = 11 / std::sqrt(2.0);
+  nodo.NTir = 8;
+  nodo.OptionNTir = 1;
   const double z[] = {80, 620, 80, 620, 80, 620, 350, 350}, y[] = {90, 90, 670, 670, 380, 380, 670, 90};
   for (int i = 1; i <= 8; ++i) nodo.TfZ[i] = z[i - 1], nodo.TfY[i] = y[i - 1];
-  nodo.TfFi = 24; nodo.TfLFt = 140; nodo.TfL = 650; nodo.TfR = 110; nodo.TfL1 = 600; nodo.TfLF = 15;
-  nodo.TfDForo = 115; nodo.TfHMalta = 50;
+  nodo.TfFi = 24;
+  nodo.TfLFt = 140;
+  nodo.TfL = 650;
+  nodo.TfR = 110;
+  nodo.TfL1 = 600;
+  nodo.TfLF = 15;
+  nodo.TfDForo = 115;
+  nodo.TfHMalta = 50;
   const double p[] = {2, 4, 3, 6, 6, 2, 2, 15, 10, 25, 18, 15, 10, 5, 6, 1, 0, 5, 1, 1, 7, 0, 0, 0, 0, 1, 1, 1};
   for (int i = 0; i < NumParNodo; ++i) suite.ParNodo[i] = p[i];
   stiliGrb.NumStili = 1;
@@ -67,7 +84,7 @@ void RiempiLinee(int n, int quota, double lungo) {
   disegno.DestDis = GENDIS;
   const int coord = 30000;
   for (int i = 0; i < coord; ++i) disegno.CoordX[i] = std::round(r(caso)), disegno.CoordY[i] = std::round(r(caso));
-  for (int i = 1; i < coord; i += 2) {                        // the other end of a line, axis-parallel half of the time
+  for (int i = 1; i < coord; i += 2) {  // the other end of a line, axis-parallel half of the time
     disegno.CoordX[i] = disegno.CoordX[i - 1] + piccolo(caso);
     disegno.CoordY[i] = disegno.CoordY[i - 1] + (i % 4 == 1 ? 0 : piccolo(caso));
   }

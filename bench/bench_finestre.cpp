@@ -2,9 +2,9 @@
 // Called    bench_finestre SUITE [options of the benchmark library]; SUITE is made by scripts/prepara-suite. No screen is needed.
 // Aims      keystroke 16 ms, sketch a frame (16 ms), start 1 s.
 #include "app/qt/finestre.h"
-#include "app/qt/montaggio.h"
 #include "app/qt/legame.h"
 #include "app/qt/lingua.h"
+#include "app/qt/montaggio.h"
 #include "app/qt/piattaforma_qt.h"
 #include "model/stato.h"
 #include "model/suite.h"
@@ -34,7 +34,7 @@ static void Battuta(benchmark::State& stato) {
     campo->setSelection(2, 1);
     QTest::keyClick(campo, static_cast<Qt::Key>(Qt::Key_0 + cifra));
     QTest::keyClick(campo, Qt::Key_Return);
-    campo->window()->repaint();           // at once, all of it; the toolkit would paint what changed, some milliseconds later
+    campo->window()->repaint();  // at once, all of it; the toolkit would paint what changed, some milliseconds later
     if (campo->text().at(2).digitValue() != cifra || insDati.LatoTxt[2].testo != campo->text().toStdString()) {
       stato.SkipWithError("the field did not take the key");
       break;

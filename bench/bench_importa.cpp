@@ -17,13 +17,15 @@
 
 namespace {
 
-constexpr int NUM_FILE = 40, NUM_ASTE = 2000, NUM_SEZIONI = 5, NUM_SESTETTI = 9, PRESE = 200;   // 90,001 records of 56 bytes: 5.04 MB
+constexpr int NUM_FILE = 40, NUM_ASTE = 2000, NUM_SEZIONI = 5, NUM_SESTETTI = 9, PRESE = 200;  // 90,001 records of 56 bytes: 5.04 MB
 constexpr std::size_t RECORD = 56;
 
 std::filesystem::path Cartella() { return std::filesystem::temp_directory_path() / "qb07-misura-importa"; }
 
 template <class T>
-void Metti(std::vector<char>& b, std::size_t posto, T v) { std::memcpy(b.data() + posto, &v, sizeof v); }
+void Metti(std::vector<char>& b, std::size_t posto, T v) {
+  std::memcpy(b.data() + posto, &v, sizeof v);
+}
 
 std::vector<char> FileRisultati() {
   std::vector<char> b(RECORD * (1 + std::size_t{NUM_ASTE} * NUM_SEZIONI * NUM_SESTETTI));
@@ -64,7 +66,7 @@ void Elenchi() {
   c.SestettiStr[1] = 0;
 }
 
-double ByteLetti() {                         // bytes that the process has asked the system for
+double ByteLetti() {  // bytes that the process has asked the system for
   std::ifstream f("/proc/self/io");
   std::string chiave;
   double v = 0;

@@ -15,7 +15,7 @@ Suite suite;
 Lavoro lavoro;
 
 void Diametri() {
-  const double diametri[] = { 16, 18, 20, 22, 24, 27, 30 }, aree[] = { 157, 192, 245, 303, 353, 459, 561 };
+  const double diametri[] = {16, 18, 20, 22, 24, 27, 30}, aree[] = {157, 192, 245, 303, 353, 459, 561};
   suite.NumDiam = 7;
   for (int r = 0; r < 7; ++r) {
     suite.DiamVal[r] = diametri[r];
@@ -32,21 +32,44 @@ void Prepara(bool nervature, int tiranti) {
   lavoro.suite = &suite;
   lavoro.TipoVer = MetodoSLU;
   Sezione& z = nodo.Sezione;
-  z.H = 290; z.B = 300; z.A = 8.5; z.E = 14; z.R = 27;
-  nodo.LatoZ = 560; nodo.LatoY = 600; nodo.SpessPiastra = 30;
+  z.H = 290;
+  z.B = 300;
+  z.A = 8.5;
+  z.E = 14;
+  z.R = 27;
+  nodo.LatoZ = 560;
+  nodo.LatoY = 600;
+  nodo.SpessPiastra = 30;
   nodo.TipoNodo = nervature ? 2 : 1;
-  nodo.HNerv = 200; nodo.SpNerv = 12; nodo.SaldInt = 1;
-  nodo.Gola = 10; nodo.GolaCalc = 10 / 1.4142135623730951;
-  nodo.TfFi = 24; nodo.TfL = 600; nodo.TfL1 = 550; nodo.TfR = 80; nodo.TfLF = 20; nodo.TfDistBordo = 300;
-  nodo.MatCls.Rck = 300; nodo.MatCls.GammaC = 1.5; nodo.EcCls = 312201.85778;
+  nodo.HNerv = 200;
+  nodo.SpNerv = 12;
+  nodo.SaldInt = 1;
+  nodo.Gola = 10;
+  nodo.GolaCalc = 10 / 1.4142135623730951;
+  nodo.TfFi = 24;
+  nodo.TfL = 600;
+  nodo.TfL1 = 550;
+  nodo.TfR = 80;
+  nodo.TfLF = 20;
+  nodo.TfDistBordo = 300;
+  nodo.MatCls.Rck = 300;
+  nodo.MatCls.GammaC = 1.5;
+  nodo.EcCls = 312201.85778;
   nodo.MatAcc.Ftk = nodo.MatAcc.Ftk40 = nodo.MatTir.Ftk = 4300;
-  nodo.MatVit.Nome = "8.8"; nodo.MatVit.Ft = 8000; nodo.MatVit.GammaM2 = 1.25;
-  nodo.MatAcc.Nome = "S 275 (FE 430)"; nodo.MatAcc.Fyk = 2750; nodo.MatAcc.GammaM = 1.05;
+  nodo.MatVit.Nome = "8.8";
+  nodo.MatVit.Ft = 8000;
+  nodo.MatVit.GammaM2 = 1.25;
+  nodo.MatAcc.Nome = "S 275 (FE 430)";
+  nodo.MatAcc.Fyk = 2750;
+  nodo.MatAcc.GammaM = 1.05;
   nodo.NTir = static_cast<std::int16_t>(tiranti);
   nodo.OptionNTir = tiranti == 8 ? 1 : 0;
   const double Z = nodo.LatoZ, Y = nodo.LatoY, d = 60;
-  const double tz[] = { 0, d, Z - d, d, Z - d, d, Z - d, Z / 2, Z / 2 }, ty[] = { 0, d, d, Y - d, Y - d, Y / 2, Y / 2, Y - d, d };
-  for (int i = 1; i <= tiranti; ++i) { nodo.TfZ[i] = tz[i]; nodo.TfY[i] = ty[i]; }
+  const double tz[] = {0, d, Z - d, d, Z - d, d, Z - d, Z / 2, Z / 2}, ty[] = {0, d, d, Y - d, Y - d, Y / 2, Y / 2, Y - d, d};
+  for (int i = 1; i <= tiranti; ++i) {
+    nodo.TfZ[i] = tz[i];
+    nodo.TfY[i] = ty[i];
+  }
   std::mt19937 gen(11);
   const auto fra = [&](double a, double b) { return std::uniform_real_distribution<double>(a, b)(gen); };
   nodo.NumSoll = MaxSoll;
@@ -66,7 +89,7 @@ void Solutore(benchmark::State& stato) {
   for ([[maybe_unused]] auto giro : stato)
     for (int s = 1; s <= MaxSoll; ++s) {
       DatiSezione(lavoro, s);
-      if (!PresInfl(lavoro, s)) std::abort();          // a failure of the solver would spoil the measure
+      if (!PresInfl(lavoro, s)) std::abort();  // a failure of the solver would spoil the measure
       iterazioni += lavoro.presInfl.IterPres - 1;
     }
   const double sestetti = static_cast<double>(stato.iterations()) * MaxSoll;

@@ -19,7 +19,7 @@ Lavoro lavoro;
 Risultati& ris = lavoro.ris;
 std::uint64_t seme = 0;
 
-double Casuale(double massimo) {                       // from -massimo to massimo
+double Casuale(double massimo) {  // from -massimo to massimo
   seme ^= seme << 13, seme ^= seme >> 7, seme ^= seme << 17;
   return massimo * (static_cast<double>(seme >> 11) / 4503599627370496.0 - 1);
 }

@@ -37,7 +37,9 @@ int main(int quanti, char** testi) {
   const auto modello = LeggiModello(*cartella + "\\struttur.str");
   if (!modello) return NonFatto;
   std::vector<int> numeri;
-  if ((*domanda)[2] == "1") for (const NodoModello& n : modello->nodi) numeri.push_back(n.numero);
-  else for (const AstaModello& a : modello->aste) numeri.push_back(a.numero);
+  if ((*domanda)[2] == "1")
+    for (const NodoModello& n : modello->nodi) numeri.push_back(n.numero);
+  else
+    for (const AstaModello& a : modello->aste) numeri.push_back(a.numero);
   return ScriviRighe(uscita, {Aggiungi((*domanda)[1], numeri)}) ? Fatto : NonFatto;
 }

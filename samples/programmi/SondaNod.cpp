@@ -41,6 +41,8 @@ int main(int quanti, char** testi) {
   const int tipo = scelte.size() > 1 ? Intero(scelte[1]) : TIPO_PREDEFINITO;
   const int asta = scelte.size() > 2 ? Intero(scelte[2]) : Colonna(*modello, nodo);
   const NodoModello* n = Trova(*modello, nodo);
-  return ScriviRighe(*cartella + "\\SondaOut.txt", {std::to_string(tipo) + "," + std::to_string(tipo), std::to_string(nodo), "1," + std::to_string(asta),
-                                                    n ? n->testo : "", (*domanda)[3]}) ? Fatto : NonFatto;
+  return ScriviRighe(*cartella + "\\SondaOut.txt", {std::to_string(tipo) + "," + std::to_string(tipo), std::to_string(nodo),
+                                                    "1," + std::to_string(asta), n ? n->testo : "", (*domanda)[3]})
+           ? Fatto
+           : NonFatto;
 }

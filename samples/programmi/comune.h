@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-enum Esito { Fatto = 0, NonFatto = 1, UsoErrato = 2 };      // exit status
+enum Esito { Fatto = 0, NonFatto = 1, UsoErrato = 2 };  // exit status
 
 inline std::string Minuscolo(std::string_view t) {
   std::string m(t);
@@ -102,4 +102,4 @@ inline std::optional<std::string> Risposta(const char* variabile, const std::str
   if (!righe) return std::nullopt;
   return righe->empty() ? std::string() : righe->front();
 }
-constexpr const char* ANNULLA = "annulla";                  // an answer that writes nothing: the user closed the tool
+constexpr const char* ANNULLA = "annulla";  // an answer that writes nothing: the user closed the tool

@@ -16,10 +16,20 @@
 #include <sstream>
 
 struct Disegno {
-  struct Punto { double x = 0, y = 0; };
-  struct Linea { int a = 0, b = 0, colore = 0, tipo = 0; };
-  struct Testo { int dove = 0, angolo = 0, colore = 0; double larghezza = 0, altezza = 0; std::string testo; };
-  struct Arco { int centro = 0, inizio = 0, fine = 0, colore = 0, tipo = 0; };
+  struct Punto {
+    double x = 0, y = 0;
+  };
+  struct Linea {
+    int a = 0, b = 0, colore = 0, tipo = 0;
+  };
+  struct Testo {
+    int dove = 0, angolo = 0, colore = 0;
+    double larghezza = 0, altezza = 0;
+    std::string testo;
+  };
+  struct Arco {
+    int centro = 0, inizio = 0, fine = 0, colore = 0, tipo = 0;
+  };
   std::vector<Punto> punti;
   std::vector<Linea> linee;
   std::vector<Testo> testi;
@@ -45,12 +55,12 @@ static int Intero(double v) { return static_cast<int>(v); }
 
 static Disegno LeggiDis(const std::string& percorso) {
   Disegno d;
-  Lettore l{LeggiRighe(percorso).value_or(std::vector<std::string>()), 4};       // version, extents, heights
+  Lettore l{LeggiRighe(percorso).value_or(std::vector<std::string>()), 4};  // version, extents, heights
   for (int n = l.Quanti(); n > 0; --n) {
     const auto v = l.Numeri(3);
     d.punti.push_back({v[0], v[1]});
   }
-  for (int n = l.Quanti(); n > 0; --n) l.Riga();                                 // circles: always none
+  for (int n = l.Quanti(); n > 0; --n) l.Riga();  // circles: always none
   for (int n = l.Quanti(); n > 0; --n) {
     const auto v = l.Numeri(4);
     d.linee.push_back({Intero(v[0]), Intero(v[1]), Intero(v[2]), Intero(v[3])});
@@ -102,12 +112,12 @@ struct Visualizzatore : QWidget {
     for (const auto& a : disegno.archi) {
       if (!disegno.Vale(a.centro) || !disegno.Vale(a.inizio) || !disegno.Vale(a.fine)) continue;
       const QLineF da(Punto(a.centro), Punto(a.inizio)), al(Punto(a.centro), Punto(a.fine));
-      const double r = da.length(), inizio = 360 - da.angle();      // QLineF counts clockwise when y points up
+      const double r = da.length(), inizio = 360 - da.angle();  // QLineF counts clockwise when y points up
       double ampiezza = da.angle() - al.angle();
       if (ampiezza <= 0.001) ampiezza += 360;
       p.setPen(Penna(a.colore, a.tipo));
-      p.drawArc(v.mapRect(QRectF(Punto(a.centro).x() - r, Punto(a.centro).y() - r, 2 * r, 2 * r)), static_cast<int>(std::lround(inizio * 16)),
-                static_cast<int>(std::lround(ampiezza * 16)));
+      p.drawArc(v.mapRect(QRectF(Punto(a.centro).x() - r, Punto(a.centro).y() - r, 2 * r, 2 * r)),
+                static_cast<int>(std::lround(inizio * 16)), static_cast<int>(std::lround(ampiezza * 16)));
     }
   }
   void Testi(QPainter& p, const QTransform& v, double scala) const {
@@ -132,7 +142,7 @@ struct Visualizzatore : QWidget {
     QPainter p(this);
     p.fillRect(rect(), Qt::white);
     if (disegno.punti.empty()) {
-      p.setPen(Qt::black);                // the sheet is white in any theme
+      p.setPen(Qt::black);  // the sheet is white in any theme
       p.drawText(rect(), Qt::AlignCenter, "Nessun disegno");
       return;
     }
@@ -156,7 +166,8 @@ int main(int argc, char** argv) {
   if (!righe || righe->size() < 2) return NonFatto;
   Visualizzatore w;
   w.file = Rifila((*righe)[1]);
-  w.setWindowTitle("VISUALIZZAZIONE FILE DISEGNO - " + QString::fromLatin1((*righe)[1].data(), static_cast<qsizetype>((*righe)[1].size())).trimmed());
+  w.setWindowTitle("VISUALIZZAZIONE FILE DISEGNO - " +
+                   QString::fromLatin1((*righe)[1].data(), static_cast<qsizetype>((*righe)[1].size())).trimmed());
   w.resize(1000, 700);
   QObject::connect(new QShortcut(QKeySequence("Ctrl+V"), &w), &QShortcut::activated, &w, [&w] { w.Rileggi(); });
   w.Rileggi();

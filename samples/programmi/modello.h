@@ -2,13 +2,22 @@
 #pragma once
 #include "comune.h"
 
-struct NodoModello { int numero = 0; double x = 0, y = 0; std::string testo; };
-struct AstaModello { int nodo1 = 0, nodo2 = 0, numero = 0; };
-struct Modello { std::vector<NodoModello> nodi; std::vector<AstaModello> aste; };
+struct NodoModello {
+  int numero = 0;
+  double x = 0, y = 0;
+  std::string testo;
+};
+struct AstaModello {
+  int nodo1 = 0, nodo2 = 0, numero = 0;
+};
+struct Modello {
+  std::vector<NodoModello> nodi;
+  std::vector<AstaModello> aste;
+};
 
 inline int Intero(std::string_view t) { return static_cast<int>(std::strtol(std::string(t).c_str(), nullptr, 10)); }
 
-inline std::vector<std::string> Campi(const std::string& riga) {     // parted by commas
+inline std::vector<std::string> Campi(const std::string& riga) {  // parted by commas
   std::vector<std::string> campi;
   for (std::size_t i = 0; i <= riga.size();) {
     const std::size_t fine = std::min(riga.find(',', i), riga.size());
@@ -23,7 +32,7 @@ inline std::optional<Modello> LeggiModello(const std::string& percorso) {
   const auto righe = LeggiRighe(percorso);
   if (!righe) return std::nullopt;
   Modello m;
-  std::size_t p = 1;                                                  // behind the version line
+  std::size_t p = 1;  // behind the version line
   const auto prendi = [&] { return p < righe->size() ? (*righe)[p++] : std::string(); };
   for (int n = Intero(prendi()); n > 0 && p < righe->size(); --n) prendi();
   for (int n = Intero(prendi()); n > 0 && p < righe->size(); --n) {

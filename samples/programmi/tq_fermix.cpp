@@ -8,10 +8,13 @@
 
 #include "comune.h"
 
-struct Unita { const char* nome; double fattore; };
+struct Unita {
+  const char* nome;
+  double fattore;
+};
 // daN of one unit; a weight falls with 9.80665 m/s2. Longer names first, since the text of a unit begins with one of them.
 constexpr Unita FORZE[] = {{"daN", 1}, {"kgf", 0.980665}, {"kN", 100}, {"N", 0.1}, {"t", 980.665}};
-constexpr Unita LUNGHEZZE[] = {{"mm", 0.1}, {"cm", 1}, {"m", 100}};            // cm
+constexpr Unita LUNGHEZZE[] = {{"mm", 0.1}, {"cm", 1}, {"m", 100}};  // cm
 enum Categoria { Forze = 4, Momenti = 5 };
 
 // daN or daN cm of one unit; 0: not a unit of the category.

@@ -22,7 +22,7 @@ static double AreaFra(const Suite& tavola, int i, double d) {
 double AreaResistente(const Suite& tavola, double d, OrigineArea& origine) {
   const int n = std::min<int>(tavola.NumDiam, MaxDiam + 1);
   if (n < 1) return 0;
-  const bool sotto = d < tavola.DiamVal[0], sopra = d > tavola.DiamVal[n - 1];
+  const bool sotto = d<tavola.DiamVal[0], sopra = d> tavola.DiamVal[n - 1];
   if (sotto || sopra) {
     origine.estrapolata = true;
     return n < 2 ? 0 : AreaFra(tavola, sotto ? 0 : n - 2, d);

@@ -3,7 +3,9 @@
 struct Suite;
 
 // How an area was found: both stay as they were where a row of the table fits.
-struct OrigineArea { bool estrapolata = false, interpolata = false; };
+struct OrigineArea {
+  bool estrapolata = false, interpolata = false;
+};
 
 // Resistant area (mm2) of a bar of diameter d (mm): linear in d^2 between two rows, and beyond the first and the last row.
 // Raises estrapolata outside the table and interpolata between two rows; clears neither.

@@ -7,5 +7,7 @@ void MostraFault(const char* testo = TESTO_FAULT);
 
 // A failed step is skipped: the variable keeps its value, this status is set, the next step runs. Whoever commands looks at
 // it once, at the end; Scatena clears it before a command of the user.
-struct StatoPassi { bool fallito = false; };
+struct StatoPassi {
+  bool fallito = false;
+};
 inline StatoPassi passi;

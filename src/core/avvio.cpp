@@ -12,9 +12,9 @@
 constexpr const char* CHIAVE_RADICE = "|diroot=";
 constexpr const char* FILE_DIRLAV = "\\impostazioni\\dirlav";
 constexpr const char* FILE_LAVORO = "\\impostazioni\\lavoro";
-constexpr std::string_view CARTELLA_LAVORI = "lavori";   // the folder of the jobs must end so
-constexpr std::size_t MIN_DIRLAV = 9, MIN_RADICE = 3, LUNG_LAVORO = 6;   // characters
-constexpr std::size_t MASSIMO_TESTO = 1u << 16;          // bytes of a path that are looked at
+constexpr std::string_view CARTELLA_LAVORI = "lavori";                  // the folder of the jobs must end so
+constexpr std::size_t MIN_DIRLAV = 9, MIN_RADICE = 3, LUNG_LAVORO = 6;  // characters
+constexpr std::size_t MASSIMO_TESTO = 1u << 16;                         // bytes of a path that are looked at
 
 static bool FinisceInSeparatore(std::string_view t) { return !t.empty() && (t.back() == '\\' || t.back() == '/'); }
 
@@ -51,7 +51,7 @@ static bool LeggiLavoro() {
   if (!ApriLettura(f, suite.DirRoot + FILE_LAVORO) || !LeggiRiga(f, riga)) return ErroreFile(FILE_LAVORO);
   const std::string_view nome = Rifila(riga);
   if (NumCaratteri(nome) != LUNG_LAVORO) return ErroreFile(FILE_LAVORO);
-  suite.Lavoro = nome;             // its case stays, unlike the folders'
+  suite.Lavoro = nome;  // its case stays, unlike the folders'
   return true;
 }
 

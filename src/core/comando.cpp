@@ -17,7 +17,7 @@ static bool Eseguibile(const std::string& percorso) {
 }
 
 std::string TrovaProgramma(std::string_view programma) {
-  if (programma.empty() || programma.find('\0') != std::string_view::npos) return {};   // the system would cut the name at a NUL
+  if (programma.empty() || programma.find('\0') != std::string_view::npos) return {};  // the system would cut the name at a NUL
   const std::string scritto = RisolviPercorso(programma);
   if (Eseguibile(scritto)) return scritto;
   const bool exe = programma.size() > 4 && UgualeSenzaMaiuscole(programma.substr(programma.size() - 4), ".exe");

@@ -5,4 +5,4 @@
 #include <string>
 #include <string_view>
 
-std::string TrovaProgramma(std::string_view programma);      // the system's path of the executable file; "" none
+std::string TrovaProgramma(std::string_view programma);  // the system's path of the executable file; "" none

@@ -13,20 +13,20 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-constexpr const char* FILE_DIAMETRI = "\\QbDiam.txt";   // behind DirCustom
+constexpr const char* FILE_DIAMETRI = "\\QbDiam.txt";  // behind DirCustom
 
 namespace {
 struct Diametro {
   const char* nome;
-  double d, area;                  // mm, mm2 (resistant)
+  double d, area;  // mm, mm2 (resistant)
 };
 }  // namespace
 
 constexpr Diametro DIAMETRI[] = {
-    {"M8", 8, 38.6},   {"M10", 10, 58},   {"M12", 12, 84.3}, {"M14", 14, 115},  {"M16", 16, 157},  {"M18", 18, 192},
-    {"M20", 20, 245},  {"M22", 22, 303},  {"M24", 24, 353},  {"M27", 27, 459},  {"M30", 30, 561},  {"M33", 33, 694},
-    {"M36", 36, 817},  {"M39", 39, 976},  {"M42", 42, 1120}, {"M45", 45, 1310}, {"M48", 48, 1470}, {"M52", 52, 1760},
-    {"M56", 56, 2030}, {"M60", 60, 2360}, {"M64", 64, 2680}, {"M68", 68, 3060},
+  {"M8", 8, 38.6},   {"M10", 10, 58},   {"M12", 12, 84.3}, {"M14", 14, 115},  {"M16", 16, 157},  {"M18", 18, 192},
+  {"M20", 20, 245},  {"M22", 22, 303},  {"M24", 24, 353},  {"M27", 27, 459},  {"M30", 30, 561},  {"M33", 33, 694},
+  {"M36", 36, 817},  {"M39", 39, 976},  {"M42", 42, 1120}, {"M45", 45, 1310}, {"M48", 48, 1470}, {"M52", 52, 1760},
+  {"M56", 56, 2030}, {"M60", 60, 2360}, {"M64", 64, 2680}, {"M68", 68, 3060},
 };
 
 static void DiametriInterni() {
@@ -59,14 +59,13 @@ void LeggiDiametri() {
   const std::string percorso = suite.DirCustom + FILE_DIAMETRI;
   FileLettura f;
   if (!ApriLettura(f, percorso)) return;
-  int contatore = 1;               // of the row to come
+  int contatore = 1;  // of the row to come
   std::string riga;
   while (!FineFile(f)) {
     if (!LeggiRiga(f, riga)) break;
     if (!Contiene(riga, "|") || Minuscolo(PrimiCaratteri(riga, 3)) == "rem") continue;
-    if (contatore > MaxDiam) {     // 99 rows fit, the box speaks of 100; the count stays at its last value: rows read do not count
-      Messaggio("Il file " + percorso + " contiene un numero eccessivo di diametri (max " + "100" + ")", TitoloProg,
-                Icona::Esclamazione);
+    if (contatore > MaxDiam) {  // 99 rows fit, the box speaks of 100; the count stays at its last value: rows read do not count
+      Messaggio("Il file " + percorso + " contiene un numero eccessivo di diametri (max " + "100" + ")", TitoloProg, Icona::Esclamazione);
       return;
     }
     if (!DecifraRiga(riga, contatore - 1)) {

@@ -8,7 +8,7 @@ std::string SuUnaRiga(std::string_view testo) {
   r.reserve(testo.size());
   for (std::size_t k = 0; k < testo.size(); ++k) {
     const char c = testo[k];
-    if (c == '\r' && k + 1 < testo.size() && testo[k + 1] == '\n') continue;   // CR LF is one end
+    if (c == '\r' && k + 1 < testo.size() && testo[k + 1] == '\n') continue;  // CR LF is one end
     if (c == '\r' || c == '\n') r += "\\n";
     else r += c;
   }
@@ -21,8 +21,9 @@ std::string PercorsoSuUnaRiga(std::string_view percorso) {
   std::string r;
   for (std::size_t k = 0; k < riga.size(); ++k) {
     auto c = static_cast<unsigned char>(riga[k]);
-    const bool secondi = c == 0xC2 && k + 1 < riga.size() && static_cast<unsigned char>(riga[k + 1]) >= 0x80 && static_cast<unsigned char>(riga[k + 1]) < 0xA0;
-    if (secondi) c = static_cast<unsigned char>(riga[++k]);     // U+0080 to U+009F, two bytes
+    const bool secondi =
+      c == 0xC2 && k + 1 < riga.size() && static_cast<unsigned char>(riga[k + 1]) >= 0x80 && static_cast<unsigned char>(riga[k + 1]) < 0xA0;
+    if (secondi) c = static_cast<unsigned char>(riga[++k]);  // U+0080 to U+009F, two bytes
     if (secondi || c < 0x20 || c == 0x7F) r.append("\\x").append({CIFRE[c >> 4], CIFRE[c & 15]});
     else r += riga[k];
   }

@@ -3,9 +3,9 @@
 // not-a-number and no infinity ever reaches a report, a file or a drawing.
 #pragma once
 
-void AzzeraFault();                // clears the flags; before a step that is to be judged
-void SegnalaFault();               // raises a fault by hand: integer overflow, index outside its array, file not opened in an unguarded place
-bool FaultAritmetico();            // true: a fault was raised since AzzeraFault
+void AzzeraFault();      // clears the flags; before a step that is to be judged
+void SegnalaFault();     // raises a fault by hand: integer overflow, index outside its array, file not opened in an unguarded place
+bool FaultAritmetico();  // true: a fault was raised since AzzeraFault
 
 // The flags as they stood, put back at the end of a block whose own arithmetic is nobody's business (a window toolkit, a notice).
 class RiparoFault {

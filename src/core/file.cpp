@@ -12,8 +12,8 @@
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t MASSIMO_RIGA = 1u << 20;      // a line is cut here
-constexpr std::uintmax_t MASSIMO_FILE = 1u << 28;   // no text file of the suite is larger; one that is counts as unreadable
+constexpr std::size_t MASSIMO_RIGA = 1u << 20;     // a line is cut here
+constexpr std::uintmax_t MASSIMO_FILE = 1u << 28;  // no text file of the suite is larger; one that is counts as unreadable
 
 static bool Separa(char c) { return c == '\\' || c == '/'; }
 static bool FineRiga(char c) { return c == '\r' || c == '\n'; }
@@ -43,8 +43,7 @@ static void SaltaFineRiga(FileLettura& f) {
   else if (f.pos < f.byte.size() && f.byte[f.pos] == '\n') {
     ++f.pos;
     return;
-  }
-  else return;
+  } else return;
   if (f.pos < f.byte.size() && f.byte[f.pos] == '\n') ++f.pos;
 }
 
@@ -86,7 +85,10 @@ static bool LeggiIntero(FileLettura& f, Intero& v) {
 }
 
 namespace {
-struct Motivo { std::errc errore;  const char* testo; };
+struct Motivo {
+  std::errc errore;
+  const char* testo;
+};
 }  // namespace
 
 // clang-format off
@@ -120,7 +122,7 @@ static std::string ComeScritto(std::string_view percorso) {
 
 std::string RisolviPercorso(std::string_view percorso) {
   std::string sistema = ComeScritto(percorso);
-  if (Esiste(sistema)) return sistema;             // every component stands as it is written: one question in place of one each
+  if (Esiste(sistema)) return sistema;  // every component stands as it is written: one question in place of one each
   sistema.clear();
   for (std::size_t i = 0; i < percorso.size();) {
     if (Separa(percorso[i])) {

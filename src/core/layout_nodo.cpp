@@ -79,8 +79,7 @@ static void LeggiVoce(FileLettura& f, const RigaNodo& r, int i) {
   if (r.forma == FormaNodo::Marca) {
     LeggiRiga(f, scambio.riga);
     scambio.attuale = Contiene(scambio.riga, MARCA_NODO);
-  }
-  else if (r.forma == FormaNodo::NomeSezione) LeggiNomeSezione(f, r.dato.testo[i]);
+  } else if (r.forma == FormaNodo::NomeSezione) LeggiNomeSezione(f, r.dato.testo[i]);
   else if (r.dato.numero != nullptr) LeggiValore(f, r.dato.numero[i]);
   else if (r.dato.intero != nullptr) LeggiValore(f, r.dato.intero[i]);
   else LeggiValore(f, r.dato.testo[i]);
@@ -107,7 +106,7 @@ static void LeggiElenco(FileLettura& f, std::span<const RigaNodo> colonne, int s
   for (int i = 1; i <= scritti; ++i)
     for (const RigaNodo& r : colonne) {
       if (FineFile(f)) {
-        passi.fallito = true;                        // every further step would fail alike
+        passi.fallito = true;  // every further step would fail alike
         return;
       }
       if (i <= tenuti) LeggiVoce(f, r, i);
@@ -125,8 +124,7 @@ void LeggiNodo(FileLettura& f, void (*passo)(PassoNodo)) {
     if (riga.massimo > 0) {
       scritti = LeggiConta(f, riga);
       tenuti = *riga.dato.intero;
-    }
-    else if (riga.elenco) LeggiElenco(f, righe.subspan(r, FineBlocco(righe, r) - r), scritti, tenuti);
+    } else if (riga.elenco) LeggiElenco(f, righe.subspan(r, FineBlocco(righe, r) - r), scritti, tenuti);
     else LeggiVoce(f, riga, 0);
     if (riga.passo != PassoNodo::Nessuno) passo(riga.passo);
   }
@@ -146,7 +144,7 @@ static const RigaNodo RIGHE[] = {
   {"SpessPiastra", &nodo.SpessPiastra},
   {"TipoNodo", &nodo.TipoNodo},
   {"OptionNTir", &scambio.motivo, Cifra, Sempre, PassoNodo::Motivo},
-  {"SpNerv", &nodo.SpNerv, Valore, Nervature},       // thickness before height, unlike the fields
+  {"SpNerv", &nodo.SpNerv, Valore, Nervature},  // thickness before height, unlike the fields
   {"HNerv", &nodo.HNerv, Valore, Nervature},
   {"SaldInt", &nodo.SaldInt, Valore, Nervature},
   {"Gola", &nodo.Gola},

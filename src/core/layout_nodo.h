@@ -25,7 +25,7 @@ enum class QuandoNodo : unsigned char { Sempre, Nervature, Attuale, Vecchia };
 // What the load does as soon as the row was read, or could not be read.
 enum class PassoNodo : unsigned char { Nessuno, Sezione, Motivo, Diametro, Esposizione, Metodo };
 
-struct DatoNodo {                  // one of the three; of a repeated row: the array's element 0
+struct DatoNodo {  // one of the three; of a repeated row: the array's element 0
   double* numero = nullptr;
   std::int16_t* intero = nullptr;
   std::string* testo = nullptr;
@@ -36,26 +36,26 @@ struct DatoNodo {                  // one of the three; of a repeated row: the a
 };
 
 struct RigaNodo {
-  const char* nome = "";           // as in the model, for messages of the tests
+  const char* nome = "";  // as in the model, for messages of the tests
   DatoNodo dato = {};
   FormaNodo forma = FormaNodo::Valore;
   QuandoNodo quando = QuandoNodo::Sempre;
   PassoNodo passo = PassoNodo::Nessuno;
-  int massimo = 0;                 // of a count: its upper bound; the rows of that list follow
-  bool elenco = false;             // repeated for 1..count; adjacent rows alternate
+  int massimo = 0;      // of a count: its upper bound; the rows of that list follow
+  bool elenco = false;  // repeated for 1..count; adjacent rows alternate
 };
 
 struct ScambioNodo {
-  bool attuale = true;             // generation of the file being read
-  std::string riga;                // its first line
-  double TfZ[MaxTir + 1] = {}, TfY[MaxTir + 1] = {};   // mm; the panel rebuilds the model's own, the file's must win
-  std::string motivo;              // "0".."3" entry of OptionNTir, empty none
-  std::int16_t TfDiamIdx = 0;      // 0 not read
-  std::int16_t Esposizione = 0;    // position plus one, 0 not read
-  std::string metodo;              // "0" allowable stresses, "1" limit states
+  bool attuale = true;                                // generation of the file being read
+  std::string riga;                                   // its first line
+  double TfZ[MaxTir + 1] = {}, TfY[MaxTir + 1] = {};  // mm; the panel rebuilds the model's own, the file's must win
+  std::string motivo;                                 // "0".."3" entry of OptionNTir, empty none
+  std::int16_t TfDiamIdx = 0;                         // 0 not read
+  std::int16_t Esposizione = 0;                       // position plus one, 0 not read
+  std::string metodo;                                 // "0" allowable stresses, "1" limit states
 };
 inline ScambioNodo scambio;
 
 std::span<const RigaNodo> RigheNodo();
-std::string ComponiNodo();                                       // the whole text of the model, current generation, CR LF
-void LeggiNodo(FileLettura& f, void (*passo)(PassoNodo));        // rows in order into the model and scambio
+std::string ComponiNodo();                                 // the whole text of the model, current generation, CR LF
+void LeggiNodo(FileLettura& f, void (*passo)(PassoNodo));  // rows in order into the model and scambio

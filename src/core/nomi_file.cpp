@@ -6,7 +6,10 @@
 #include "model/suite.h"
 
 namespace {
-struct Coppia { const char* chiave; const char* testo; };
+struct Coppia {
+  const char* chiave;
+  const char* testo;
+};
 }  // namespace
 
 constexpr Coppia PREFISSI[] = {{"TA", "\\RelTA_"}, {"SLU", "\\RelSLU_"}};
@@ -19,9 +22,7 @@ static const char* Cerca(const Coppia (&tavola)[N], std::string_view chiave) {
   return "";
 }
 
-static std::string CodiceENodo(std::string_view codice) {
-  return std::string(Rifila(codice)) + "_" + std::string(Rifila(nodo.NomeNodo));
-}
+static std::string CodiceENodo(std::string_view codice) { return std::string(Rifila(codice)) + "_" + std::string(Rifila(nodo.NomeNodo)); }
 
 std::string NomeFileRelazione(std::string_view metodo, std::string_view codice) {
   return suite.DirLavoro + Cerca(PREFISSI, metodo) + CodiceENodo(codice) + ".txt";
@@ -31,9 +32,7 @@ std::string NomeFileDisegno(std::string_view codice, std::string_view tipo) {
   return suite.DirLavoro + "\\" + CodiceENodo(codice) + Cerca(SUFFISSI, tipo);
 }
 
-std::string TitoloFrameSoll() {
-  return "n° " + std::to_string(nodo.NumSoll) + " [" + suite.UnitaForze + ", " + suite.UnitaMomenti + "]";
-}
+std::string TitoloFrameSoll() { return "n° " + std::to_string(nodo.NumSoll) + " [" + suite.UnitaForze + ", " + suite.UnitaMomenti + "]"; }
 
 std::string ElencoNodi() {
   std::string t;

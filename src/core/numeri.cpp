@@ -9,21 +9,22 @@
 
 #include "core/fault.h"
 
-constexpr int CIFRE = 15;          // significant digits of every written number
-constexpr double POTENZE[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+constexpr int CIFRE = 15;  // significant digits of every written number
+constexpr double POTENZE[] = {1,    1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                              1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
 static bool Cifra(char c) { return c >= '0' && c <= '9'; }
 
 namespace {
-struct Decimali {                  // value = 0.d1 d2 ... dn x 10^esp, no trailing zeros
-  char cifre[40] = {};             // read in blocks of 16
+struct Decimali {       // value = 0.d1 d2 ... dn x 10^esp, no trailing zeros
+  char cifre[40] = {};  // read in blocks of 16
   int n = 0, esp = 0;
 };
 }  // namespace
 
 // v = p + e exactly, p the product rounded; both factors far from the ends of the range.
 static void ProdottoEsatto(double a, double b, double& p, double& e) {
-  const double separa = 134217729;                       // 2^27 + 1: halves of 26 bits multiply without rounding
+  const double separa = 134217729;  // 2^27 + 1: halves of 26 bits multiply without rounding
   const double ta = separa * a, a1 = ta - (ta - a), a2 = a - a1, tb = separa * b, b1 = tb - (tb - b), b2 = b - b1;
   p = a * b;
   e = ((a1 * b1 - p) + a1 * b2 + a2 * b1) + a2 * b2;
@@ -33,20 +34,21 @@ static void ProdottoEsatto(double a, double b, double& p, double& e) {
 // product is known to the last bit; ties go to the even number.
 static bool CifreConsuete(double v, Decimali& d) {
   if (!(v >= 1e-4 && v < 1e15)) return false;
-  int esp = 1;                                           // v < 10^esp
+  int esp = 1;  // v < 10^esp
   if (v >= 1) {
     while (v >= POTENZE[esp]) ++esp;
   } else {
-    for (esp = 0; v * POTENZE[1 - esp] < 1; --esp) {}
+    for (esp = 0; v * POTENZE[1 - esp] < 1; --esp) {
+    }
   }
   double p = 0, e = 0;
   ProdottoEsatto(v, POTENZE[CIFRE - esp], p, e);
-  constexpr double UNITA = 4503599627370496.0;          // 2^52: from there on doubles are whole numbers
+  constexpr double UNITA = 4503599627370496.0;  // 2^52: from there on doubles are whole numbers
   double intero = (p + UNITA) - UNITA;
   const double resto = p - intero;
   if (resto == 0.5 && e > 0) intero += 1;
   if (resto == -0.5 && e < 0) intero -= 1;
-  if (intero < 1e14 || intero >= 1e15) return false;     // the power of ten was met by a rounding
+  if (intero < 1e14 || intero >= 1e15) return false;  // the power of ten was met by a rounding
   std::to_chars(d.cifre, d.cifre + sizeof d.cifre, static_cast<std::uint64_t>(intero));
   d.n = CIFRE;
   d.esp = esp;
@@ -163,7 +165,8 @@ static bool TroppoPiccolo(std::string_view testa) {
 template <class Intero>
 static bool InInteroDi(double v, Intero& n) {
   const double r = std::nearbyint(v);
-  if (!(r >= static_cast<double>(std::numeric_limits<Intero>::min()) && r <= static_cast<double>(std::numeric_limits<Intero>::max()))) return false;
+  if (!(r >= static_cast<double>(std::numeric_limits<Intero>::min()) && r <= static_cast<double>(std::numeric_limits<Intero>::max())))
+    return false;
   n = static_cast<Intero>(r);
   return true;
 }

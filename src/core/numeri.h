@@ -12,7 +12,7 @@
 
 std::string NumeroFile(double v);
 std::string NumeroPiano(double v);
-int ScriviNumero(double v, char* a, char mark, bool zeroIniziale);   // into a[32], of which the rest is scratch; returns the length
+int ScriviNumero(double v, char* a, char mark, bool zeroIniziale);  // into a[32], of which the rest is scratch; returns the length
 
 // The numeric head of a text: blanks, sign, digits, one point, digits, optional exponent; the rest is ignored. No head: 0.
 // "nan" and "inf" have no head. False, v untouched: the number overflows a double.
@@ -25,8 +25,8 @@ bool ValLocale(std::string_view testo, char mark, double& v);
 bool InIntero(double v, std::int16_t& n);
 bool InIntero(double v, std::int32_t& n);
 
-double ArrotondaPari(double v, int decimali);    // ties to even: nearbyint(v 10^n) / 10^n; n < 0 counts as 0
-double Arrotonda1(double v);                     // floor(10 v + 0.5) / 10, the rounding of every comparison
-double Arrotonda2(double v);                     // floor(100 v + 0.5) / 100
-inline double MaxDi(double a, double b) { return b > a ? b : a; }   // a unless b is strictly larger
-inline double MinDi(double a, double b) { return b < a ? b : a; }   // a unless b is strictly smaller
+double ArrotondaPari(double v, int decimali);                      // ties to even: nearbyint(v 10^n) / 10^n; n < 0 counts as 0
+double Arrotonda1(double v);                                       // floor(10 v + 0.5) / 10, the rounding of every comparison
+double Arrotonda2(double v);                                       // floor(100 v + 0.5) / 100
+inline double MaxDi(double a, double b) { return b > a ? b : a; }  // a unless b is strictly larger
+inline double MinDi(double a, double b) { return b < a ? b : a; }  // a unless b is strictly smaller

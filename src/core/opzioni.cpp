@@ -8,8 +8,8 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-constexpr int OFFSET_QUOTE = 13;          // signed offset of the dimension text
-constexpr int OFFSET_QUOTE_INSERITO = 17; // the value of its field
+constexpr int OFFSET_QUOTE = 13;           // signed offset of the dimension text
+constexpr int OFFSET_QUOTE_INSERITO = 17;  // the value of its field
 
 bool LeggiOpzioni() {
   FileLettura f;
@@ -17,7 +17,7 @@ bool LeggiOpzioni() {
   bool riuscita = true;
   for (double& p : suite.ParNodo)
     if (!LeggiValore(f, p)) riuscita = false;
-  suite.ParNodo[OFFSET_QUOTE_INSERITO] = suite.ParNodo[OFFSET_QUOTE];   // also with "Quote inf.": the field then shows the sign
+  suite.ParNodo[OFFSET_QUOTE_INSERITO] = suite.ParNodo[OFFSET_QUOTE];  // also with "Quote inf.": the field then shows the sign
   return riuscita;
 }
 

@@ -31,6 +31,4 @@ Piattaforma PiattaformaAssente() {
   return p;
 }
 
-void Messaggio(const std::string& testo, const std::string& titolo, Icona icona) {
-  piattaforma.messaggio(testo, titolo, icona);
-}
+void Messaggio(const std::string& testo, const std::string& titolo, Icona icona) { piattaforma.messaggio(testo, titolo, icona); }

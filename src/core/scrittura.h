@@ -16,5 +16,5 @@
 // Duratura: what cannot be made again. The disk holds its bytes before the renaming and the renaming before the call returns.
 enum class Tenuta { Rifacibile, Duratura };
 
-std::errc ControllaPosto(const std::string& sistema);     // would it be refused now; nothing is touched
+std::errc ControllaPosto(const std::string& sistema);  // would it be refused now; nothing is touched
 std::errc MettiAlPosto(const std::string& sistema, std::string_view byte, Tenuta tenuta);

@@ -11,26 +11,26 @@
 #include <cstdio>
 #include <cstdlib>
 
-constexpr std::size_t MASSIMO_BLOCCO = 1u << 30;     // bytes of one write
-constexpr int PROVE_NOME = 100;                      // names drawn until one is free
+constexpr std::size_t MASSIMO_BLOCCO = 1u << 30;  // bytes of one write
+constexpr int PROVE_NOME = 100;                   // names drawn until one is free
 constexpr mode_t PERMESSI = 0777, SCRIVE = 0222;
 
 namespace {
 struct Posto {
-  std::string percorso;            // links followed
-  std::string cartella;            // of percorso, with its separator; empty: the current one
+  std::string percorso;  // links followed
+  std::string cartella;  // of percorso, with its separator; empty: the current one
   bool esiste = false;
-  struct stat prima = {};          // the former file, if there is one
+  struct stat prima = {};  // the former file, if there is one
 };
 }  // namespace
 
 static std::errc Errore() {
-  if (errno == EDQUOT) return std::errc::no_space_on_device;     // a quota is a disk of its own size
+  if (errno == EDQUOT) return std::errc::no_space_on_device;  // a quota is a disk of its own size
   return static_cast<std::errc>(errno != 0 ? errno : EIO);
 }
 
 template <class Chiamata>
-static auto Ripeti(Chiamata chiamata) {                     // again as long as a signal interrupts it
+static auto Ripeti(Chiamata chiamata) {  // again as long as a signal interrupts it
   auto esito = chiamata();
   while (esito < 0 && errno == EINTR) esito = chiamata();
   return esito;
@@ -49,7 +49,7 @@ static std::errc EsaminaFile(Posto& p) {
     if (const std::errc e = SegueCollegamento(p); e != std::errc{}) return e;
   if (S_ISDIR(p.prima.st_mode)) return std::errc::is_a_directory;
   if (!S_ISREG(p.prima.st_mode)) return std::errc::not_supported;
-  if ((p.prima.st_mode & SCRIVE) == 0) return std::errc::permission_denied;      // also for a user whom no bit stops
+  if ((p.prima.st_mode & SCRIVE) == 0) return std::errc::permission_denied;  // also for a user whom no bit stops
   return faccessat(AT_FDCWD, p.percorso.c_str(), W_OK, AT_EACCESS) == 0 ? std::errc{} : Errore();
 }
 
@@ -78,7 +78,8 @@ static int CreaAccanto(const Posto& p, std::string& accanto) {
     if (getentropy(caso, sizeof caso) != 0) return -1;
     accanto = p.cartella + ".qb7-";
     for (const unsigned char c : caso) accanto += "0123456789abcdefghijklmnopqrstuv"[c % 32];
-    const int fd = Ripeti([&] { return open(accanto.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, p.esiste ? 0600 : 0666); });
+    const int fd =
+      Ripeti([&] { return open(accanto.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, p.esiste ? 0600 : 0666); });
     if (fd >= 0 || errno != EEXIST) return fd;
   }
   return -1;
@@ -109,11 +110,11 @@ static bool ScriviTutto(int fd, std::string_view byte) {
   return true;
 }
 
-static bool SulDisco(int fd) {            // a file system that knows no syncing is as good as it gets
+static bool SulDisco(int fd) {  // a file system that knows no syncing is as good as it gets
   return Ripeti([&] { return fsync(fd); }) == 0 || errno == EINVAL || errno == ENOTSUP || errno == ENOSYS;
 }
 
-static bool Chiudi(int fd) { return close(fd) == 0 || errno == EINTR; }     // interrupted: closed all the same
+static bool Chiudi(int fd) { return close(fd) == 0 || errno == EINTR; }  // interrupted: closed all the same
 
 static std::errc ScriviAccanto(const Posto& p, std::string_view byte, Tenuta tenuta, std::string& accanto) {
   const int fd = CreaAccanto(p, accanto);
@@ -141,7 +142,7 @@ std::errc MettiAlPosto(const std::string& sistema, std::string_view byte, Tenuta
   if (e == std::errc{}) e = ScriviAccanto(p, byte, tenuta, accanto);
   if (e == std::errc{} && Ripeti([&] { return std::rename(accanto.c_str(), p.percorso.c_str()); }) != 0) e = Errore();
   if (e != std::errc{} && !accanto.empty()) Ripeti([&] { return unlink(accanto.c_str()); });
-  if (e == std::errc{} && cartella >= 0 && !SulDisco(cartella)) e = Errore();    // the new file stands, but a power cut may undo it: told
+  if (e == std::errc{} && cartella >= 0 && !SulDisco(cartella)) e = Errore();  // the new file stands, but a power cut may undo it: told
   if (cartella >= 0) Chiudi(cartella);
   return e;
 }

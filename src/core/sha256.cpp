@@ -42,9 +42,11 @@ static void Giro(std::array<std::uint32_t, 8>& v, std::uint32_t kw) {
 
 static void Comprimi(Sha256& s) {
   const std::array<std::uint32_t, 64> w = Espandi(s.blocco);
-  std::array<std::uint32_t, 8> v = s.stato;      // a .. h
-  for (std::size_t t = 0; t < 64; t += 8)
-    [&]<std::size_t... r>(std::index_sequence<r...>) { (Giro<r>(v, K[t + r] + w[t + r]), ...); }(std::make_index_sequence<8>());
+  std::array<std::uint32_t, 8> v = s.stato;  // a .. h
+  for (std::size_t t = 0; t < 64; t += 8) [&]<std::size_t... r>(std::index_sequence<r...>) {
+      (Giro<r>(v, K[t + r] + w[t + r]), ...);
+    }
+  (std::make_index_sequence<8>());
   for (std::size_t k = 0; k < v.size(); ++k) s.stato[k] += v[k];
   s.pieni = 0;
 }

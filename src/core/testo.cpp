@@ -107,7 +107,7 @@ std::string InAnsi(std::string_view utf8) {
   std::string byte;
   byte.reserve(utf8.size());
   for (std::size_t i = 0; i < utf8.size();) {
-    const std::size_t j = FineAscii(utf8, i);            // runs of ASCII pass whole
+    const std::size_t j = FineAscii(utf8, i);  // runs of ASCII pass whole
     byte.append(utf8.substr(i, j - i));
     if (j == utf8.size()) break;
     i = j;

@@ -10,7 +10,7 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-constexpr const char* FILE_PARAMETRI = "\\parametrilavoro";   // behind DirLavoro
+constexpr const char* FILE_PARAMETRI = "\\parametrilavoro";  // behind DirLavoro
 
 namespace {
 // The first key that the line holds wins.
@@ -33,12 +33,13 @@ struct Unita {
   const char* testo;
   double fattore;
   std::int16_t decimali;
-  bool perG;                       // divided by the job's gravity
+  bool perG;  // divided by the job's gravity
 };
 }  // namespace
 
 constexpr Unita LUNGHEZZE[] = {{"mm", 10, 0, false}, {"cm", 1, 1, false}, {"m", 0.01, 3, false}};
-constexpr Unita FORZE[] = {{"daN", 1, 1, false}, {"kN", 1. / 100, 3, false}, {"N", 10, 0, false}, {"kgf", 10, 1, true}, {"t", 1. / 100, 4, true}};
+constexpr Unita FORZE[] = {
+  {"daN", 1, 1, false}, {"kN", 1. / 100, 3, false}, {"N", 10, 0, false}, {"kgf", 10, 1, true}, {"t", 1. / 100, 4, true}};
 constexpr Unita TENSIONI[] = {{"kPa", 100, 0, false}, {"MPa", 1. / 10, 2, false}};
 
 template <std::size_t n>
@@ -81,7 +82,8 @@ static bool GuastoLettura() {
 bool LeggiParametriLavoro() {
   FileLettura f;
   std::string riga;
-  if (!ApriLettura(f, suite.DirLavoro + FILE_PARAMETRI) || !LeggiValore(f, riga)) return GuastoLettura();   // the first value is the file's own
+  if (!ApriLettura(f, suite.DirLavoro + FILE_PARAMETRI) || !LeggiValore(f, riga))
+    return GuastoLettura();  // the first value is the file's own
   while (!FineFile(f)) {
     if (!LeggiRiga(f, riga)) return GuastoLettura();
     const std::size_t p = riga.find('[');
@@ -120,7 +122,7 @@ double FattForza(std::string_view unita, std::int16_t& dec) { return CercaUnita(
 double FattTensione(std::string_view unita, std::int16_t& dec) { return CercaUnita(TENSIONI, unita, dec); }
 
 std::string ComponiUnita(std::string_view a, std::string_view b, std::string_view c, std::string_view d) {
-  const std::string riga = AllineaSinistra(Rifila(a), 20) + AllineaSinistra(Rifila(b), 19) + AllineaSinistra(Rifila(c), 19) +
-                           AllineaSinistra(Rifila(d), 19);
+  const std::string riga =
+    AllineaSinistra(Rifila(a), 20) + AllineaSinistra(Rifila(b), 19) + AllineaSinistra(Rifila(c), 19) + AllineaSinistra(Rifila(d), 19);
   return std::string(RifilaDestra(riga));
 }

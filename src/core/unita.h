@@ -19,9 +19,18 @@ bool ImpostaUnita();
 double FattLunghezza(std::string_view unita, std::int16_t& dec);
 double FattForza(std::string_view unita, std::int16_t& dec);
 double FattTensione(std::string_view unita, std::int16_t& dec);
-inline double FattLunghezza(std::string_view unita) { std::int16_t dec = 0; return FattLunghezza(unita, dec); }
-inline double FattForza(std::string_view unita) { std::int16_t dec = 0; return FattForza(unita, dec); }
-inline double FattTensione(std::string_view unita) { std::int16_t dec = 0; return FattTensione(unita, dec); }
+inline double FattLunghezza(std::string_view unita) {
+  std::int16_t dec = 0;
+  return FattLunghezza(unita, dec);
+}
+inline double FattForza(std::string_view unita) {
+  std::int16_t dec = 0;
+  return FattForza(unita, dec);
+}
+inline double FattTensione(std::string_view unita) {
+  std::int16_t dec = 0;
+  return FattTensione(unita, dec);
+}
 
 // A header line of fixed width: a in 20 characters, b, c, d in 19 each, trimmed before, trailing blanks of the whole cut.
 std::string ComponiUnita(std::string_view a, std::string_view b, std::string_view c, std::string_view d);

@@ -12,7 +12,7 @@ bool TerzoTirafondoY() { return SCHEMI[SchemaTir(nodo)].lato[SINISTRO] != 0; }
 
 namespace {
 struct Valori {
-  double a[16] = {};               // 1..n
+  double a[16] = {};  // 1..n
   int n = 0;
 };
 }  // namespace
@@ -106,7 +106,7 @@ void QuoteForiY(double y) {
   Disegna(v, CatenaO, y);
 }
 
-void QuoteNervY(double y) {        // the chamfer along Z on both axes: on a plate with unlike chamfers the measure is the other rib's
+void QuoteNervY(double y) {  // the chamfer along Z on both axes: on a plate with unlike chamfers the measure is the other rib's
   Valori v;
   MettiConOpposti(v, {-nodo.LatoY / 2, -nodo.Sezione.H / 2 - nodo.NervZ});
   Disegna(v, CatenaO, y);

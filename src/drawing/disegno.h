@@ -16,14 +16,14 @@
 
 #include "drawing/tela.h"
 
-constexpr int MaxCoordDis = 50000, MaxLineeDis = 50000;    // items; the arrays hold one more
+constexpr int MaxCoordDis = 50000, MaxLineeDis = 50000;  // items; the arrays hold one more
 constexpr int MaxArchiDis = 15000, MaxTestiDis = 15000, MaxCerchiDis = 5000;
 constexpr int MaxQuoteDis = 1000;
-constexpr int CoordIndicizzabili = 32767;                  // an index travels as a 16-bit number
-constexpr int RicercaCoord = 31;                           // newest coordinates that a look-up compares
+constexpr int CoordIndicizzabili = 32767;  // an index travels as a 16-bit number
+constexpr int RicercaCoord = 31;           // newest coordinates that a look-up compares
 constexpr std::string_view GENDIS = "gendis";
 
-using Colore = std::optional<std::int16_t>;                // index 0..7; absent: the current one
+using Colore = std::optional<std::int16_t>;  // index 0..7; absent: the current one
 
 struct Disegno {
   std::int32_t NumCoord = 0;
@@ -31,46 +31,46 @@ struct Disegno {
 
   std::int32_t NumLinee = 0;
   std::int32_t LinIni[MaxLineeDis + 1] = {}, LinFin[MaxLineeDis + 1] = {};
-  std::int16_t LinCol[MaxLineeDis + 1] = {}, LinTipo[MaxLineeDis + 1] = {};   // type 0 continuous, 1 axis, 4 hidden
+  std::int16_t LinCol[MaxLineeDis + 1] = {}, LinTipo[MaxLineeDis + 1] = {};  // type 0 continuous, 1 axis, 4 hidden
 
-  std::int32_t NumArchi = 0;       // equal start and end: full circle
+  std::int32_t NumArchi = 0;  // equal start and end: full circle
   std::int32_t ArcCen[MaxArchiDis + 1] = {}, ArcIni[MaxArchiDis + 1] = {}, ArcCen2[MaxArchiDis + 1] = {}, ArcFin[MaxArchiDis + 1] = {};
   std::int16_t ArcCol[MaxArchiDis + 1] = {}, ArcTipo[MaxArchiDis + 1] = {};
 
-  std::int32_t NumTesti = 0;       // position: lower left corner of the first character, before rotation
+  std::int32_t NumTesti = 0;  // position: lower left corner of the first character, before rotation
   std::int32_t TesPos[MaxTestiDis + 1] = {};
   std::int16_t TesAng[MaxTestiDis + 1] = {}, TesLarg[MaxTestiDis + 1] = {}, TesAlt[MaxTestiDis + 1] = {};
-  std::int16_t TesCol[MaxTestiDis + 1] = {};      // colour; in the GRB edition the style
-  std::int16_t TesAllin[MaxTestiDis + 1] = {};    // GRB: 1 centred, 2 on the second point, others on the first
+  std::int16_t TesCol[MaxTestiDis + 1] = {};    // colour; in the GRB edition the style
+  std::int16_t TesAllin[MaxTestiDis + 1] = {};  // GRB: 1 centred, 2 on the second point, others on the first
   std::vector<std::string> TesStr;
 
-  std::int32_t NumCerchi = 0;      // a table of the file only: full circles are arcs, so it stays empty
+  std::int32_t NumCerchi = 0;  // a table of the file only: full circles are arcs, so it stays empty
   std::int32_t CerCen[MaxCerchiDis + 1] = {};
   std::int16_t CerA[MaxCerchiDis + 1] = {}, CerB[MaxCerchiDis + 1] = {};
 
-  std::int16_t NumQuote = 0;       // GRB: dimensions kept as such
+  std::int16_t NumQuote = 0;  // GRB: dimensions kept as such
   std::int32_t QuoIni[MaxQuoteDis + 1] = {}, QuoFin[MaxQuoteDis + 1] = {};
-  char QuoTipo[MaxQuoteDis + 1] = {};             // H horizontal, V vertical, P oblique
+  char QuoTipo[MaxQuoteDis + 1] = {};  // H horizontal, V vertical, P oblique
   std::int16_t QuoStile[MaxQuoteDis + 1] = {};
   double QuoDist[MaxQuoteDis + 1] = {};
   std::vector<std::string> QuoTesto;
 
-  std::string_view DestDis;        // GENDIS or empty
-  bool Interrotto = false;         // a fault ended this drawing
-  double OffX = 0, OffY = 0;       // origin of the view, added to what goes to the store
-  std::int16_t ColCorr = 0;        // current colour
-  std::int16_t TipoLinCorr = 0;    // 0 continuous, 1 hidden, 3 axis
+  std::string_view DestDis;                       // GENDIS or empty
+  bool Interrotto = false;                        // a fault ended this drawing
+  double OffX = 0, OffY = 0;                      // origin of the view, added to what goes to the store
+  std::int16_t ColCorr = 0;                       // current colour
+  std::int16_t TipoLinCorr = 0;                   // 0 continuous, 1 hidden, 3 axis
   double XMax = 0, YMax = 0, XMin = 0, YMin = 0;  // extents of the lines stored since AzzeraEstensioni, sheet coordinates
 
-  double EstXMin = 0, EstXMax = 0, EstYMin = 0, EstYMax = 0;   // extents of all coordinates, before the clean-up
+  double EstXMin = 0, EstXMax = 0, EstYMin = 0, EstYMax = 0;  // extents of all coordinates, before the clean-up
 };
 inline Disegno disegno;
 
-void AzzeraDisegno();              // empties the five tables; leaves the extents
-void AzzeraEstensioni();           // at the start of each view
-void InterrompiDisegno();          // raises the fault that ends the running drawing
+void AzzeraDisegno();      // empties the five tables; leaves the extents
+void AzzeraEstensioni();   // at the start of each view
+void InterrompiDisegno();  // raises the fault that ends the running drawing
 
-bool LineeEsaurite();              // a further line would leave nothing: the drawing was ended, or the store takes no more lines
+bool LineeEsaurite();  // a further line would leave nothing: the drawing was ended, or the store takes no more lines
 
 void DisLinea(Tela* tela, double x1, double y1, double x2, double y2, Colore colore = {});
 void DisLineaRel(Tela* tela, double x, double y, double dx, double dy, Colore colore = {});
@@ -78,7 +78,7 @@ void DisLineaRel(Tela* tela, double x, double y, double dx, double dy, Colore co
 void DisArco(Tela* tela, double x, double y, double diametro, Colore colore = {}, double angIni = 0, std::optional<double> angFin = {});
 void DisTesto(const std::string& testo, double x, double y, std::int16_t angolo, double larghezza, double altezza, Colore colore = {});
 
-std::int16_t IndiceCoord(double x, double y);   // sheet coordinates; -1: the table is full
+std::int16_t IndiceCoord(double x, double y);  // sheet coordinates; -1: the table is full
 void MemLinea(double x1, double y1, double x2, double y2, std::int16_t colore);
 
 // The segments that paint a text with the stroke font; angolo in whole degrees, sizes in mm.
@@ -87,9 +87,9 @@ struct TrattoTesto {
 };
 std::vector<TrattoTesto> TrattiTesto(std::string_view testo, double x, double y, double angolo, double larghezza, double altezza);
 
-std::int16_t ColoreDaRgb(std::int32_t rgb);     // 0xBBGGRR to index
-std::int32_t RgbDaColore(int indice);           // two palettes, chosen by the scale of the anchor detail: the option's number serves both
+std::int16_t ColoreDaRgb(std::int32_t rgb);  // 0xBBGGRR to index
+std::int32_t RgbDaColore(int indice);        // two palettes, chosen by the scale of the anchor detail: the option's number serves both
 
-std::int16_t InCorto(double v);                 // ties to even; out of range: the fault, and 0
-std::int16_t ColoreOpz(int i);                  // drawing option i as a colour
-void OrdinaVett(double* v, int n);              // v[1..n] ascending
+std::int16_t InCorto(double v);     // ties to even; out of range: the fault, and 0
+std::int16_t ColoreOpz(int i);      // drawing option i as a colour
+void OrdinaVett(double* v, int n);  // v[1..n] ascending

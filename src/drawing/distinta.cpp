@@ -15,7 +15,7 @@
 #include "model/suite.h"
 
 constexpr int MaxColonneDistinta = 5;
-constexpr int LARG_PIASTRA = 12, LARG_NERVATURE = 8;     // characters of a first column; the others follow their cells
+constexpr int LARG_PIASTRA = 12, LARG_NERVATURE = 8;  // characters of a first column; the others follow their cells
 
 using RigaDistinta = std::vector<std::string>;
 
@@ -73,6 +73,7 @@ void Distinta() {
   Tabella(0, {{"Prof.", "h", "b", "a", "e"}, {SenzaSpaziDoppi(s.Nome), N(s.H), N(s.B), N(s.A), N(s.E)}}, 0);
   Tabella(-3 * h, {{"N. piastre", "lz", "ly", "s"}, {"1", N(nodo.LatoZ), N(nodo.LatoY), N(nodo.SpessPiastra)}}, LARG_PIASTRA);
   if (nervature) Tabella(-6 * h, {{"Nome", "l", "h", "s"}, {"Y", N(nodo.LatoY), HN, SP}, {"Z", N(nodo.LatoZ), HN, SP}}, LARG_NERVATURE);
-  Tabella(nervature ? -10 * h : -6 * h, {{"N. t.fondi", "]", "L tot"}, {std::to_string(nodo.NTir), N(nodo.TfFi), N(LunghezzaTirafondo(nodo))}}, 0);
+  Tabella(nervature ? -10 * h : -6 * h,
+          {{"N. t.fondi", "]", "L tot"}, {std::to_string(nodo.NTir), N(nodo.TfFi), N(LunghezzaTirafondo(nodo))}}, 0);
   if (lavoroDisegno->NumSaldature > 0) Tabella(nervature ? -13 * h : -9 * h, RigheSaldature(), 0);
 }

@@ -6,11 +6,11 @@
 #include <string>
 
 struct Edizione {
-  double AltTesti = 0, LargTesti = 0;   // mm; height and width of a title's character, used as distances all over the sheet
-  double CaloPianta = 0;                // mm; by how much more the plan drops below the elevation
-  double AltRiga = 0;                   // mm; height of a row of the schedule
-  double LargCar = 0;                   // mm; width of a character of the schedule
-  int MargineCella = 0;                 // characters that a column has more than its longest cell
+  double AltTesti = 0, LargTesti = 0;  // mm; height and width of a title's character, used as distances all over the sheet
+  double CaloPianta = 0;               // mm; by how much more the plan drops below the elevation
+  double AltRiga = 0;                  // mm; height of a row of the schedule
+  double LargCar = 0;                  // mm; width of a character of the schedule
+  int MargineCella = 0;                // characters that a column has more than its longest cell
   // Title, section letter, section name; horizontal, or vertical reading upward.
   void (*testo)(const std::string& testo, double x1, double x2, double y1, double y2) = nullptr;
   // Measure of a link of a chain or of a single dimension; dettaglio: of the enlarged anchor.

@@ -6,7 +6,7 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-constexpr std::int16_t SOLO_TESTO = -1;         // line colour of a dimension without line
+constexpr std::int16_t SOLO_TESTO = -1;  // line colour of a dimension without line
 
 // An empty text would become the measure of its place.
 static void Testo(const std::string& testo, double x1, double x2, double y1, double y2) {

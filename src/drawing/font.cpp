@@ -23,7 +23,7 @@ static bool LeggiGlifo(std::string_view riga) {
   for (int k = 0; k < n; ++k) {
     const std::size_t inizio = std::min(riga.size(), static_cast<std::size_t>(1 + 4 * k));
     const std::string_view punto = riga.substr(inizio, 4);
-    double x = 0, y = 0;                      // two characters never overflow
+    double x = 0, y = 0;  // two characters never overflow
     Val(punto.substr(0, 2), x);
     Val(punto.size() > 2 ? punto.substr(2) : std::string_view{}, y);
     InIntero(x, font.FontX[codice][k]);

@@ -6,16 +6,16 @@
 #pragma once
 #include <cstdint>
 
-constexpr int MaxPuntiGlifo = 100;            // longer glyphs are cut
-constexpr double FONT_LARGHEZZA = 99;         // glyph units of one character width
-constexpr double FONT_ALTEZZA = 69;           // glyph units of one character height
-constexpr double FONT_BASE = 30;              // ordinate of the base line
+constexpr int MaxPuntiGlifo = 100;     // longer glyphs are cut
+constexpr double FONT_LARGHEZZA = 99;  // glyph units of one character width
+constexpr double FONT_ALTEZZA = 69;    // glyph units of one character height
+constexpr double FONT_BASE = 30;       // ordinate of the base line
 
 struct Font {
-  std::int16_t FontN[255] = {};               // by ANSI code 0..254: number of points, even; -1 no glyph
+  std::int16_t FontN[255] = {};  // by ANSI code 0..254: number of points, even; -1 no glyph
   std::int16_t FontX[256][MaxPuntiGlifo + 1] = {}, FontY[256][MaxPuntiGlifo + 1] = {};
-  unsigned char FontCar[256] = {};            // key character of each code
-  std::int16_t FontStretta = 0;               // per cent by which glyphs are narrowed
+  unsigned char FontCar[256] = {};  // key character of each code
+  std::int16_t FontStretta = 0;     // per cent by which glyphs are narrowed
 };
 inline Font font;
 

@@ -18,7 +18,7 @@ static void CambiaColore(int opzione) { disegno.ColCorr = ColoreOpz(opzione); }
 
 namespace {
 struct Tratta {
-  double da, a;                    // parameters along a line, 0 to 1
+  double da, a;  // parameters along a line, 0 to 1
 };
 }  // namespace
 
@@ -69,7 +69,7 @@ static void NervaturaProspetto(int s, double posAnc, double d, double smusso, do
   ProfiloNervatura(s, posAnc, d, smusso, lato);
   CambiaColore(2);
   DisLineaRel(nullptr, s * interno, nodo.HNerv, s * nodo.SpNerv, 0);
-  DisLineaSald(s * esterno, 0, s * esterno, nodo.HNerv, -s, 1, 0);        // marks away from the cut steel on both faces
+  DisLineaSald(s * esterno, 0, s * esterno, nodo.HNerv, -s, 1, 0);  // marks away from the cut steel on both faces
   DisLineaSald(s * interno, 0, s * interno, nodo.HNerv, s, 2, 0);
   DisAngoloSald(nullptr, s * interno, 0, std::min(2, s + 2));
   DisAngoloSald(nullptr, s * esterno, 0, std::max(1 - s, 1));
@@ -79,15 +79,13 @@ static void NervaturaProspetto(int s, double posAnc, double d, double smusso, do
 
 void NervatureBB() {
   const double B = nodo.Sezione.B, SP = nodo.SpNerv, L = nodo.LatoZ;
-  for (const int s : {-1, 1})
-    NervaturaProspetto(s, -L / 2 + nodo.TfZ[s < 0 ? 1 : 2], B / 2 + SP, nodo.NervZ, L, B / 2, B / 2 + SP);
+  for (const int s : {-1, 1}) NervaturaProspetto(s, -L / 2 + nodo.TfZ[s < 0 ? 1 : 2], B / 2 + SP, nodo.NervZ, L, B / 2, B / 2 + SP);
 }
 
 void NervatureAA() {
   const double H = nodo.Sezione.H, SP = nodo.SpNerv, L = nodo.LatoY;
-  for (const int s : {-1, 1})
-    NervaturaProspetto(s, -L / 2 + nodo.TfY[s < 0 ? 2 : 4], H / 2, nodo.NervY, L, H / 2 - SP, H / 2);
-  CambiaColore(0);                             // the flat rib runs on across the column, behind every rod of the view
+  for (const int s : {-1, 1}) NervaturaProspetto(s, -L / 2 + nodo.TfY[s < 0 ? 2 : 4], H / 2, nodo.NervY, L, H / 2 - SP, H / 2);
+  CambiaColore(0);  // the flat rib runs on across the column, behind every rod of the view
   const double tirafondi[] = {nodo.TfY[2] - L / 2, nodo.TfY[4] - L / 2, nodo.TfY[6] - L / 2};
   LineaDietroTirafondi(-H / 2 + SP, nodo.HNerv, H / 2 - SP, nodo.HNerv, tirafondi, TerzoTirafondoY() ? 3 : 2);
 }
@@ -99,7 +97,7 @@ namespace {
 struct Faccia {
   double x1, y1, x2, y2;
   int nx, ny;
-  int sald;                        // number of the weld
+  int sald;  // number of the weld
 };
 }  // namespace
 
@@ -135,7 +133,7 @@ void NervaturePianta() {
     {Z,      H,       B + SP, H,        0,   1, 26},
   };
   // clang-format on
-  const Faccia INTERNA = {B, -H + E, B, H - E, -1, 0, 19};       // drawn with the section's welds
+  const Faccia INTERNA = {B, -H + E, B, H - E, -1, 0, 19};  // drawn with the section's welds
   for (const int s : {-1, 1}) {
     for (const Faccia& f : FACCE) FacciaSaldata(s, f);
     for (const double y : {-Y, Y}) DisLineaRel(nullptr, s * B, y, s * SP, 0);
@@ -147,7 +145,7 @@ void NervaturePianta() {
   for (const int s : {-1, 1}) {
     for (const Faccia& f : FACCE) {
       AngoloFaccia(s, f, false);
-      if (f.nx != 0) AngoloFaccia(s, f, true);                   // the ribs along Z end in corners of the others
+      if (f.nx != 0) AngoloFaccia(s, f, true);  // the ribs along Z end in corners of the others
     }
     if (nodo.SaldInt != 1) continue;
     AngoloFaccia(s, INTERNA, false);

@@ -10,9 +10,9 @@ void NervaturePianta();
 // Rods (tirafondi_dis.cpp), y0 the top of the plate.
 void TirafondoUncinato(double x, double y0);
 void TirafondoDiritto(double x, double y0);
-void Dado(double x, double y, int tipo);     // 1 on the plate, 2 under it
+void Dado(double x, double y, int tipo);  // 1 on the plate, 2 under it
 void DettaglioTirafondo();
-void TirafondoPiastraDettaglio(double x, double y0, double k);   // y0 the rod's top; everything times k
+void TirafondoPiastraDettaglio(double x, double y0, double k);  // y0 the rod's top; everything times k
 
 // The schedule of parts (distinta.cpp).
 void Distinta();

@@ -5,13 +5,13 @@
 
 #include "drawing/disegno.h"
 #include "drawing/saldature_dis.h"
-#include "model/saldature_colonna.h"
 #include "model/regole_nodo.h"
+#include "model/saldature_colonna.h"
 #include "model/stato.h"
 #include "model/suite.h"
 
-constexpr std::int32_t ROSSO = 255;          // 0xBBGGRR
-constexpr int PAR_NODO = 0;                  // drawing option: colour of steel parts
+constexpr std::int32_t ROSSO = 255;  // 0xBBGGRR
+constexpr int PAR_NODO = 0;          // drawing option: colour of steel parts
 
 void CalcolaSmussi() {
   const Smussi s = SmussiNervature(nodo);
@@ -33,7 +33,7 @@ void PiantaSezione(Tela* tela, const Sezione& sezione, double x0, double y0, std
   }
   const auto linea = [&](double x1, double y1, double x2, double y2) { DisLinea(tela, x0 + x1, y0 + y1, x0 + x2, y0 + y2); };
   const auto raccordo = [&](double x, double y, double da, double fino) { DisArco(tela, x0 + x, y0 + y, 2 * r, {}, da, fino); };
-  const double w = a / 2 + r;                // where a flange meets its fillets
+  const double w = a / 2 + r;  // where a flange meets its fillets
   linea(a / 2, h - e - r, a / 2, -h + e + r);
   linea(-a / 2, -h + e + r, -a / 2, h - e - r);
   linea(-b, h, b, h);

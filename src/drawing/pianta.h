@@ -8,7 +8,7 @@
 // nodo.NervTaglio, NervZ, NervY: each a third of a free length, truncated and rounded to tens of mm.
 void CalcolaSmussi();
 
-enum class Segni { Senza, ConSaldature };    // with the eight weld marks first, then ColCorr = colore
+enum class Segni { Senza, ConSaldature };  // with the eight weld marks first, then ColCorr = colore
 
 // Outline of an I section centred on (x0, y0), in the colour found; a canvas' foreground becomes colore afterwards, for what is drawn next.
 void PiantaSezione(Tela* tela, const Sezione& sezione, double x0, double y0, std::int16_t colore, Segni segni);

@@ -13,7 +13,7 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-constexpr double ESTENSIONE_NULLA = 1e10;       // beyond every sheet
+constexpr double ESTENSIONE_NULLA = 1e10;  // beyond every sheet
 
 void AzzeraDisegno() {
   disegno.NumCoord = disegno.NumLinee = disegno.NumCerchi = disegno.NumArchi = disegno.NumTesti = 0;
@@ -77,7 +77,7 @@ std::int16_t ColoreDaRgb(std::int32_t rgb) {
 std::int32_t RgbDaColore(int indice) {
   // index                                    0         1         2         3         4         5         6         7
   static const std::int32_t UGUALE_SCALA[] = {0x000000, 0xFFFFFF, 0x800000, 0x000080, 0x00C000, 0x00C0C0, 0x008000, 0x800080};
-  static const std::int32_t ALTRA_SCALA[]  = {0xFFFFFF, 0x000000, 0xFFFF00, 0x0000FF, 0x00FF00, 0x00FFFF, 0x0080FF, 0xFF00FF};
+  static const std::int32_t ALTRA_SCALA[] = {0xFFFFFF, 0x000000, 0xFFFF00, 0x0000FF, 0x00FF00, 0x00FFFF, 0x0080FF, 0xFF00FF};
   return (suite.ParNodo[19] == 1 ? UGUALE_SCALA : ALTRA_SCALA)[indice >= 1 && indice <= 7 ? indice : 0];
 }
 
@@ -97,7 +97,7 @@ std::int16_t IndiceCoord(double x, double y) {
     if (Vicini(x, d.CoordX[i]) && Vicini(y, d.CoordY[i])) return static_cast<std::int16_t>(i);
   if (d.NumCoord == MaxCoordDis - 1) CapacitaEsaurita("Si è raggiunto il numero massimo di coordinate.");
   if (d.NumCoord == MaxCoordDis) return -1;
-  if (d.NumCoord >= CoordIndicizzabili) {       // the real limit of a drawing
+  if (d.NumCoord >= CoordIndicizzabili) {  // the real limit of a drawing
     InterrompiDisegno();
     return -1;
   }
@@ -125,7 +125,7 @@ void MemLinea(double x1, double y1, double x2, double y2, std::int16_t colore) {
   d.LinFin[i] = IndiceCoord(x2, y2);
   TraduciTipo(d.LinTipo[i]);
   d.LinCol[i] = colore;
-  if (d.LinFin[i] < 0) --d.NumLinee;            // only the end is tested; the extents move all the same
+  if (d.LinFin[i] < 0) --d.NumLinee;  // only the end is tested; the extents move all the same
   d.XMax = std::max({d.XMax, x1, x2});
   d.YMax = std::max({d.YMax, y1, y2});
   d.XMin = std::min({d.XMin, x1, x2});
@@ -139,9 +139,7 @@ void DisLinea(Tela* tela, double x1, double y1, double x2, double y2, Colore col
   else if (tela) SegmentoTela(*tela, x1, y1, x2, y2, RgbDaColore(c));
 }
 
-void DisLineaRel(Tela* tela, double x, double y, double dx, double dy, Colore colore) {
-  DisLinea(tela, x, y, x + dx, y + dy, colore);
-}
+void DisLineaRel(Tela* tela, double x, double y, double dx, double dy, Colore colore) { DisLinea(tela, x, y, x + dx, y + dy, colore); }
 
 void DisArco(Tela* tela, double x, double y, double diametro, Colore colore, double angIni, std::optional<double> angFin) {
   if (!(diametro > TOLL_GEO)) return;
@@ -167,7 +165,8 @@ void DisArco(Tela* tela, double x, double y, double diametro, Colore colore, dou
   if (d.ArcIni[i] < 0) --d.NumArchi;
 }
 
-static void MemTesto(const std::string& testo, double x, double y, std::int16_t angolo, double larghezza, double altezza, std::int16_t colore) {
+static void MemTesto(const std::string& testo, double x, double y, std::int16_t angolo, double larghezza, double altezza,
+                     std::int16_t colore) {
   Disegno& d = disegno;
   if (d.Interrotto) return;
   if (d.NumTesti == MaxTestiDis - 1) CapacitaEsaurita("Si è raggiunto il numero massimo di testi.");
@@ -196,7 +195,7 @@ std::vector<TrattoTesto> TrattiTesto(std::string_view testo, double x, double y,
   const double a = angolo * PI_PROG / 180, ca = std::cos(a), sa = std::sin(a);
   const double sy = altezza / FONT_ALTEZZA, sx = larghezza / FONT_LARGHEZZA * (1 - font.FontStretta / 100.0);
   std::vector<TrattoTesto> tratti;
-  double p = 0;                                 // pen position along the text; moves on also without a glyph
+  double p = 0;  // pen position along the text; moves on also without a glyph
   for (const char carattere : InAnsi(testo)) {
     const unsigned char c = static_cast<unsigned char>(carattere);
     const double bx = p * ca + x, by = p * sa + y;

@@ -27,7 +27,7 @@ void DisSaldatura(Tela* tela, double x1, double y1, double x2, double y2, int la
   const double teta = Direzione(x1, y1, x2, y2), passoX = g * std::cos(teta), passoY = g * std::sin(teta);
   const double vx = -lato * passoY, vy = lato * passoX;
   const std::int16_t colore = ColoreOpz(20);
-  if (std::abs(vx) < TOLL_GEO && std::abs(vy) < TOLL_GEO) n = 0;      // strokes of no length
+  if (std::abs(vx) < TOLL_GEO && std::abs(vy) < TOLL_GEO) n = 0;  // strokes of no length
   if (tipo == 1) DisLineaRel(tela, x1, y1, vx, vy, colore);
   double px = x1, py = y1;
   for (int i = 1; i < n && !LineeEsaurite(); ++i) {

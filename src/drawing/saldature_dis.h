@@ -11,5 +11,5 @@
 bool TrattiSaldatura(double lunghezza, double passo, std::int32_t& n);
 
 void DisSaldatura(Tela* tela, double x1, double y1, double x2, double y2, int lato, int tipo, int indice);
-void DisLineaSald(double x1, double y1, double x2, double y2, int lato, int tipo, int indice);   // mark, then the line in ColCorr
+void DisLineaSald(double x1, double y1, double x2, double y2, int lato, int tipo, int indice);  // mark, then the line in ColCorr
 void DisAngoloSald(Tela* tela, double x, double y, int quadrante, Colore colore = {});          // 1..4, radius Gola; others nothing

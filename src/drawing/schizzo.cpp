@@ -8,7 +8,7 @@
 #include "drawing/pianta.h"
 #include "model/stato.h"
 
-constexpr double MARGINE = 0.6;              // half of 1.2 times the governing size
+constexpr double MARGINE = 0.6;  // half of 1.2 times the governing size
 
 // Fits sizes dx, dy into the canvas; the width governs where larghezzaGoverna holds.
 static void AdattaScala(Tela& t, double dx, double dy, bool larghezzaGoverna) {

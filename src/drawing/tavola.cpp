@@ -16,7 +16,7 @@ void Rettangolo(double lx, double ly) {
 void LineaConFori(double x1, double y1, double x2, double y2, int n, const double* centri, const double* larghezze) {
   const bool verticale = std::abs(x1 - x2) < TOLL_GEO;
   if (!verticale && !(std::abs(y1 - y2) < TOLL_GEO)) return;
-  double v[2 * MaxForiVista + 3] = {};         // 1..m
+  double v[2 * MaxForiVista + 3] = {};  // 1..m
   int m = 0;
   v[++m] = verticale ? y1 : x1;
   v[++m] = verticale ? y2 : x2;

@@ -7,15 +7,15 @@
 
 struct Tratto {
   enum class Forma { Segmento, Arco } forma = Forma::Segmento;
-  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;             // segment: ends
+  double x1 = 0, y1 = 0, x2 = 0, y2 = 0;              // segment: ends
   double xc = 0, yc = 0, raggio = 0, a1 = 0, a2 = 0;  // arc; a1 == a2: full circle
   std::int32_t colore = 0;
 };
 
 struct Tela {
-  double larghezza = 4000, altezza = 4000;            // ScaleWidth, ScaleHeight before a scale is set (absolute)
-  double sx = 0, sy = 0, dx = 0, dy = 0;              // user scale: upper left (sx, sy), lower right (dx, dy)
-  std::int32_t primoPiano = 0;                        // foreground colour
+  double larghezza = 4000, altezza = 4000;  // ScaleWidth, ScaleHeight before a scale is set (absolute)
+  double sx = 0, sy = 0, dx = 0, dy = 0;    // user scale: upper left (sx, sy), lower right (dx, dy)
+  std::int32_t primoPiano = 0;              // foreground colour
   std::vector<Tratto> tratti;
 };
 void PulisciTela(Tela& t);

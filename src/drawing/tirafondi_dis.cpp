@@ -54,12 +54,12 @@ void TirafondoUncinato(double x, double y0) {
   ParteAlta(x, y0);
   Fianchi(x, Fi, y0 - nodo.SpessPiastra - Fi, yc);
   Uncino(x, yc, Fi, nodo.TfR, nodo.TfL1);
-  LineaRel(x + Fi / 2, yb + nodo.TfLFt - nodo.TfLFil, -Fi, 0);            // end of the thread
+  LineaRel(x + Fi / 2, yb + nodo.TfLFt - nodo.TfLFil, -Fi, 0);  // end of the thread
 }
 
 // The rod below ya, broken at its square plate seen edge-on, with the plate's welds; yb the foundation's level, k the enlargement.
 static void FustoConPiastra(double x, double ya, double yb, double k) {
-  const double Fi = nodo.TfFi, R = nodo.TfR, LF = nodo.TfLF, yp = yb - nodo.TfL1;      // yp: the plate's lower face
+  const double Fi = nodo.TfFi, R = nodo.TfR, LF = nodo.TfLF, yp = yb - nodo.TfL1;  // yp: the plate's lower face
   const double X = x * k, fi = Fi * k;
   Fianchi(X, fi, ya * k, (yp + 2 * LF) * k);
   Fianchi(X, fi, (yp - LF) * k, (yb - nodo.TfL) * k);
@@ -70,7 +70,7 @@ static void FustoConPiastra(double x, double ya, double yb, double k) {
   const std::int16_t colore = ColoreOpz(20);
   DisLineaRel(nullptr, X - fi / 2, (yp - LF) * k, fi, 0, colore);
   DisLineaRel(nullptr, X - fi / 2, (yp + 2 * LF) * k, fi, 0, colore);
-  const double q = PI_PROG / 2;                // a quarter
+  const double q = PI_PROG / 2;  // a quarter
   DisArco(nullptr, X - fi / 2, (yp + LF) * k, 2 * LF * k, colore, q, 2 * q);
   DisArco(nullptr, X + fi / 2, (yp + LF) * k, 2 * LF * k, colore, 0, q);
   DisArco(nullptr, X - fi / 2, yp * k, 2 * LF * k, colore, 2 * q, 3 * q);
@@ -143,7 +143,7 @@ void TirafondoPiastraDettaglio(double x, double y0, double k) {
 // Four dimensions whatever the options say of chains, and the plate's label.
 static void DettaglioPiastra(double yc) {
   const double k = suite.ParNodo[19], P7 = suite.ParNodo[7], Fi = nodo.TfFi, R = nodo.TfR, L = nodo.TfL, LFt = nodo.TfLFt;
-  const double Yb = yc - LFt - 6 * P7;         // lengths of the sheet and of the model together: no effect but the place
+  const double Yb = yc - LFt - 6 * P7;  // lengths of the sheet and of the model together: no effect but the place
   TirafondoPiastraDettaglio(0, Yb, k);
   const auto verticale = [&](double x, double fino) { edizione.quota(x * k, x * k, Yb * k, fino * k, true); };
   edizione.quota(-0.5 * Fi * k, 0.5 * Fi * k, (Yb + P7) * k, (Yb + P7) * k, true);

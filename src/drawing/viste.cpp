@@ -16,7 +16,7 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-constexpr std::int16_t CONTINUA = 0, NASCOSTA = 1, ASSE = 3;   // disegno.TipoLinCorr
+constexpr std::int16_t CONTINUA = 0, NASCOSTA = 1, ASSE = 3;  // disegno.TipoLinCorr
 
 static void Linea(double x1, double y1, double x2, double y2) { DisLinea(nullptr, x1, y1, x2, y2); }
 
@@ -27,20 +27,20 @@ namespace {
 struct Prospetto {
   void (*nervature)();
   void (*colonna)();
-  double lato;                     // plate along the horizontal axis
-  double primo, secondo, terzo;    // anchors from the plate's corner; terzo at mid side
+  double lato;                   // plate along the horizontal axis
+  double primo, secondo, terzo;  // anchors from the plate's corner; terzo at mid side
   bool conTerzo;
-  bool uncini;                     // a hooked rod shows its hook
-  double sezione;                  // where the other view's section passes, from the plate's corner
-  const char* lettera;             // its letter
-  int verso;                       // +1: its ticks and letters go to the right
-  double xNome;                    // section name
+  bool uncini;          // a hooked rod shows its hook
+  double sezione;       // where the other view's section passes, from the plate's corner
+  const char* lettera;  // its letter
+  int verso;            // +1: its ticks and letters go to the right
+  double xNome;         // section name
   void (*quoteVerticali)(double x);
   void (*quoteFori)(double y);
   void (*quoteNervature)(double y);
   void (*quoteTirafondi)(double y);
-  double (*ascissaQuote)();        // of the first vertical chain
-  double passoQuote;               // from a vertical chain to the next one
+  double (*ascissaQuote)();  // of the first vertical chain
+  double passoQuote;         // from a vertical chain to the next one
 };
 }  // namespace
 
@@ -124,7 +124,7 @@ static void ColonnaBB() {
   FustoColonna(x, 2);
   SaldaturaPiede(B / 2, TerzoTirafondoZ());
   if (nodo.TipoNodo == 2) {
-    disegno.TipoLinCorr = NASCOSTA;            // the web, behind the flange
+    disegno.TipoLinCorr = NASCOSTA;  // the web, behind the flange
     Linea(-A / 2, 0, -A / 2, h);
     Linea(A / 2, 0, A / 2, h);
   }
@@ -211,25 +211,49 @@ void VistaBB() {
   Esecutivo& e = esecutivo;
   const Sezione& s = nodo.Sezione;
   DisegnaProspetto({
-    .nervature = NervatureBB, .colonna = ColonnaBB, .lato = nodo.LatoZ,
-    .primo = nodo.TfZ[1], .secondo = nodo.TfZ[2], .terzo = nodo.TfZ[nodo.OptionNTir == 1 ? 8 : 6], .conTerzo = TerzoTirafondoZ(),
-    .uncini = true, .sezione = nodo.TfZ[2], .lettera = "A", .verso = 1,
+    .nervature = NervatureBB,
+    .colonna = ColonnaBB,
+    .lato = nodo.LatoZ,
+    .primo = nodo.TfZ[1],
+    .secondo = nodo.TfZ[2],
+    .terzo = nodo.TfZ[nodo.OptionNTir == 1 ? 8 : 6],
+    .conTerzo = TerzoTirafondoZ(),
+    .uncini = true,
+    .sezione = nodo.TfZ[2],
+    .lettera = "A",
+    .verso = 1,
     .xNome = (-s.B / 2 - s.A / 2) / 2 + edizione.AltTesti / 2,
-    .quoteVerticali = [](double x) { QuoteQuotePiastra(x, 2); }, .quoteFori = QuoteForiZ, .quoteNervature = QuoteNervZ,
-    .quoteTirafondi = QuoteTirafondiZ, .ascissaQuote = AscissaQuoteBB, .passoQuote = 5 * suite.ParNodo[7],
+    .quoteVerticali = [](double x) { QuoteQuotePiastra(x, 2); },
+    .quoteFori = QuoteForiZ,
+    .quoteNervature = QuoteNervZ,
+    .quoteTirafondi = QuoteTirafondiZ,
+    .ascissaQuote = AscissaQuoteBB,
+    .passoQuote = 5 * suite.ParNodo[7],
   });
   e.BoxBXMax = disegno.XMax, e.BoxBYMax = disegno.YMax, e.BoxBXMin = disegno.XMin, e.BoxBYMin = disegno.YMin;
 }
 
-void VistaAA() {                   // seen across the hooks: rods are straight
+void VistaAA() {  // seen across the hooks: rods are straight
   Esecutivo& e = esecutivo;
   DisegnaProspetto({
-    .nervature = NervatureAA, .colonna = ColonnaAA, .lato = nodo.LatoY,
-    .primo = nodo.TfY[2], .secondo = nodo.TfY[4], .terzo = nodo.TfY[6], .conTerzo = TerzoTirafondoY(),
-    .uncini = false, .sezione = nodo.TfY[2], .lettera = "B", .verso = -1,
+    .nervature = NervatureAA,
+    .colonna = ColonnaAA,
+    .lato = nodo.LatoY,
+    .primo = nodo.TfY[2],
+    .secondo = nodo.TfY[4],
+    .terzo = nodo.TfY[6],
+    .conTerzo = TerzoTirafondoY(),
+    .uncini = false,
+    .sezione = nodo.TfY[2],
+    .lettera = "B",
+    .verso = -1,
     .xNome = edizione.AltTesti / 2,
-    .quoteVerticali = [](double x) { QuoteQuotePiastra(x, 1); }, .quoteFori = QuoteForiY, .quoteNervature = QuoteNervY,
-    .quoteTirafondi = QuoteTirafondiY, .ascissaQuote = AscissaQuoteAA, .passoQuote = -5 * suite.ParNodo[7],
+    .quoteVerticali = [](double x) { QuoteQuotePiastra(x, 1); },
+    .quoteFori = QuoteForiY,
+    .quoteNervature = QuoteNervY,
+    .quoteTirafondi = QuoteTirafondiY,
+    .ascissaQuote = AscissaQuoteAA,
+    .passoQuote = -5 * suite.ParNodo[7],
   });
   e.BoxAXMax = disegno.XMax, e.BoxAYMax = disegno.YMax, e.BoxAXMin = disegno.XMin, e.BoxAYMin = disegno.YMin;
 }
@@ -288,7 +312,7 @@ void VistaCC() {
   CambiaColore(0);
   if (nodo.TipoNodo == 2) NervaturePianta();
   quote.EtichetteSald = false;
-  Rettangolo(LZ, LY);                          // plate, grout bed, its slope
+  Rettangolo(LZ, LY);  // plate, grout bed, its slope
   Rettangolo(2 * M + LZ, 2 * M + LY);
   Rettangolo(4 * M + LZ, 4 * M + LY);
   for (const int sy : {-1, 1})

@@ -3,6 +3,6 @@
 // Units     mm, 1:1.
 #pragma once
 
-void VistaBB();                    // elevation, horizontal axis Z
-void VistaAA();                    // elevation, horizontal axis Y
-void VistaCC();                    // plan
+void VistaBB();  // elevation, horizontal axis Z
+void VistaAA();  // elevation, horizontal axis Y
+void VistaCC();  // plan

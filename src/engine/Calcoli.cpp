@@ -30,7 +30,7 @@ static void LeggiSestetto(Lavoro& l, int s) {
   verifica.N = nodo.SollN[s];
   verifica.Ty = nodo.SollTy[s];
   verifica.Tz = nodo.SollTz[s];
-  verifica.My = 10 * nodo.SollMy[s];         // daN cm to daN mm
+  verifica.My = 10 * nodo.SollMy[s];  // daN cm to daN mm
   verifica.Mz = 10 * nodo.SollMz[s];
   verifica.Mt = 10 * nodo.SollMt[s];
 }
@@ -62,7 +62,7 @@ static void VerificaNervata(Lavoro& l, int s) {
 
 static void NotaNonEquilibrato(Lavoro& l, int s) {
   l.diagnosi.push_back({"Sestetto di sollecitazione n°" + std::to_string(s) +
-                            ": situazione non equilibrata nel calcolo delle azioni sui tirafondi. La verifica non può continuare!",
+                          ": situazione non equilibrata nel calcolo delle azioni sui tirafondi. La verifica non può continuare!",
                         TitoloProg, Icona::Critica});
 }
 
@@ -90,7 +90,7 @@ static bool CalcolaSestetto(Lavoro& l, int s) {
 
 static void ValoriComuni(Lavoro& l) {
   StatoVerifica& v = l.verifica;
-  l.SAmmCls = l.nodo->MatCls.SAmm;           // by limit states the joint's own, which nothing reads
+  l.SAmmCls = l.nodo->MatCls.SAmm;  // by limit states the joint's own, which nothing reads
   l.TauCls = l.nodo->MatCls.TauCls;
   CostruisciSaldature(l);
   InerziaTirafondi(*l.nodo, v.SommaR2, v.ArmZ, v.ArmY);
@@ -107,7 +107,7 @@ static void NotaDiametro(Lavoro& l) {
   else if (l.ris.FlagDiamInterpolato) metodo = "interpolazione.";
   if (metodo == nullptr) return;
   l.diagnosi.push_back({"Il diametro dei tirafondi non è compreso tra i valori del file " + l.suite->DirCustom + "\\QbDiam.txt ." + "\r" +
-                            "Il valore dell'area corrispondente è stato calcolato per " + metodo,
+                          "Il valore dell'area corrispondente è stato calcolato per " + metodo,
                         TitoloProg, Icona::Informazione});
 }
 

@@ -4,6 +4,6 @@
 #pragma once
 #include "engine/lavoro.h"
 
-bool CalcolaTabelle(Lavoro& l);    // everything but the message on the diameter and the checks
+bool CalcolaTabelle(Lavoro& l);  // everything but the message on the diameter and the checks
 // The whole verification: tables, message on the diameter, ratios, limits, rows, verdicts. The flags of arithmetic are cleared first.
 bool EseguiVerifica(Lavoro& l);

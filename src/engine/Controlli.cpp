@@ -34,18 +34,18 @@ static void Colonna(Confronti& c, const Nodo& n, int) {
 }
 
 static void Piastra(Confronti& c, const Nodo& n, int) {
-  for (const double v : { n.SpessPiastra, n.LatoZ, n.LatoY }) Oltre(c, v, 0);
+  for (const double v : {n.SpessPiastra, n.LatoZ, n.LatoY}) Oltre(c, v, 0);
 }
 
 static void Tirafondo(Confronti& c, const Nodo& n, int) {
-  for (const double v : { n.TfL, n.TfLFt }) Oltre(c, v, 0);
-  for (const double v : { n.TfL1, n.TfR, n.TfHMalta }) NonSotto(c, v, 0);
-  for (const double v : { n.TfFi, n.TfDForo }) Oltre(c, v, 0);
+  for (const double v : {n.TfL, n.TfLFt}) Oltre(c, v, 0);
+  for (const double v : {n.TfL1, n.TfR, n.TfHMalta}) NonSotto(c, v, 0);
+  for (const double v : {n.TfFi, n.TfDForo}) Oltre(c, v, 0);
   NonSotto(c, n.TfLF, 0);
 }
 
 static void Fori(Confronti& c, const Nodo& n, int) {
-  if (n.TfLF <= 0) return;                   // no holes in the footing
+  if (n.TfLF <= 0) return;  // no holes in the footing
   const double D = n.TfDForo;
   for (const CoppiaFori& k : SCHEMI[SchemaTir(n)].fori) {
     if (k.a == 0) break;
@@ -64,7 +64,9 @@ namespace {
 // D[1..4]: distance of the anchors from the plate's four edges, each by one anchor. The others lie on the same lines where the panel placed
 // them; a node file may put them elsewhere, unseen here (unsafe);
 // F[1..4]: from the column's or the ribs' face to the anchor.
-struct Distanze { double D[4 + 1], F[4 + 1]; };
+struct Distanze {
+  double D[4 + 1], F[4 + 1];
+};
 }  // namespace
 
 static Distanze DistanzeTirafondi(const Nodo& n) {
@@ -97,9 +99,9 @@ static void ZoneAngolo(Confronti& c, const Nodo& n, int) {
 
 static double BordoMassimoNTC(const Nodo& n) {
   const double t = n.SpessPiastra;
-  if (n.Esposizione == 0) return 4 * t + 40;   // exposed
-  if (n.Esposizione == 1) return 1e20;         // not exposed: no upper bound
-  return MaxDi(8 * t, 125);                    // resistant to corrosion, or no choice
+  if (n.Esposizione == 0) return 4 * t + 40;  // exposed
+  if (n.Esposizione == 1) return 1e20;        // not exposed: no upper bound
+  return MaxDi(8 * t, 125);                   // resistant to corrosion, or no choice
 }
 
 static void Bordo(Confronti& c, const Nodo& n, int metodo) {
@@ -116,11 +118,12 @@ struct Prova {
   const char* id;
   void (*confronta)(Confronti&, const Nodo&, int metodo);
   GenereGeometria genere;
-  const char* testo[2];                      // by method
+  const char* testo[2];  // by method
 };
 }  // namespace
 
-#define STESSO(t) { t, t }
+#define STESSO(t) \
+  { t, t }
 // clang-format off
 static constexpr Prova PROVE[NumGeometria] = {
   { "geo.colonna",       Colonna,      GenereGeometria::Domanda, STESSO("Incompatibilità geometrica fra piastra e colonna") },

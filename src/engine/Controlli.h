@@ -7,19 +7,19 @@
 #include "model/node_model.h"
 
 enum class GenereGeometria : unsigned char {
-  Domanda,       // the user may go on
-  Rifiuto,       // no verification
-  Bordo          // advice of the method: the user may go on
+  Domanda,  // the user may go on
+  Rifiuto,  // no verification
+  Bordo     // advice of the method: the user may go on
 };
 
 struct RigaGeometria {
   const char* id = "";
-  const char* testo = "";                    // of its box
+  const char* testo = "";  // of its box
   GenereGeometria genere = GenereGeometria::Domanda;
   bool passa = true;
-  bool confronta = false;                    // domanda and limite hold
-  double domanda = 0, limite = 0;            // mm, the comparison with the least margin: its left side and its right one
-  bool fault = false;                        // its arithmetic failed
+  bool confronta = false;          // domanda and limite hold
+  double domanda = 0, limite = 0;  // mm, the comparison with the least margin: its left side and its right one
+  bool fault = false;              // its arithmetic failed
 };
 
 constexpr int NumGeometria = 11;

@@ -8,15 +8,18 @@
 #include "engine/Tirafondi.h"
 
 constexpr double RAPPORTO_SENZA_RESISTENZA = 100;
-constexpr double STESSA_POSIZIONE = 0.01;    // mm
-constexpr int PAR_GIOCO_FORO = 5;            // option whose number enlarges the hole, mm; it is also a text colour: a high one lowers FbRd (safe)
+constexpr double STESSA_POSIZIONE = 0.01;  // mm
+constexpr int PAR_GIOCO_FORO = 5;  // option whose number enlarges the hole, mm; it is also a text colour: a high one lowers FbRd (safe)
 
 namespace {
 // Shear plane through the thread, NTC 2008 4.2.8.1.1 (4.2.57), (4.2.58): by the class that the name holds, 0 an unknown one.
-struct ClasseVite { const char* classe; double coeff; };
+struct ClasseVite {
+  const char* classe;
+  double coeff;
+};
 }  // namespace
 
-constexpr ClasseVite CLASSI_VITI[] = { { "4.6", 0.6 }, { "5.6", 0.6 }, { "8.8", 0.6 }, { "6.8", 0.5 }, { "10.9", 0.5 } };
+constexpr ClasseVite CLASSI_VITI[] = {{"4.6", 0.6}, {"5.6", 0.6}, {"8.8", 0.6}, {"6.8", 0.5}, {"10.9", 0.5}};
 
 static double CoeffTaglio(const Nodo& nodo) {
   for (const ClasseVite& c : CLASSI_VITI)
@@ -26,13 +29,15 @@ static double CoeffTaglio(const Nodo& nodo) {
 
 namespace {
 // Where an anchor stands among those in line with it along one axis: at an end, or between two.
-struct Fila { double minimo, massimo, passo; };
+struct Fila {
+  double minimo, massimo, passo;
+};
 }  // namespace
 
 // lungo, trasv: positions along the axis and across it. In line: within 30 degrees of the axis, bounds included.
 static Fila FilaTirafondo(const Nodo& nodo, int i, const double* lungo, const double* trasv) {
   const double tan30 = std::tan(PI_PROG / 6);
-  Fila f = { lungo[i], lungo[i], 1e20 };
+  Fila f = {lungo[i], lungo[i], 1e20};
   for (int j = 1; j <= nodo.NTir; ++j) {
     const double distanza = std::fabs(lungo[j] - lungo[i]);
     if (!(std::fabs(trasv[i] - trasv[j]) <= distanza * tan30)) continue;
@@ -79,7 +84,7 @@ void ResistenzeNTC(Lavoro& l) {
   const double d0 = nodo.TfFi + l.suite->ParNodo[PAR_GIOCO_FORO];
   for (int i = 1; i <= nodo.NTir; ++i) ris.FbRd[i] = CoeffK(nodo, i, d0) * CoeffAlfa(nodo, i, d0) * fu * nodo.TfFi * t / 100 / gamma;
   ris.FtRd = 0.9 * ftb * A / 100 / gamma;
-  ris.BpRd = 0.6 * PI_PROG * fu * (1.5 * nodo.TfFi) * t / 100 / gamma;   // mean diameter of the nut 1.5 Fi
+  ris.BpRd = 0.6 * PI_PROG * fu * (1.5 * nodo.TfFi) * t / 100 / gamma;  // mean diameter of the nut 1.5 Fi
 
   const MatCls& cls = nodo.MatCls;
   const double r = nodo.TfR / 2;

@@ -7,6 +7,6 @@
 
 // FvRd, FbRd[], FtRd, BpRd (NTC 2008 4.2.8.1.1), TauCls, TadRd with its cap.
 void ResistenzeNTC(Lavoro& l);
-void ForzeTirafondiNTC(Lavoro& l, int s);     // FtEd of every anchor of sextet s, tension positive
+void ForzeTirafondiNTC(Lavoro& l, int s);  // FtEd of every anchor of sextet s, tension positive
 // Co1, Co2: NTC 2008 4.2.8.1.1 (4.2.65); Co3: Ft,Ed / Tad,Rd. Every sextet and anchor.
 void RapportiTirafondiNTC(Lavoro& l);

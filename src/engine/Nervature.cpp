@@ -8,7 +8,7 @@
 #include "model/schemi.h"
 
 constexpr int STRISCE = 100;
-constexpr double PIANO_COSTANTE = 1e-12;     // a coefficient of the plane up to it counts as zero
+constexpr double PIANO_COSTANTE = 1e-12;  // a coefficient of the plane up to it counts as zero
 
 static double ValoreInPunto(const Lavoro& l, double p, double q) {
   const double* P = l.presInfl.PianoDef;
@@ -19,27 +19,29 @@ static double PressioneInPunto(const Lavoro& l, double p, double q) { return Val
 
 namespace {
 // Compressed part of a linear profile from u = ua (value Pa) to ub (value Pb), u0 its zero if the two differ in sign.
-struct Profilo { double R, M; };             // resultant, moment about the middle
+struct Profilo {
+  double R, M;
+};  // resultant, moment about the middle
 }  // namespace
 
 static Profilo IntegraProfilo(double Pa, double Pb, double ua, double ub, double u0) {
-  if (Pa <= 0 && Pb <= 0) return { (Pa + Pb) * std::fabs(ub - ua) / 2, (Pb - Pa) * ((ub - ua) * (ub - ua)) / 12 };
-  if (Pa > 0 && Pb > 0) return { 0, 0 };
+  if (Pa <= 0 && Pb <= 0) return {(Pa + Pb) * std::fabs(ub - ua) / 2, (Pb - Pa) * ((ub - ua) * (ub - ua)) / 12};
+  if (Pa > 0 && Pb > 0) return {0, 0};
   const double e = Pa <= 0 ? ua : ub, Pe = Pa <= 0 ? Pa : Pb, um = (ua + ub) / 2;
   const double R = Pe * std::fabs(e - u0) / 2;
-  return { R, R * (2.0 / 3 * (e - u0) + u0 - um) };
+  return {R, R * (2.0 / 3 * (e - u0) + u0 - um)};
 }
 
 AzioniPiastra AzioniSuPiastra(const Lavoro& l, double pa, double pb, double qa, double qb) {
   const Nodo& nodo = *l.nodo;
   const double a = l.presInfl.PianoDef[1], b = -l.presInfl.PianoDef[2], c = l.presInfl.PianoDef[3];
   if (std::fabs(a) <= PIANO_COSTANTE) {
-    if (std::fabs(b) > PIANO_COSTANTE) {     // no change along q: one profile along p, value b p + c
+    if (std::fabs(b) > PIANO_COSTANTE) {  // no change along q: one profile along p, value b p + c
       const double E = nodo.EcCls / 100;
       const Profilo f = IntegraProfilo((b * pa + c) * E, (b * pb + c) * E, pa, pb, -c / b);
-      return { f.R * std::fabs(qb - qa), 0, f.M * std::fabs(qb - qa) };
+      return {f.R * std::fabs(qb - qa), 0, f.M * std::fabs(qb - qa)};
     }
-    return { c >= 0 ? 0 : c * nodo.EcCls / 100 * (pb - pa) * (qb - qa), 0, 0 };
+    return {c >= 0 ? 0 : c * nodo.EcCls / 100 * (pb - pa) * (qb - qa), 0, 0};
   }
   AzioniPiastra s = {};
   const double larghezza = (pb - pa) / STRISCE, pm = (pa + pb) / 2;
@@ -54,26 +56,35 @@ AzioniPiastra AzioniSuPiastra(const Lavoro& l, double pa, double pb, double qa, 
 }
 
 double RisultanteSuPiastra(const Lavoro& l, double pa, double pb, double qa, double qb) { return AzioniSuPiastra(l, pa, pb, qa, qb).V; }
-double MomentoQSuPiastra(const Lavoro& l, double pa, double pb, double qa, double qb) { return AzioniSuPiastra(l, pa, pb, qa, qb).MomentoQ; }
-double MomentoPSuPiastra(const Lavoro& l, double pa, double pb, double qa, double qb) { return AzioniSuPiastra(l, pa, pb, qa, qb).MomentoP; }
+double MomentoQSuPiastra(const Lavoro& l, double pa, double pb, double qa, double qb) {
+  return AzioniSuPiastra(l, pa, pb, qa, qb).MomentoQ;
+}
+double MomentoPSuPiastra(const Lavoro& l, double pa, double pb, double qa, double qb) {
+  return AzioniSuPiastra(l, pa, pb, qa, qb).MomentoP;
+}
 
 namespace {
 // One cut: the part of the plate outside it, the anchors on that part, and where its stresses go.
 struct SezioneDiTaglio {
-  double pa, pb, qa, qb;           // rectangle
-  double L, W;                     // its length across the cut, the cut's width
-  bool lungoP;                     // the arm lies along p (cuts 1, 2): M about the q axis, transverse coordinate q
-  double segnoP;                   // arm |segnoP p - B/2 - SP| (cuts 1, 2) or |q - H/2| (cuts 3, 4; in cut 3 to the far face: a longer arm, safe unless the anchor relieves the strip)
-  double segnoMom;                 // of the moment integral that becomes M2
-  double segnoM2;                  // of the anchors' terms in M2
-  int tir[2];                      // anchors always
-  LatoPiastra lato;                // of the plate beyond the cut, for the anchor that the pattern adds there
-  int pos[2];                      // rib positions
-  int sald[4];                     // rib welds
+  double pa, pb, qa, qb;  // rectangle
+  double L, W;            // its length across the cut, the cut's width
+  bool lungoP;            // the arm lies along p (cuts 1, 2): M about the q axis, transverse coordinate q
+  double
+    segnoP;  // arm |segnoP p - B/2 - SP| (cuts 1, 2) or |q - H/2| (cuts 3, 4; in cut 3 to the far face: a longer arm, safe unless the anchor relieves the strip)
+  double segnoMom;   // of the moment integral that becomes M2
+  double segnoM2;    // of the anchors' terms in M2
+  int tir[2];        // anchors always
+  LatoPiastra lato;  // of the plate beyond the cut, for the anchor that the pattern adds there
+  int pos[2];        // rib positions
+  int sald[4];       // rib welds
 };
 
-struct Azioni { double M, M2, V; };
-struct ForzaTir { double T, Pc, a, c; };     // force, pressure at the hole, arm, transverse coordinate
+struct Azioni {
+  double M, M2, V;
+};
+struct ForzaTir {
+  double T, Pc, a, c;
+};  // force, pressure at the hole, arm, transverse coordinate
 }  // namespace
 
 static ForzaTir ForzaTirante(const Lavoro& l, const SezioneDiTaglio& g, int i) {
@@ -106,7 +117,8 @@ static Azioni AzioniTaglio(const Lavoro& l, const SezioneDiTaglio& g) {
   z.V = c.V;
   z.M = g.lungoP ? c.MomentoP : c.MomentoQ;
   z.M2 = g.segnoMom * (g.lungoP ? c.MomentoQ : c.MomentoP);
-  z.M -= g.L / 2 * z.V;            // right in cuts 2 and 3; in cuts 1 and 4 about the plate's outer edge: too small where the pressure grows outward (unsafe)
+  z.M -= g.L / 2 *
+         z.V;  // right in cuts 2 and 3; in cuts 1 and 4 about the plate's outer edge: too small where the pressure grows outward (unsafe)
   SommaTiranti(l, z, g, g.tir, 2);
   const int& extra = SCHEMI[SchemaTir(*l.nodo)].lato[g.lato];
   if (extra > 0) SommaTiranti(l, z, g, &extra, 1);
@@ -144,7 +156,7 @@ static double TensioniNervature(Lavoro& l, int s, const SezioneDiTaglio& g, cons
   const double J = (Cubo(t) * g.W + 2 * Cubo(SP) * HN) / 3;
   const double sopra = Ideale(std::fabs(z.M / I * (HN + t - Yg)), std::fabs(z.V / 2 / HN / SP) + std::fabs(z.M2 / J * SP / 2));
   const double sotto = Ideale(std::fabs(z.M / I * Yg), std::fabs(z.M2 / J * t / 2));
-  for (const double id : { sopra, sotto })
+  for (const double id : {sopra, sotto})
     for (const int p : g.pos) Alza(ris.SNerv[s][p], id);
   Alza(ris.SMaxPiastra[s], sotto);
   return J;

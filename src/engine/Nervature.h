@@ -8,11 +8,13 @@
 #include "engine/lavoro.h"
 
 // Resultant of the compressed pressure over pa..pb, qa..qb, and its moments about the rectangle's middle lines.
-struct AzioniPiastra { double V, MomentoQ, MomentoP; };
-AzioniPiastra AzioniSuPiastra(const Lavoro& l, double pa, double pb, double qa, double qb);      // all three in one pass
+struct AzioniPiastra {
+  double V, MomentoQ, MomentoP;
+};
+AzioniPiastra AzioniSuPiastra(const Lavoro& l, double pa, double pb, double qa, double qb);  // all three in one pass
 double RisultanteSuPiastra(const Lavoro& l, double pa, double pb, double qa, double qb);
-double MomentoQSuPiastra(const Lavoro& l, double pa, double pb, double qa, double qb);           // arm q - qm
-double MomentoPSuPiastra(const Lavoro& l, double pa, double pb, double qa, double qb);           // arm p - pm
+double MomentoQSuPiastra(const Lavoro& l, double pa, double pb, double qa, double qb);  // arm q - qm
+double MomentoPSuPiastra(const Lavoro& l, double pa, double pb, double qa, double qb);  // arm p - pm
 
 // The stresses of the four cuts: rib positions, plate, and the welds 29 to 40 of the ribs, each raised to the largest.
 void CalcolaNervature(Lavoro& l, int s);

@@ -7,7 +7,7 @@
 #include "core/numeri.h"
 #include "model/schemi.h"
 
-constexpr double QUOTA_H = 0.95, QUOTA_B = 0.8;     // of the column's sides from where the plate cantilevers; every section
+constexpr double QUOTA_H = 0.95, QUOTA_B = 0.8;  // of the column's sides from where the plate cantilevers; every section
 
 void PiastraSenzaNervature(Lavoro& l, int s) {
   const Nodo& nodo = *l.nodo;
@@ -22,7 +22,12 @@ void PiastraSenzaNervature(Lavoro& l, int s) {
 
   const double y = (nodo.LatoY - H) / 2, z = (nodo.LatoZ - B) / 2;
   const double Wz = t * t * nodo.LatoZ / 6, Wy = t * t * nodo.LatoY / 6;
-  struct Lato { double a; int i1, i2; LatoPiastra lato; double W; };
+  struct Lato {
+    double a;
+    int i1, i2;
+    LatoPiastra lato;
+    double W;
+  };
   // clang-format off
   const Lato LATI[] = {
     { y - nodo.TfY[1],                1, 2, SUPERIORE, Wz },
@@ -44,9 +49,9 @@ void PiastraSenzaNervature(Lavoro& l, int s) {
 namespace {
 // Spans and widths of the strips at each anchor, and the corner moments that the mid-side anchors read. One call.
 struct Strisce {
-  double Cz[MaxTir + 1], Cy[MaxTir + 1];     // clear span: to the rib along Z, to the column's face along Y
-  double Cz2[MaxTir + 1], Cy2[MaxTir + 1];   // remaining span
-  double Bz[MaxTir + 1], By[MaxTir + 1];     // working width of the strip along Z, along Y
+  double Cz[MaxTir + 1], Cy[MaxTir + 1];    // clear span: to the rib along Z, to the column's face along Y
+  double Cz2[MaxTir + 1], Cy2[MaxTir + 1];  // remaining span
+  double Bz[MaxTir + 1], By[MaxTir + 1];    // working width of the strip along Z, along Y
   double Mz[MaxTir + 1], My[MaxTir + 1];
 };
 }  // namespace
@@ -75,8 +80,15 @@ static void LuciLarghezze(const Nodo& nodo, Strisce& c, const double* armZ, cons
   }
   // Places 5 to 8 by pattern. A span named holds for both spans of its direction, nullptr takes the corners' formula.
   // Neighbours a, b: no anchor stands there, the place lends the mean widths of two corners.
-  const double nulla = 0, intera = H / 2 - SP;           // pattern 1 spans between the ribs, pattern 2 between their mid-lines: more to the strip along Y, over less (either side)
-  struct Posto { int opzione, i; const double *luceZ, *luceY; int a, b; };
+  const double
+    nulla = 0,
+    intera = H / 2 -
+             SP;  // pattern 1 spans between the ribs, pattern 2 between their mid-lines: more to the strip along Y, over less (either side)
+  struct Posto {
+    int opzione, i;
+    const double *luceZ, *luceY;
+    int a, b;
+  };
   // clang-format off
   const Posto POSTI[] = {
     { 2, 5, nullptr, &Yr,     0, 0 }, { 2, 6, nullptr, &Yr,     0, 0 }, { 2, 7, &Zr,    &nulla,  3, 4 }, { 2, 8, &Zr,    &nulla,  1, 2 },
@@ -102,7 +114,9 @@ static void LuciLarghezze(const Nodo& nodo, Strisce& c, const double* armZ, cons
 
 namespace {
 // Corner anchors: u, v the neighbours along Y and Z that stiffen the strips; Wz, Wy the lesser width of two places.
-struct Angolo { int opzione, i, u, v, wz1, wz2, wy1, wy2; };
+struct Angolo {
+  int opzione, i, u, v, wz1, wz2, wy1, wy2;
+};
 }  // namespace
 
 // clang-format off
@@ -115,7 +129,11 @@ constexpr Angolo ANGOLI[] = {
 
 namespace {
 // Mid-side anchors: the strip along the side is a beam fixed at both ends, relieved by the moments of corners a, b.
-struct MezzoLato { int opzione, i; char lato; int a, b; };
+struct MezzoLato {
+  int opzione, i;
+  char lato;
+  int a, b;
+};
 }  // namespace
 
 // clang-format off
@@ -150,8 +168,8 @@ static void TensioniMezzo(Lavoro& l, int s, Strisce& c, const MezzoLato& r) {
   const double t = nodo.SpessPiastra, T = l.verifica.AreaTf * ris.SigmaTir[s][i];
   const bool latoZ = r.lato == 'Z';
   const double Lz = c.Cz[i] + c.Cz2[i], Ly = c.Cy[i] + c.Cy2[i];
-  const double R = latoZ ? (Cubo(Ly) / (48 * c.By[i])) / (Cubo(c.Cz[i]) / (3 * c.Bz[i]))
-                         : (Cubo(c.Cy[i]) / (3 * c.By[i])) / (Cubo(Lz) / (48 * c.Bz[i]));
+  const double R =
+    latoZ ? (Cubo(Ly) / (48 * c.By[i])) / (Cubo(c.Cz[i]) / (3 * c.Bz[i])) : (Cubo(c.Cy[i]) / (3 * c.By[i])) / (Cubo(Lz) / (48 * c.Bz[i]));
   const double Tz = QuotaZ(R, T), Ty = T - Tz;
   c.Mz[i] = std::fabs(latoZ ? Tz * c.Cz[i] : Lz * Tz / 4 - (c.Mz[r.a] + c.Mz[r.b]) / 2);
   c.My[i] = std::fabs(latoZ ? Ly * Ty / 4 - (c.My[r.a] + c.My[r.b]) / 2 : Ty * c.Cy[i]);

@@ -6,31 +6,39 @@
 #include "core/fault.h"
 #include "engine/Tirafondi.h"
 
-constexpr double TOLL_EQUILIBRIO = 0.01;   // per cent of the load, each component
+constexpr double TOLL_EQUILIBRIO = 0.01;  // per cent of the load, each component
 constexpr int ITER_MAX = 100, ITER_MIN = 3;
-constexpr double K33_MINIMA = 1e-7;        // below it nothing is left that could carry the load
+constexpr double K33_MINIMA = 1e-7;  // below it nothing is left that could carry the load
 constexpr const char* TITOLO = "ERRORE !";
 
 namespace {
-struct Simmetrica { double k11, k12, k13, k22, k23, k33; };
+struct Simmetrica {
+  double k11, k12, k13, k22, k23, k33;
+};
 }  // namespace
 
 // What one anchor adds to a matrix per unit of modulus ratio: its area times the products of (y, x, 1).
-static Simmetrica ContributoBarra(double A, double x, double y) {
-  return { A * y * y, A * x * y, A * y, A * x * x, A * x, A };
-}
+static Simmetrica ContributoBarra(double A, double x, double y) { return {A * y * y, A * x * y, A * y, A * x * x, A * x, A}; }
 
-static Simmetrica Scalata(const Simmetrica& m, double f) {
-  return { m.k11 * f, m.k12 * f, m.k13 * f, m.k22 * f, m.k23 * f, m.k33 * f };
-}
+static Simmetrica Scalata(const Simmetrica& m, double f) { return {m.k11 * f, m.k12 * f, m.k13 * f, m.k22 * f, m.k23 * f, m.k33 * f}; }
 
 static void Aggiungi(Simmetrica& k, const Simmetrica& m) {
-  k.k11 += m.k11; k.k12 += m.k12; k.k13 += m.k13; k.k22 += m.k22; k.k23 += m.k23; k.k33 += m.k33;
+  k.k11 += m.k11;
+  k.k12 += m.k12;
+  k.k13 += m.k13;
+  k.k22 += m.k22;
+  k.k23 += m.k23;
+  k.k33 += m.k33;
 }
 
 // w is 1 or 0: a branch here would be guessed wrong at every second sextet.
 static void Togli(Simmetrica& k, const Simmetrica& m, double w) {
-  k.k11 -= w * m.k11; k.k12 -= w * m.k12; k.k13 -= w * m.k13; k.k22 -= w * m.k22; k.k23 -= w * m.k23; k.k33 -= w * m.k33;
+  k.k11 -= w * m.k11;
+  k.k12 -= w * m.k12;
+  k.k13 -= w * m.k13;
+  k.k22 -= w * m.k22;
+  k.k23 -= w * m.k23;
+  k.k33 -= w * m.k33;
 }
 
 // Integrals of the compressed polygon, clockwise positive, edge by edge. They do without the edge's slope: with slope and
@@ -130,7 +138,9 @@ static void ForzeInterne(StatoPresInfl& p, const Simmetrica& k) {
 }
 
 namespace {
-struct Barre { Simmetrica area[MaxTir + 1], acciaio[MaxTir + 1]; };   // of each anchor, per unit of modulus ratio and as it is
+struct Barre {
+  Simmetrica area[MaxTir + 1], acciaio[MaxTir + 1];
+};  // of each anchor, per unit of modulus ratio and as it is
 }  // namespace
 
 // Concrete of the polygon in hand, less that at the anchors: at all of them in the first iteration, then at the compressed ones;
@@ -153,7 +163,7 @@ static bool Itera(StatoPresInfl& p, Simmetrica& k) {
     barre.area[i] = ContributoBarra(p.BarraA, p.BarraX[i], p.BarraY[i]);
     barre.acciaio[i] = Scalata(barre.area[i], f);
   }
-  p.Carichi[1] *= 10;   // daN cm to daN mm
+  p.Carichi[1] *= 10;  // daN cm to daN mm
   p.Carichi[2] *= 10;
   double t[4], b[4];
   for (int c = 1; c <= 3; ++c) {
@@ -208,8 +218,7 @@ static bool CalcolaRisultati(Lavoro& l, int s) {
     const double v = ValorePiano(p.PianoDef, p.PoliX[j], p.PoliY[j]) * p.ERif;
     if (v < pressione) pressione = v;
   }
-  for (int i = 1; i <= p.NumBarre; ++i)
-    l.ris.SigmaTir[s][i] = ValorePiano(p.PianoDef, p.BarraX[i], p.BarraY[i]) * E_BARRA;
+  for (int i = 1; i <= p.NumBarre; ++i) l.ris.SigmaTir[s][i] = ValorePiano(p.PianoDef, p.BarraX[i], p.BarraY[i]) * E_BARRA;
   return true;
 }
 
@@ -221,12 +230,12 @@ bool PresInfl(Lavoro& l, int s) {
 
   Simmetrica k = {};
   const bool convergenza = Itera(p, k);
-  const double K[3][3] = { { k.k11, k.k12, k.k13 }, { k.k12, k.k22, k.k23 }, { k.k13, k.k23, k.k33 } };
+  const double K[3][3] = {{k.k11, k.k12, k.k13}, {k.k12, k.k22, k.k23}, {k.k13, k.k23, k.k33}};
   for (int r = 1; r <= 3; ++r)
     for (int c = 1; c <= 3; ++c) p.K[r][c] = K[r - 1][c - 1];
-  if (FaultAritmetico()) return false;       // the run's box, not the solver's
+  if (FaultAritmetico()) return false;  // the run's box, not the solver's
   if (!convergenza) Annota(l, "Convergenza non raggiunta !");
   const bool presenti = CalcolaRisultati(l, s);
-  l.piani[s] = { { 0, p.PianoDef[1], p.PianoDef[2], p.PianoDef[3] }, p.IterPres };
+  l.piani[s] = {{0, p.PianoDef[1], p.PianoDef[2], p.PianoDef[3]}, p.IterPres};
   return convergenza && presenti;
 }

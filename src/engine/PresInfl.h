@@ -10,7 +10,7 @@
 
 constexpr double E_BARRA = 20000;  // anchors' modulus, daN/mm2
 
-void DatiSezione(Lavoro& l, int s);                  // section and load of sextet s, 1-based; before PresInfl
+void DatiSezione(Lavoro& l, int s);  // section and load of sextet s, 1-based; before PresInfl
 // Peak pressure on concrete, 0 or negative, to ris.SMaxCls[s]; stress of anchor i to ris.SigmaTir[s][i]; the plane to piani[s].
 bool PresInfl(Lavoro& l, int s);
 // The anchor stands in the concrete's region, by the rising edges only: beyond the plate's right edge it counts as inside.

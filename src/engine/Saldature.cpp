@@ -10,7 +10,10 @@
 #include "model/saldature_colonna.h"
 
 // Shear carried by weld w = 1..28: z Tz, y Ty, i Ty only if SaldInt = 1. Index 0 free.
-constexpr char TAGLIO[1 + SALD_PIASTRA + 1] = "." "yzzzyzzz" "iyyyyyzzzz" "iyyyyyzzzz";
+constexpr char TAGLIO[1 + SALD_PIASTRA + 1] = "."
+                                              "yzzzyzzz"
+                                              "iyyyyyzzzz"
+                                              "iyyyyyzzzz";
 
 double Direzione(double x1, double y1, double x2, double y2) {
   if (std::fabs(x2 - x1) < TOLL_GEO) return y1 < y2 ? PI_PROG / 2 : -PI_PROG / 2;
@@ -31,7 +34,7 @@ void AggiungiSaldatura(Lavoro& l, double zf, double yf, double zi, double yi, in
   d.Ang[3] = Direzione(0, 0, zi, yi);
   d.Ang[2] = Direzione(zf, yf, zi, yi);
   const double dz = lato * G / 2 * std::sin(d.Ang[2]), dy = lato * G / 2 * std::cos(d.Ang[2]);
-  const double z[4] = { 0, zf, (zf + zi) / 2, zi }, y[4] = { 0, yf, (yf + yi) / 2, yi };
+  const double z[4] = {0, zf, (zf + zi) / 2, zi}, y[4] = {0, yf, (yf + yi) / 2, yi};
   for (int k = 1; k <= 3; ++k) {
     d.PZ[k] = z[k] - dz;
     d.PY[k] = y[k] + dy;
@@ -50,7 +53,12 @@ static void SaldatureColonna(Lavoro& l) {
 
 namespace {
 // One call of a pass: weld n + m o, o the pass's offset. lato: 'c' against the pass's side, '=' as the call before, '-' always -1.
-struct Chiamata { int n, m; char lato; bool soloInterne; double zi, yi, zf, yf; };
+struct Chiamata {
+  int n, m;
+  char lato;
+  bool soloInterne;
+  double zi, yi, zf, yf;
+};
 }  // namespace
 
 // Ribs of one side c, -1 or +1. lato enters as the last call left it and leaves so: the first call of the second pass thus
@@ -98,7 +106,7 @@ void CostruisciSaldature(Lavoro& l) {
   l.NumSaldature = SALD_COLONNA;
   if (nodo.TipoNodo != 2) return;
   int lato = +1;
-  for (const int c : { -1, +1 }) SaldatureNervature(l, c, lato);
+  for (const int c : {-1, +1}) SaldatureNervature(l, c, lato);
   const double z34 = nodo.Sezione.H / 2, z37 = -(nodo.Sezione.B / 2 + nodo.SpNerv);
   AggiungiSaldatura(l, z34, nodo.HNerv, z34, 0, lato, 34);
   AggiungiSaldatura(l, z37, nodo.HNerv, z37, 0, lato, 37);
@@ -112,7 +120,7 @@ void InerziaSaldature(const Lavoro& l, double& iz, double& iy, double& ip, doubl
   iz = iy = ip = lungTz = lungTy = 0;
   for (int w = 1; w <= UltimaSuPiastra(l); ++w) {
     const Saldatura& d = l.ris.Saldature[w];
-    (TAGLIO[w] == 'z' ? lungTz : lungTy) += d.Lung;      // inner welds count even when they are not built: their length is 0, or stale
+    (TAGLIO[w] == 'z' ? lungTz : lungTy) += d.Lung;  // inner welds count even when they are not built: their length is 0, or stale
     if (TAGLIO[w] == 'i' && nodo.SaldInt != 1) continue;
     const double Aw = nodo.GolaCalc * d.Lung, y2 = d.PY[2] * d.PY[2], z2 = d.PZ[2] * d.PZ[2];
     iz += d.Iz + Aw * y2;
@@ -162,7 +170,11 @@ void TensioniSaldaturePiastra(Lavoro& l, int s) {
 
 namespace {
 // Rib-to-column welds: signs of the arms, and whether the arm along Y is the inner one.
-struct SaldCorrente { int w; int segnoZ, segnoY; bool interna; };
+struct SaldCorrente {
+  int w;
+  int segnoZ, segnoY;
+  bool interna;
+};
 }  // namespace
 
 // clang-format off
@@ -179,7 +191,8 @@ void TensioniSaldatureColonna(Lavoro& l, int s) {
   const AzioniPiastra c = AzioniSuPiastra(l, -B / 2, B / 2, -H / 2, H / 2);
   const double Mq = v.Mz - c.MomentoQ, Mp = v.My - c.MomentoP, Nr = v.N - c.V;
   const bool interne = nodo.SaldInt != 0;
-  const double zc = H / 2 + G / std::numbers::sqrt2, yc = B / 2 - G / std::numbers::sqrt2;      // plus and minus: each to the axis on which the throats lie
+  const double zc = H / 2 + G / std::numbers::sqrt2,
+               yc = B / 2 - G / std::numbers::sqrt2;  // plus and minus: each to the axis on which the throats lie
   const double zci = zc - nodo.Sezione.E, A4 = 4 * G * HN;
   const double I1 = interne ? (zci * zci + zc * zc) * A4 : zc * zc * A4;
   const double I2 = interne ? 2 * (yc * yc) * A4 : yc * yc * A4;
@@ -196,7 +209,7 @@ void TensioniEquivalentiSaldature(Lavoro& l, int s) {
   for (int w = 1; w <= l.NumSaldature; ++w) {
     Saldatura& d = l.ris.Saldature[w];
     double eq1[4], eq2[4];
-    for (const int k : { 1, 3 }) {
+    for (const int k : {1, 3}) {
       const double S = d.SPrp[s][k] * f, Pa = d.TauPa[s][k] * f, Pe = d.TauPe[s][k] * f;
       eq1[k] = std::sqrt(S * S + Pa * Pa + Pe * Pe);
       eq2[k] = std::fabs(S) + std::fabs(Pe);
@@ -207,7 +220,7 @@ void TensioniEquivalentiSaldature(Lavoro& l, int s) {
 }
 
 void MaxTensioniSaldatura(const Lavoro& l, double& sp, double& tpa, double& tpe, int w, int s) {
-  const auto massimo = [&](const double (&v)[MaxSoll + 1][4]) { return MaxDi(std::fabs(v[s][1]), std::fabs(v[s][3])) * MM2_SU_CM2; };
+  const auto massimo = [&](const double(&v)[MaxSoll + 1][4]) { return MaxDi(std::fabs(v[s][1]), std::fabs(v[s][3])) * MM2_SU_CM2; };
   const Saldatura& d = l.ris.Saldature[w];
   sp = massimo(d.SPrp);
   tpa = massimo(d.TauPa);

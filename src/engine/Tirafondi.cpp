@@ -72,6 +72,5 @@ void ResistenzeTA(Lavoro& l) {
   l.TauCls = Arrotonda1(((Rck - 15) / 75 + 0.4) * 0.15);
   // The hooked rod is divided by 100, not by the newtons in a decanewton: a tenth of its bond (safe). Other forms keep what the run had.
   if (nodo.TipoTirafondo == 1) l.ris.TadRd = TiroUncino(l) / 100;
-  if (nodo.TipoTirafondo == 0)
-    l.ris.TadRd = (TiroFusto(l) + (1 - PerditaPiastrina(nodo)) * PI_TA * (r * r) * l.SAmmCls) / N_SU_DAN;
+  if (nodo.TipoTirafondo == 0) l.ris.TadRd = (TiroFusto(l) + (1 - PerditaPiastrina(nodo)) * PI_TA * (r * r) * l.SAmmCls) / N_SU_DAN;
 }

@@ -11,7 +11,7 @@ void InerziaTirafondi(const Nodo& nodo, double& somma, double (&armZ)[MaxTir + 1
 
 // Shear of anchor i from verifica's Ty, Tz, Mt: equal shares of the forces, torque by the distance from the centre. daN.
 double TaglioTirafondo(const Lavoro& l, int i);
-void TaglioTirafondi(Lavoro& l, int s);       // SRfTir, TauTir, TiroTir by allowable stresses; FvEd by limit states
+void TaglioTirafondi(Lavoro& l, int s);  // SRfTir, TauTir, TiroTir by allowable stresses; FvEd by limit states
 
 // Resistant area of the rods, mm2; notes in ris how it was found. An empty table of diameters gives 0.
 double AreaTirafondo(Lavoro& l);
@@ -19,6 +19,6 @@ double AreaTirafondo(Lavoro& l);
 // Allowable stresses: l.SAmmCls, l.TauCls (CNR 10011/88, Rck / 10 in the formulas) and the bond resistance TadRd.
 void ResistenzeTA(Lavoro& l);
 // Bond of both methods, from the bond stress l.TauCls.
-double TiroUncino(const Lavoro& l);               // hooked rod: straight length, bend and rising leg
-double TiroFusto(const Lavoro& l);                // rod with anchor plate: the length above the plate
-double PerditaPiastrina(const Nodo& nodo);         // share of the plate's concrete that is lost near the surface or the footing's edge
+double TiroUncino(const Lavoro& l);         // hooked rod: straight length, bend and rising leg
+double TiroFusto(const Lavoro& l);          // rod with anchor plate: the length above the plate
+double PerditaPiastrina(const Nodo& nodo);  // share of the plate's concrete that is lost near the surface or the footing's edge

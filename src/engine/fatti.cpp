@@ -8,9 +8,9 @@
 #include "engine/PresInfl.h"
 #include "engine/Tirafondi.h"
 
-constexpr double STESSA_Z = 1e-6;            // mm; points of one z count by their y
-constexpr double N_MM2 = N_SU_DAN;           // from daN/mm2
-constexpr double KN = 0.01;                  // from daN
+constexpr double STESSA_Z = 1e-6;   // mm; points of one z count by their y
+constexpr double N_MM2 = N_SU_DAN;  // from daN/mm2
+constexpr double KN = 0.01;         // from daN
 
 // The plan's y runs downward, the solver's upward.
 static double Valore(const Lavoro& l, int s, PuntoPiano p) {
@@ -53,7 +53,9 @@ PoligonoCompresso ParteCompressa(const Lavoro& l, int s) {
 // ---- moments of a triangle: a linear pressure over it ----
 
 namespace {
-struct Azioni { double N = 0, Mz = 0, My = 0; };     // daN; about the plan's z and y: N times y, N times z, daN mm
+struct Azioni {
+  double N = 0, Mz = 0, My = 0;
+};  // daN; about the plan's z and y: N times y, N times z, daN mm
 }  // namespace
 
 // Linear function with values f at the corners: the mean, and the moments by the exact mid-side rule (degree two).
@@ -116,7 +118,8 @@ static double Errore(double interna, double carico, double minimo) {
 // The section's My turns z against N (a positive My presses positive z), Mz turns y upward.
 static double Residuo(const Lavoro& l, int s, Azioni tutto) {
   const Nodo& n = *l.nodo;
-  for (int i = 1; i <= n.NTir; ++i) AggiungiForza(tutto, l.verifica.AreaTf * Valore(l, s, PostoTirafondo(n, i)) * E_BARRA, PostoTirafondo(n, i));
+  for (int i = 1; i <= n.NTir; ++i)
+    AggiungiForza(tutto, l.verifica.AreaTf * Valore(l, s, PostoTirafondo(n, i)) * E_BARRA, PostoTirafondo(n, i));
   const double N = n.SollN[s], My = 10 * n.SollMy[s], Mz = 10 * n.SollMz[s];
   const double mezzoLato = std::max(n.LatoZ, n.LatoY) / 2, minimo = std::max(1.0, std::fabs(N)) * mezzoLato;
   return std::max({Errore(tutto.N, N, 1), Errore(-tutto.My, My, minimo), Errore(-tutto.Mz, Mz, minimo)});
@@ -136,7 +139,7 @@ static void AsseNeutro(const Lavoro& l, int s, FattiSestetto& f) {
     if (da == 0) trovati[n++] = a;
     else if ((da < 0 && db > 0) || (da > 0 && db < 0)) trovati[n++] = Taglio(a, b, da, db);
   }
-  if (n < 2 || !compressa || !sollevata) return;     // along an edge or at a corner it touches the plate and does not cut it
+  if (n < 2 || !compressa || !sollevata) return;  // along an edge or at a corner it touches the plate and does not cut it
   f.conAsse = true;
   f.asse_neutro = {trovati[0], trovati[1]};
   PuntoPiano &a = f.asse_neutro[0], &b = f.asse_neutro[1];

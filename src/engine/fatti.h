@@ -7,18 +7,20 @@
 
 #include "engine/lavoro.h"
 
-struct PuntoPiano { double z = 0, y = 0; };
+struct PuntoPiano {
+  double z = 0, y = 0;
+};
 
 struct FattiSestetto {
-  double pressione_max = 0;                  // N/mm2, positive
-  double area_compressa = 0;                 // per cent of the plate
-  bool conAsse = false;                      // the neutral axis cuts the plate
-  std::array<PuntoPiano, 2> asse_neutro;     // where it cuts the edges; lower z first, then lower y
+  double pressione_max = 0;               // N/mm2, positive
+  double area_compressa = 0;              // per cent of the plate
+  bool conAsse = false;                   // the neutral axis cuts the plate
+  std::array<PuntoPiano, 2> asse_neutro;  // where it cuts the edges; lower z first, then lower y
   bool conRisultante = false;
-  double risultante_kN = 0;                  // of the pressure less the displaced concrete; negative
+  double risultante_kN = 0;  // of the pressure less the displaced concrete; negative
   PuntoPiano risultante;
-  double residuo_percento = 0;               // largest of the three equilibrium errors, re-integrated
-  int iterazioni = 0;                        // of the solver, at its stop
+  double residuo_percento = 0;  // largest of the three equilibrium errors, re-integrated
+  int iterazioni = 0;           // of the solver, at its stop
 };
 FattiSestetto Fatti(const Lavoro& l, int s);
 
@@ -28,4 +30,4 @@ struct PoligonoCompresso {
   PuntoPiano v[8];
 };
 PoligonoCompresso ParteCompressa(const Lavoro& l, int s);
-double PressioneNelPunto(const Lavoro& l, int s, PuntoPiano p);    // N/mm2, negative in compression; positive: the plate lifts
+double PressioneNelPunto(const Lavoro& l, int s, PuntoPiano p);  // N/mm2, negative in compression; positive: the plate lifts

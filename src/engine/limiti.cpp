@@ -31,7 +31,10 @@ LimitiTA CalcolaLimitiTA(const Nodo& nodo, int s, double CoeffRifollamento) {
 }
 
 namespace {
-struct Famiglia { const char* grado; BetaSaldature beta; };
+struct Famiglia {
+  const char* grado;
+  BetaSaldature beta;
+};
 }  // namespace
 
 // clang-format off
@@ -70,7 +73,7 @@ static constexpr CoeffSaldatura COEFFICIENTI[] = {
 };
 
 CoeffSaldatura CoefficientiDi(const MatAcciaio& acciaio) {
-  for (const CoeffSaldatura& c : COEFFICIENTI)       // as the catalogue writes it: no copy of the name a sextet
+  for (const CoeffSaldatura& c : COEFFICIENTI)  // as the catalogue writes it: no copy of the name a sextet
     if (acciaio.Nome == c.Nome) return c;
   const std::string nome = Maiuscolo(acciaio.Nome);
   for (const CoeffSaldatura& c : COEFFICIENTI)

@@ -152,7 +152,7 @@ static void LimitiSestetto(Lavoro& l, int s) {
   if (l.TipoVer != MetodoTA) return TensioniEquivalentiSaldature(l, s);
   LimitiTA& t = l.limitiTA[s];
   t = CalcolaLimitiTA(*l.nodo, s, l.CoeffRifollamento);
-  l.ris.TadRd = t.TadRd = MinDi(l.verifica.AreaTf * t.SAdmTir / 100, l.ris.TadRd);     // a running minimum over the sextets (safe)
+  l.ris.TadRd = t.TadRd = MinDi(l.verifica.AreaTf * t.SAdmTir / 100, l.ris.TadRd);  // a running minimum over the sextets (safe)
   RapportiSaldatureTA(l, s, t.SAdmSald);
 }
 

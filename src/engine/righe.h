@@ -12,16 +12,16 @@ enum class Elementi : unsigned char { Nodo, Tirafondi, Saldature };
 
 struct Criterio {
   const char* id;
-  const char* nome;                              // Italian, for a person
+  const char* nome;  // Italian, for a person
   Grandezza grandezza;
-  const char* clausola;                          // source of the limit
+  const char* clausola;  // source of the limit
   Elementi elementi;
-  bool (*presente)(const Lavoro& l, int e);      // the check has a row for element e; null: always
-  double (*domanda)(const Lavoro& l, int s, int e);      // before any rounding
-  double (*arrotonda)(double);                   // to the number that is compared; null: as it is
+  bool (*presente)(const Lavoro& l, int e);          // the check has a row for element e; null: always
+  double (*domanda)(const Lavoro& l, int s, int e);  // before any rounding
+  double (*arrotonda)(double);                       // to the number that is compared; null: as it is
   double (*limite)(const Lavoro& l, int s, int e);
   bool (*passa)(double domanda, double limite);
-  bool quadrato = false;                         // the demand is a sum of squares: its root ranks it among the others
+  bool quadrato = false;  // the demand is a sum of squares: its root ranks it among the others
 };
 
 // Positions in the tables.
@@ -34,7 +34,7 @@ std::span<const Criterio> Criteri(int metodo);
 void Giudica(Lavoro& l);
 
 std::span<const RigaControllo> RigheSestetto(const Lavoro& l, int s);
-std::span<const RigaControllo> RigheCriterio(const Lavoro& l, int s, int criterio);    // empty: the joint has none
+std::span<const RigaControllo> RigheCriterio(const Lavoro& l, int s, int criterio);  // empty: the joint has none
 
 // The weld is on the list of the allowable-stress method: the inner ones of the ribs (9 and 19) only where they are made.
 bool SaldaturaElencata(const Nodo& nodo, int w);

@@ -15,7 +15,7 @@ static std::string Intestazione() {
   std::string riga = "Unità di misura: " + suite.UnitaForze;
   const std::size_t colonne = NumCaratteri(riga);
   riga.append((colonne + COLONNE_ZONA - 1) / COLONNE_ZONA * COLONNE_ZONA - colonne, ' ');
-  return riga + suite.UnitaLung;             // the length unit, though moments follow: their unit is the force's times it only in jobs that are set so
+  return riga + suite.UnitaLung;  // the length unit, though moments follow: their unit is the force's times it only in jobs that are set so
 }
 
 // One group; false: a value overflows in the user's unit, an arithmetic fault.

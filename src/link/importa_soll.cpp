@@ -16,12 +16,12 @@
 #include "link/collegamento.h"
 #include "model/stato.h"
 
-constexpr std::int64_t RECORD = 56;          // bytes
-constexpr std::int64_t VALORI = 8;           // byte of a record at which its six values begin
-constexpr std::int64_t BLOCCO = 4096;        // records read at once
+constexpr std::int64_t RECORD = 56;    // bytes
+constexpr std::int64_t VALORI = 8;     // byte of a record at which its six values begin
+constexpr std::int64_t BLOCCO = 4096;  // records read at once
 constexpr int RIGHE_INVILUPPO = 12;
-constexpr double ESTREMO = 1E20;             // what a row of the envelope holds until a sextet beats it
-constexpr int ESPONENTE_MASSIMO = 1000;      // a value of 2^1000 or more cannot be rounded, and is no load
+constexpr double ESTREMO = 1E20;         // what a row of the envelope holds until a sextet beats it
+constexpr int ESPONENTE_MASSIMO = 1000;  // a value of 2^1000 or more cannot be rounded, and is no load
 
 namespace {
 struct Sestetto {
@@ -42,7 +42,7 @@ struct FileRisultati {
 }  // namespace
 
 template <class T>
-static T DaByte(const char* byte) {                 // little-endian, whatever the machine
+static T DaByte(const char* byte) {  // little-endian, whatever the machine
   unsigned char b[sizeof(T)];
   std::memcpy(b, byte, sizeof b);
   if constexpr (std::endian::native == std::endian::big) std::reverse(b, b + sizeof b);
@@ -59,7 +59,7 @@ static bool LeggiByte(FileRisultati& f, std::int64_t posto, char* byte, std::int
 
 static bool Apri(FileRisultati& f, const std::string& percorso) {
   if (!EsisteFile(percorso)) return false;
-  f.file.rdbuf()->pubsetbuf(nullptr, 0);     // few bytes at many places: nothing is read ahead
+  f.file.rdbuf()->pubsetbuf(nullptr, 0);  // few bytes at many places: nothing is read ahead
   f.file.open(RisolviPercorso(percorso), std::ios::binary | std::ios::ate);
   if (!f.file) return false;
   f.lunghezza = f.file.tellg();
@@ -76,7 +76,7 @@ static std::int64_t PostoRecord(const FileRisultati& f, std::int64_t p, std::int
   const std::int64_t record = f.lunghezza / RECORD;
   if (f.NumSezioni <= 0 || f.NumSestettiFile <= 0 || p < 0) return -1;
   const std::int64_t perAsta = static_cast<std::int64_t>(f.NumSezioni) * f.NumSestettiFile;
-  if (p > 0 && perAsta > record / p) return -1;             // the product below stays within 64 bits
+  if (p > 0 && perAsta > record / p) return -1;  // the product below stays within 64 bits
   const std::int64_t n = p * perAsta + (q - 1) * f.NumSestettiFile + t;
   return n < record ? n * RECORD : -1;
 }
@@ -109,7 +109,7 @@ static bool Decifra(const char* b, std::int16_t lato, Sestetto& s) {
   }
   s = {Arrotonda1(v[0]), Arrotonda1(v[1]), Arrotonda1(v[2]), ArrotondaPari(v[3], 0), ArrotondaPari(v[4], 0), ArrotondaPari(v[5], 0)};
   if (lato == 2) s.Ty = -s.Ty;
-  for (double* v : {&s.N, &s.Ty, &s.Tz, &s.Mt, &s.My, &s.Mz}) *v += 0.0;   // no negative zero in the list
+  for (double* v : {&s.N, &s.Ty, &s.Tz, &s.Mt, &s.My, &s.Mz}) *v += 0.0;  // no negative zero in the list
   return true;
 }
 
@@ -148,7 +148,7 @@ namespace {
 // How often the list of sextets asks for each: its zeros for all of them, any other number for one.
 struct Richieste {
   int tutti = 0;
-  std::vector<int> uno;                      // by sextet
+  std::vector<int> uno;  // by sextet
   Richieste() {
     for (int i = 1; i <= collegamento.NumSestettiStr; ++i) {
       const std::int16_t n = collegamento.SestettiStr[i];
@@ -163,7 +163,7 @@ struct Richieste {
 };
 }  // namespace
 
-static void Conta(std::int32_t& n, int quanti) {    // a file may hold more than the counts do
+static void Conta(std::int32_t& n, int quanti) {  // a file may hold more than the counts do
   n = static_cast<std::int32_t>(std::min<std::int64_t>(std::numeric_limits<std::int32_t>::max(), std::int64_t{n} + quanti));
 }
 
@@ -199,7 +199,7 @@ static bool PrendiAsta(FileRisultati& f, const Richieste& r, int i, const std::s
       const int volte = r.Volte(da + k + 1);
       if (volte == 0) continue;
       const char* const record = byte.data() + k * RECORD;
-      const bool ripetuto = k > 0 && r.tutti > 0 && StessiValori(record, record - RECORD);   // beats no row that the one before it did not
+      const bool ripetuto = k > 0 && r.tutti > 0 && StessiValori(record, record - RECORD);  // beats no row that the one before it did not
       Conta(c.Letti, 1);
       if (!ripetuto) valido = Decifra(record, c.LatoAsta[i], s);
       if (!valido) continue;
@@ -250,5 +250,5 @@ void ImportaSollecitazioni(bool maxMin) {
     const bool condizione = k > c.NumCasiStr;
     avanti = ImportaFile(condizione, condizione ? c.CondStr[k - c.NumCasiStr] : c.CasiStr[k], maxMin);
   }
-  for (int s = 1; avanti && s <= nodo.NumSoll; ++s) nodo.SollCC[s] = 0;   // also the rows that were there before
+  for (int s = 1; avanti && s <= nodo.NumSoll; ++s) nodo.SollCC[s] = 0;  // also the rows that were there before
 }

@@ -7,7 +7,7 @@
 #pragma once
 #include <string>
 
-std::string NomeFileRisultati(bool condizione, int numero);   // "astec007.bin", "aste_012.bin"
+std::string NomeFileRisultati(bool condizione, int numero);  // "astec007.bin", "aste_012.bin"
 
 // Reads the sextets of AsteNodo x SestettiStr from the cases and conditions of collegamento. maxMin false: appended to the list; true: the list
 // becomes twelve rows, largest and smallest N, Tz, Ty, My, Mz, Mt. SollCC of every row becomes 0 at a regular end. A missing file or too many sextets shows

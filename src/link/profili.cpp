@@ -24,7 +24,7 @@ struct Derivato {
 
 // Words behind family and size, one letter a word: S Area, 1 2 t the second moments, c class, H B A E R, r R2, x Xc, y Yc, - skipped.
 struct Layout {
-  const char* famiglie;            // a blank on each side
+  const char* famiglie;  // a blank on each side
   const char* parole;
   Derivato derivati[2];
 };
@@ -96,14 +96,14 @@ static void Scala(Sezione& sez, double fattLung, double fattArea) {
   }
 }
 
-int LeggiProfili(std::string_view percorso, int primo, Sezione* tabella, double fattLung, double fattArea,
-                 std::string_view filtro, std::string_view nome) {
+int LeggiProfili(std::string_view percorso, int primo, Sezione* tabella, double fattLung, double fattArea, std::string_view filtro,
+                 std::string_view nome) {
   FileLettura f;
   if (primo < 1 || !ApriLettura(f, percorso)) return 0;
   int i = primo;
   std::string riga;
   while (i <= MaxProfili) {
-    if (!LeggiRiga(f, riga)) {     // no end line: nothing is kept
+    if (!LeggiRiga(f, riga)) {  // no end line: nothing is kept
       std::fill(tabella + primo, tabella + i, Sezione{});
       return 0;
     }

@@ -32,9 +32,10 @@ static bool EseguiRicerca(const std::string& programma, const std::string& segui
 }
 
 void CercaElemento(const std::string& titolo, std::string& campo, int tipo, bool primoSolo, const std::string& lavoro) {
-  if (lavoro.find_first_of("/\\") != std::string::npos || Contiene(lavoro, "..")) return;   // a neighbour of this job, nothing else
+  if (lavoro.find_first_of("/\\") != std::string::npos || Contiene(lavoro, "..")) return;  // a neighbour of this job, nothing else
   std::string cartella = suite.DirLavoro;
-  if (!lavoro.empty()) cartella = PrimiCaratteri(cartella, NumCaratteri(cartella) - std::min<std::size_t>(6, NumCaratteri(cartella))) + lavoro;
+  if (!lavoro.empty())
+    cartella = PrimiCaratteri(cartella, NumCaratteri(cartella) - std::min<std::size_t>(6, NumCaratteri(cartella))) + lavoro;
   EliminaFile(cartella + RISPOSTA);
   ScriviDomanda(cartella + "\\SondaIn.txt", {std::string(Rifila(titolo)), std::string(Rifila(campo)), std::to_string(tipo)}, "ATTENZIONE!");
   if (!EseguiRicerca("\\Sonda.exe", lavoro.empty() ? "" : " |Lavoro=" + std::string(Rifila(lavoro)) + "|")) return;
@@ -54,7 +55,7 @@ NodoCercato CercaNodi(const std::string& titolo) {
   if (!ApriLettura(f, suite.DirLavoro + RISPOSTA)) return r;
   r.risposta = true;
   std::int16_t primo = 0;
-  LeggiValore(f, r.tipo);                    // two kinds: the last one stands
+  LeggiValore(f, r.tipo);  // two kinds: the last one stands
   LeggiValore(f, r.tipo);
   LeggiValore(f, r.nodo);
   LeggiValore(f, primo);
@@ -64,7 +65,7 @@ NodoCercato CercaNodi(const std::string& titolo) {
   return r;
 }
 
-constexpr std::int32_t NESSUNA = 0;          // bars are numbered from 1
+constexpr std::int32_t NESSUNA = 0;  // bars are numbered from 1
 
 // Number of each node asked for, by its name: in the selection a node goes by its last value, its bars' ends by the first. Of two with one
 // name the last.
@@ -85,7 +86,8 @@ static bool Passa(const AstaStruttura& a, const FiltroAste& filtro) {
 }
 
 // The bar of each of these nodes, by the node's number.
-static std::unordered_map<double, std::int32_t> PrimeAste(LettoreStruttura& l, const FiltroAste& filtro, const std::unordered_map<double, double>& nodi) {
+static std::unordered_map<double, std::int32_t> PrimeAste(LettoreStruttura& l, const FiltroAste& filtro,
+                                                          const std::unordered_map<double, double>& nodi) {
   std::unordered_map<double, std::int32_t> prime;
   for (const auto& [nome, numero] : nodi) prime.emplace(numero, NESSUNA);
   InizioBlocco(l);
@@ -108,13 +110,13 @@ void CercaAste(std::span<const std::int16_t> nodi, const FiltroAste& filtro, std
   const auto perNome = NodiPerNome(l, nodi);
   const auto prime = PrimeAste(l, filtro, perNome);
   for (std::size_t k = 0; k < nodi.size(); ++k) {
-    if (k > 0 && l.vecchia) AvvisaVersione();      // each node says it anew
+    if (k > 0 && l.vecchia) AvvisaVersione();  // each node says it anew
     const auto numero = perNome.find(nodi[k]);
     if (numero == perNome.end()) continue;
     const std::int32_t asta = prime.at(numero->second);
     if (asta == NESSUNA) {
-      Messaggio("Non esiste nessuna asta corrispondente alle caratteristiche selezionate che concorra nel nodo " + std::to_string(nodi[k]), TitoloProg,
-                Icona::Esclamazione);
+      Messaggio("Non esiste nessuna asta corrispondente alle caratteristiche selezionate che concorra nel nodo " + std::to_string(nodi[k]),
+                TitoloProg, Icona::Esclamazione);
       return;
     }
     lista += std::to_string(asta) + ",";

@@ -12,7 +12,7 @@
 
 constexpr const char* STRUTTURA = "\\struttur.str";
 constexpr const char* SEZIONI = "\\sezioni_";
-constexpr int RIGHE_SEZIONE = 4;             // lines of a section record behind its three values, not read
+constexpr int RIGHE_SEZIONE = 4;  // lines of a section record behind its three values, not read
 
 static void FileErrato(const std::string& percorso, Icona icona) {
   Messaggio("Errore: file " + percorso + " errato o mancante.", "ERRORE", icona);
@@ -65,7 +65,7 @@ static EsitoAste PerOgniSezione(const std::string& percorso, Procedura procedura
   return EsitoAste::Trovate;
 }
 
-static bool TogliPrefisso(std::string& nome) {      // "P_" marks a section of the library
+static bool TogliPrefisso(std::string& nome) {  // "P_" marks a section of the library
   if (!nome.starts_with("P_")) return false;
   nome.erase(0, 2);
   return true;
@@ -141,7 +141,7 @@ bool ApriStruttura(LettoreStruttura& l, std::string_view nomeFile, PrimoBlocco m
   std::string riga;
   LeggiRiga(l.file, riga);
   ControllaVersione(riga, l);
-  std::string testa = PrimiCaratteri(riga, 20);           // the counter stands in the first 20 characters
+  std::string testa = PrimiCaratteri(riga, 20);  // the counter stands in the first 20 characters
   for (std::int32_t n = InteroDaToken(testa); n > 0 && !FineFile(l.file); --n) {
     if (modo == PrimoBlocco::Righe) {
       LeggiRiga(l.file, riga);
@@ -182,7 +182,8 @@ bool ProssimaAsta(LettoreStruttura& l, AstaStruttura& a) {
 
 static void SaltaNodi(LettoreStruttura& l) {
   InizioBlocco(l);
-  for (NodoStruttura n; ProssimoNodo(l, n);) {}
+  for (NodoStruttura n; ProssimoNodo(l, n);) {
+  }
   InizioBlocco(l);
 }
 
@@ -205,7 +206,9 @@ int ProfiloDaAsta(std::int16_t asta) {
   if (numero < 0) return 0;
   std::string nome;
   const std::string percorso = suite.DirLavoro + SEZIONI;
-  if (PerOgniSezione(percorso, [&](const SezioneFile& s) { if (s.numero == numero) nome = s.nome; }) == EsitoAste::Fallito) {
+  if (PerOgniSezione(percorso, [&](const SezioneFile& s) {
+        if (s.numero == numero) nome = s.nome;
+      }) == EsitoAste::Fallito) {
     FileErrato(percorso, Icona::Esclamazione);
     return 0;
   }
@@ -248,7 +251,8 @@ EsitoAste SezioniAsteNodo() {
   for (int i = 1; i <= collegamento.NumAsteNodo; ++i) collegamento.SezioniStr[i] = {};
   const Posizioni sezioni(collegamento.SezAsteNodo, collegamento.NumAsteNodo);
   const EsitoAste esito = PerOgniSezione(percorso, [&](const SezioneFile& s) {
-    for (auto v = sezioni.Prima(s.numero); v != sezioni.voci.end() && v->first == s.numero; ++v) collegamento.SezioniStr[v->second].Nome = s.nome;
+    for (auto v = sezioni.Prima(s.numero); v != sezioni.voci.end() && v->first == s.numero; ++v)
+      collegamento.SezioniStr[v->second].Nome = s.nome;
   });
   if (esito == EsitoAste::Fallito) FileErrato(percorso, Icona::Nessuna);
   if (esito != EsitoAste::Trovate) return esito;
@@ -297,7 +301,8 @@ bool CondizioniStruttura(std::int32_t& n) {
   LettoreStruttura l;
   if (!ApriStruttura(l, "\\STRUTTUR.STR", PrimoBlocco::Righe)) return false;
   SaltaNodi(l);
-  for (AstaStruttura a; ProssimaAsta(l, a);) {}
+  for (AstaStruttura a; ProssimaAsta(l, a);) {
+  }
   std::string riga;
   LeggiRiga(l.file, riga);
   n = InteroDaToken(riga);

@@ -27,11 +27,12 @@ static void NumeriCatalogo(std::string riga, Record& m, std::initializer_list<do
 
 static void LeggiAcciaio(FileLettura& f, MatAcciaio& m) {
   std::string riga;
-  LeggiRiga(f, m.Nome);            // name and reference as they stand, blanks included
+  LeggiRiga(f, m.Nome);  // name and reference as they stand, blanks included
   LeggiRiga(f, m.Norma);
   if (!LeggiRiga(f, riga)) return;
-  NumeriCatalogo(riga, m, {&MatAcciaio::SAmm, &MatAcciaio::SAmm40, &MatAcciaio::Fyk, &MatAcciaio::Ftk, &MatAcciaio::Fyk40,
-                           &MatAcciaio::Ftk40, &MatAcciaio::GammaM, &MatAcciaio::GammaMT});
+  NumeriCatalogo(riga, m,
+                 {&MatAcciaio::SAmm, &MatAcciaio::SAmm40, &MatAcciaio::Fyk, &MatAcciaio::Ftk, &MatAcciaio::Fyk40, &MatAcciaio::Ftk40,
+                  &MatAcciaio::GammaM, &MatAcciaio::GammaMT});
 }
 
 // The entries of two lines: the name, trimmed, then the numbers.
@@ -62,7 +63,8 @@ static void LeggiAcciaioCA(FileLettura& f, MatCA& m) {
 
 // Count and entries of a section. A bad count stays as it was; entries beyond the table are read into a record that is dropped.
 template <class Record>
-static void LeggiSezione(FileLettura& f, std::int16_t& conteggio, Record (&tabella)[MaxMateriali + 1], void (*leggi)(FileLettura&, Record&)) {
+static void LeggiSezione(FileLettura& f, std::int16_t& conteggio, Record (&tabella)[MaxMateriali + 1],
+                         void (*leggi)(FileLettura&, Record&)) {
   std::string riga;
   if (!LeggiRiga(f, riga)) return;
   double n = conteggio;
@@ -103,9 +105,9 @@ static void GradoNonStandard(const char* testo, std::string& nome, const std::st
 }
 
 constexpr const char* TESTO_CLS_PERSONALIZZATO =
-    "Non è possibile utilizzare una classe personalizzata per il calcestruzzo. Impostare una classe standard";
+  "Non è possibile utilizzare una classe personalizzata per il calcestruzzo. Impostare una classe standard";
 constexpr const char* TESTO_ACC_PERSONALIZZATO =
-    "Non è possibile utilizzare una tipo di acciaio personalizzato. Impostare un tipo standard";
+  "Non è possibile utilizzare una tipo di acciaio personalizzato. Impostare un tipo standard";
 
 static bool NomeCls(const std::string& valore, const int*) {
   materiali.MatBaseCls.Nome = valore;
@@ -152,41 +154,45 @@ struct ChiaveMat {
   double MatCls::*cls = nullptr;
   MatAcciaio Materiali::*acc = nullptr;
   double MatAcciaio::*campo = nullptr;
-  bool (*regola)(const std::string& valore, const int* indici) = nullptr;   // false: fault of the bracket
+  bool (*regola)(const std::string& valore, const int* indici) = nullptr;  // false: fault of the bracket
 };
 }  // namespace
 
 static constexpr ChiaveMat ChiaveCls(const char* chiave, double MatCls::*campo) { return {chiave, campo}; }
-static constexpr ChiaveMat ChiaveAcc(const char* chiave, MatAcciaio Materiali::*acc, double MatAcciaio::*campo) { return {chiave, nullptr, acc, campo}; }
-static constexpr ChiaveMat ChiaveRegola(const char* chiave, bool (*regola)(const std::string&, const int*)) { return {chiave, nullptr, nullptr, nullptr, regola}; }
+static constexpr ChiaveMat ChiaveAcc(const char* chiave, MatAcciaio Materiali::*acc, double MatAcciaio::*campo) {
+  return {chiave, nullptr, acc, campo};
+}
+static constexpr ChiaveMat ChiaveRegola(const char* chiave, bool (*regola)(const std::string&, const int*)) {
+  return {chiave, nullptr, nullptr, nullptr, regola};
+}
 
 constexpr ChiaveMat CHIAVI[] = {
-    ChiaveRegola("CLS_CLASSE", NomeCls),
-    ChiaveCls("VALORECALCOLATO_CLS_RCK", &MatCls::Rck),
-    ChiaveCls("CLS_COEFFICIENTE_GAMMAC", &MatCls::GammaC),
-    ChiaveCls("VALORECALCOLATO_CLS_FCK", &MatCls::Fck),
-    ChiaveCls("VALORECALCOLATO_CLS_ALFACC", &MatCls::AlfaCC),
-    ChiaveCls("VALORECALCOLATO_CLS_FCD", &MatCls::Fcd),
-    ChiaveCls("VALORECALCOLATO_CLS_ECM", &MatCls::Ecm),
-    ChiaveCls("VALORECALCOLATO_CLS_SAMM", &MatCls::SAmm),
-    ChiaveRegola("ACC_CARP_1_TIPO", NomeAcc1),
-    ChiaveRegola("ACC_CARP_MODULODIELASTICITA_E", ModuloE),
-    ChiaveRegola("ACC_CARP_COEFFICIENTE_GAMMAM", GammaM),
-    ChiaveAcc("VALORECALCOLATO_ACC_CARP_1_FYK_SP_MIN_40", &Materiali::MatBaseAcc1, &MatAcciaio::Fyk),
-    ChiaveAcc("VALORECALCOLATO_ACC_CARP_1_FTK_SP_MIN_40", &Materiali::MatBaseAcc1, &MatAcciaio::Ftk),
-    ChiaveAcc("VALORECALCOLATO_ACC_CARP_1_FYD_SP_MIN_40", &Materiali::MatBaseAcc1, &MatAcciaio::Fyd),
-    ChiaveAcc("VALORECALCOLATO_ACC_CARP_1_FYK_SP_MIN_80", &Materiali::MatBaseAcc1, &MatAcciaio::Fyk40),
-    ChiaveAcc("VALORECALCOLATO_ACC_CARP_1_FTK_SP_MIN_80", &Materiali::MatBaseAcc1, &MatAcciaio::Ftk40),
-    ChiaveAcc("VALORECALCOLATO_ACC_CARP_1_FYD_SP_MIN_80", &Materiali::MatBaseAcc1, &MatAcciaio::Fyd40),
-    ChiaveAcc("VALORECALCOLATO_ACC_CARP_1_SAMM", &Materiali::MatBaseAcc1, &MatAcciaio::SAmm),
-    ChiaveRegola("ACC_CARP_2_TIPO", NomeAcc2),
-    ChiaveAcc("VALORECALCOLATO_ACC_CARP_2_FYK_SP_MIN_40", &Materiali::MatBaseAcc2, &MatAcciaio::Fyk),
-    ChiaveAcc("VALORECALCOLATO_ACC_CARP_2_FTK_SP_MIN_40", &Materiali::MatBaseAcc2, &MatAcciaio::Ftk),
-    ChiaveAcc("VALORECALCOLATO_ACC_CARP_2_FYD_SP_MIN_40", &Materiali::MatBaseAcc2, &MatAcciaio::Fyd),
-    ChiaveAcc("VALORECALCOLATO_ACC_CARP_2_FYK_SP_MIN_80", &Materiali::MatBaseAcc2, &MatAcciaio::Fyk40),
-    ChiaveAcc("VALORECALCOLATO_ACC_CARP_2_FTK_SP_MIN_80", &Materiali::MatBaseAcc2, &MatAcciaio::Ftk40),
-    ChiaveAcc("VALORECALCOLATO_ACC_CARP_2_FYD_SP_MIN_80", &Materiali::MatBaseAcc2, &MatAcciaio::Fyd40),
-    ChiaveAcc("VALORECALCOLATO_ACC_CARP_2_SAMM", &Materiali::MatBaseAcc2, &MatAcciaio::SAmm),
+  ChiaveRegola("CLS_CLASSE", NomeCls),
+  ChiaveCls("VALORECALCOLATO_CLS_RCK", &MatCls::Rck),
+  ChiaveCls("CLS_COEFFICIENTE_GAMMAC", &MatCls::GammaC),
+  ChiaveCls("VALORECALCOLATO_CLS_FCK", &MatCls::Fck),
+  ChiaveCls("VALORECALCOLATO_CLS_ALFACC", &MatCls::AlfaCC),
+  ChiaveCls("VALORECALCOLATO_CLS_FCD", &MatCls::Fcd),
+  ChiaveCls("VALORECALCOLATO_CLS_ECM", &MatCls::Ecm),
+  ChiaveCls("VALORECALCOLATO_CLS_SAMM", &MatCls::SAmm),
+  ChiaveRegola("ACC_CARP_1_TIPO", NomeAcc1),
+  ChiaveRegola("ACC_CARP_MODULODIELASTICITA_E", ModuloE),
+  ChiaveRegola("ACC_CARP_COEFFICIENTE_GAMMAM", GammaM),
+  ChiaveAcc("VALORECALCOLATO_ACC_CARP_1_FYK_SP_MIN_40", &Materiali::MatBaseAcc1, &MatAcciaio::Fyk),
+  ChiaveAcc("VALORECALCOLATO_ACC_CARP_1_FTK_SP_MIN_40", &Materiali::MatBaseAcc1, &MatAcciaio::Ftk),
+  ChiaveAcc("VALORECALCOLATO_ACC_CARP_1_FYD_SP_MIN_40", &Materiali::MatBaseAcc1, &MatAcciaio::Fyd),
+  ChiaveAcc("VALORECALCOLATO_ACC_CARP_1_FYK_SP_MIN_80", &Materiali::MatBaseAcc1, &MatAcciaio::Fyk40),
+  ChiaveAcc("VALORECALCOLATO_ACC_CARP_1_FTK_SP_MIN_80", &Materiali::MatBaseAcc1, &MatAcciaio::Ftk40),
+  ChiaveAcc("VALORECALCOLATO_ACC_CARP_1_FYD_SP_MIN_80", &Materiali::MatBaseAcc1, &MatAcciaio::Fyd40),
+  ChiaveAcc("VALORECALCOLATO_ACC_CARP_1_SAMM", &Materiali::MatBaseAcc1, &MatAcciaio::SAmm),
+  ChiaveRegola("ACC_CARP_2_TIPO", NomeAcc2),
+  ChiaveAcc("VALORECALCOLATO_ACC_CARP_2_FYK_SP_MIN_40", &Materiali::MatBaseAcc2, &MatAcciaio::Fyk),
+  ChiaveAcc("VALORECALCOLATO_ACC_CARP_2_FTK_SP_MIN_40", &Materiali::MatBaseAcc2, &MatAcciaio::Ftk),
+  ChiaveAcc("VALORECALCOLATO_ACC_CARP_2_FYD_SP_MIN_40", &Materiali::MatBaseAcc2, &MatAcciaio::Fyd),
+  ChiaveAcc("VALORECALCOLATO_ACC_CARP_2_FYK_SP_MIN_80", &Materiali::MatBaseAcc2, &MatAcciaio::Fyk40),
+  ChiaveAcc("VALORECALCOLATO_ACC_CARP_2_FTK_SP_MIN_80", &Materiali::MatBaseAcc2, &MatAcciaio::Ftk40),
+  ChiaveAcc("VALORECALCOLATO_ACC_CARP_2_FYD_SP_MIN_80", &Materiali::MatBaseAcc2, &MatAcciaio::Fyd40),
+  ChiaveAcc("VALORECALCOLATO_ACC_CARP_2_SAMM", &Materiali::MatBaseAcc2, &MatAcciaio::SAmm),
 };
 
 // The integers of a bracket: leading numbers, fractions cut off.
@@ -213,7 +219,8 @@ void LeggiMaterialiCatalogo(const std::string& path, std::string& errore) {
   while (!FineFile(f)) {
     if (!LeggiRiga(f, riga)) return;
     riga = Maiuscolo(riga);
-    const auto* sez = std::find_if(std::begin(SEZIONI), std::end(SEZIONI), [&](const SezioneCatalogo& s) { return Contiene(riga, s.titolo); });
+    const auto* sez =
+      std::find_if(std::begin(SEZIONI), std::end(SEZIONI), [&](const SezioneCatalogo& s) { return Contiene(riga, s.titolo); });
     if (sez != std::end(SEZIONI)) sez->leggi(f);
   }
 }
@@ -257,7 +264,7 @@ bool DecifraRigaMatBase(const std::string& riga) {
 
 int CercaChiave(std::string_view riga, std::string_view chiave, std::string& valore, int (&indici)[MaxIndiciChiave]) {
   const std::string_view rifilata = Rifila(riga);
-  const std::string minuscola = Minuscolo(rifilata);     // case changes no length in UTF-8: Latin-1 letters only
+  const std::string minuscola = Minuscolo(rifilata);  // case changes no length in UTF-8: Latin-1 letters only
   const std::string cercato = "[" + Minuscolo(chiave);
   const std::size_t pos = minuscola.find(cercato);
   if (pos == std::string::npos) return 0;

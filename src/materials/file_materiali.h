@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-constexpr const char* FILE_CATALOGO = "\\MaterialiNTC08.tx1";      // behind DirCustom
-constexpr const char* FILE_MAT_LAVORO = "\\propmateriali.tx1";     // behind DirLavoro
-constexpr int MaxIndiciChiave = 5;                                 // integers in the brackets of a key
+constexpr const char* FILE_CATALOGO = "\\MaterialiNTC08.tx1";   // behind DirCustom
+constexpr const char* FILE_MAT_LAVORO = "\\propmateriali.tx1";  // behind DirLavoro
+constexpr int MaxIndiciChiave = 5;                              // integers in the brackets of a key
 
 // Fills the five tables. Only a file that cannot be opened is a failure: errore gets the text of its box (title "ERRORE", critical).
 // A bad number leaves its field as it was; entries beyond 50 are read and dropped, the count stays as read.

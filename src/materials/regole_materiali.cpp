@@ -26,6 +26,4 @@ int IndiceMaterialeAlternativo(bool metodoTA, std::string_view ruolo, std::strin
   return 0;
 }
 
-std::string ImpostaValoreMat_(double valore, int decimali) {
-  return valore < 0 ? "-" : NumeroPiano(ArrotondaPari(valore, decimali));
-}
+std::string ImpostaValoreMat_(double valore, int decimali) { return valore < 0 ? "-" : NumeroPiano(ArrotondaPari(valore, decimali)); }

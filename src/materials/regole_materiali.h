@@ -11,8 +11,7 @@ bool MaterialeValido(bool metodoTA, std::string_view ruolo, const MatAcciaio& ma
 // The first usable grade of tabella[1..conteggio] with another name than selezione where one name contains the other: its table
 // index less 1, so that the record is result + 1; 0 if there is none. It counts table entries also where it serves as a
 // position in a filtered list: behind a dropped entry the list shows another grade than the one whose values count.
-int IndiceMaterialeAlternativo(bool metodoTA, std::string_view ruolo, std::string_view selezione, int conteggio,
-                               const MatAcciaio* tabella);
+int IndiceMaterialeAlternativo(bool metodoTA, std::string_view ruolo, std::string_view selezione, int conteggio, const MatAcciaio* tabella);
 
 // "-" for a negative value, otherwise the value rounded (ties to even) to so many decimals, in plain form.
 std::string ImpostaValoreMat_(double valore, int decimali);

@@ -7,7 +7,7 @@
 constexpr int MaxMateriali = 50;
 
 struct Materiali {
-  std::string FileMatBase;                              // path of the catalogue
+  std::string FileMatBase;  // path of the catalogue
   bool UsaViti = false, UsaTirafondi = true, UsaCls = true, UsaAccPiastre = false, SezChiuse = false;
 
   std::int16_t NumAcciai = 0, NumAcciaiChiusi = 0, NumViti = 0, NumCls = 0, NumAcciaiCA = 0;
@@ -16,11 +16,11 @@ struct Materiali {
   MatCls ClsBase[MaxMateriali + 1];
   MatCA AcciaiCABase[MaxMateriali + 1];
 
-  bool MatDaBase = false;                               // the job's own material file was read
+  bool MatDaBase = false;  // the job's own material file was read
   MatAcciaio MatBaseAcc1, MatBaseAcc2;
   MatCls MatBaseCls;
-  double ModuloEBase = 0;                               // steel modulus, the file's value / 10
-  double GammaMBase[4 + 1] = {};                        // [1..4]
+  double ModuloEBase = 0;         // steel modulus, the file's value / 10
+  double GammaMBase[4 + 1] = {};  // [1..4]
 
   // Grades remembered across a change of method: column TA, column SLU, anchors TA, anchors SLU.
   MatAcciaio MemoriaMateriali[4];

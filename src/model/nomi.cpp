@@ -10,7 +10,7 @@
 static_assert(std::is_standard_layout_v<Sezione> && std::is_standard_layout_v<MatAcciaio> && std::is_standard_layout_v<MatCls> &&
               std::is_standard_layout_v<MatViti> && std::is_standard_layout_v<MatCA>);
 
-static std::string TestoReale(double v) {            // %.15g, whatever the locale
+static std::string TestoReale(double v) {  // %.15g, whatever the locale
   char a[40];
   const auto fine = std::to_chars(a, a + sizeof a, v, std::chars_format::general, 15);
   return std::string(a, fine.ptr);

@@ -18,28 +18,31 @@
 enum class GenereNome : unsigned char { Reale, Intero16, Intero32, Vero, Testo, Costante, Vista, Carattere, Elenco, Record };
 
 struct DimensioneNome {
-  int primo = 0, ultimo = -1;      // indices that a script may write
-  int origine = 0;                 // index of the array's first element
-  std::size_t passo = 0;           // bytes from an element to the next
+  int primo = 0, ultimo = -1;  // indices that a script may write
+  int origine = 0;             // index of the array's first element
+  std::size_t passo = 0;       // bytes from an element to the next
 };
 
 struct RigaNome {
   const char* nome = "";
   GenereNome genere = GenereNome::Reale;
-  const void* base = nullptr;      // of a variable: where it lives
-  std::size_t scarto = 0;          // of a record's field: bytes from the record's start
+  const void* base = nullptr;  // of a variable: where it lives
+  std::size_t scarto = 0;      // of a record's field: bytes from the record's start
   int numDim = 0;
   DimensioneNome dim[3] = {};
-  std::span<const RigaNome> campi = {};   // of a record: its fields
+  std::span<const RigaNome> campi = {};  // of a record: its fields
 };
 
 // First and last index of one dimension, where they differ from "as long as the array, from `primo`".
-struct IndiciNome { int primo = 1, origine = 0; };
-constexpr IndiciNome DA_0 = {0, 0};          // rows from 0
-constexpr IndiciNome DA_1 = {1, 0};          // index 0 is free and not offered
-constexpr IndiciNome PRIMA_1 = {1, 1};       // the array's first element is number 1
+struct IndiciNome {
+  int primo = 1, origine = 0;
+};
+constexpr IndiciNome DA_0 = {0, 0};     // rows from 0
+constexpr IndiciNome DA_1 = {1, 0};     // index 0 is free and not offered
+constexpr IndiciNome PRIMA_1 = {1, 1};  // the array's first element is number 1
 
-template <class T> consteval GenereNome GenereDi() {
+template <class T>
+consteval GenereNome GenereDi() {
   if constexpr (std::is_same_v<T, double>) return GenereNome::Reale;
   else if constexpr (std::is_same_v<T, std::int16_t>) return GenereNome::Intero16;
   else if constexpr (std::is_same_v<T, std::int32_t>) return GenereNome::Intero32;
@@ -52,7 +55,8 @@ template <class T> consteval GenereNome GenereDi() {
 }
 
 // The shape of a variable or field of type T: `prima` tells the first dimension, the others leave index 0 free.
-template <class T> constexpr RigaNome FormaNome(const char* nome, IndiciNome prima, std::span<const RigaNome> campi) {
+template <class T>
+constexpr RigaNome FormaNome(const char* nome, IndiciNome prima, std::span<const RigaNome> campi) {
   RigaNome r;
   r.nome = nome;
   r.genere = GenereDi<std::remove_const_t<std::remove_all_extents_t<T>>>();
@@ -97,6 +101,6 @@ constexpr RigaNome CampoNome(const char* nome, std::size_t scarto, IndiciNome pr
 
 using TabelleNomi = std::span<const std::span<const RigaNome>>;
 
-std::span<const RigaNome> NomiModello();     // joint, suite and materials
-std::span<const RigaNome> CampiSezione();    // fields of a Sezione, for records of other rooms
+std::span<const RigaNome> NomiModello();   // joint, suite and materials
+std::span<const RigaNome> CampiSezione();  // fields of a Sezione, for records of other rooms
 bool ValoreModello(std::string_view nome, std::string& valore, TabelleNomi altri = {});

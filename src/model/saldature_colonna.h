@@ -5,9 +5,13 @@
 
 constexpr int SALD_COLONNA = 8;
 
-struct Estremi { double zi, yi, zf, yf; };
+struct Estremi {
+  double zi, yi, zf, yf;
+};
 
-struct TrattiSaldature { Estremi tratti[SALD_COLONNA]; };   // welds 1 to 8
+struct TrattiSaldature {
+  Estremi tratti[SALD_COLONNA];
+};  // welds 1 to 8
 
 inline TrattiSaldature TrattiColonna(const Sezione& s) {
   const double H = s.H, B = s.B, a = s.A, e = s.E, r = s.R;

@@ -5,19 +5,24 @@
 #include "model/node_model.h"
 
 // Where an extra anchor stands: on the line of corner anchor n (1..4), or at mid side (0).
-struct PostoExtra { int z, y; };
+struct PostoExtra {
+  int z, y;
+};
 
 // Neighbouring anchors whose holes may overlap, compared along one axis only; a 0 ends the list.
-struct CoppiaFori { char asse; int a, b; };
+struct CoppiaFori {
+  char asse;
+  int a, b;
+};
 
 // Sides of the plate, as the plan shows them.
 enum LatoPiastra { SUPERIORE, DESTRO, INFERIORE, SINISTRO };
 
 struct SchemaTirafondi {
   int quanti;
-  PostoExtra extra[4];             // anchors 5..8
+  PostoExtra extra[4];  // anchors 5..8
   CoppiaFori fori[4];
-  int lato[4];                     // anchor added at each side of the plate, 0 none; the row there has three
+  int lato[4];  // anchor added at each side of the plate, 0 none; the row there has three
 };
 
 // clang-format off

@@ -5,15 +5,15 @@
 #include "model/node_model.h"
 
 constexpr const char* TitoloProg = "NODO COLONNA - PLINTO";
-constexpr int MaxProfili = 2000;   // library entries 1..2000
-constexpr int ProfiloBase = 32;    // library entry of a new joint
-constexpr int MaxDiam = 99;        // last row of the diameter table, rows from 0
-constexpr int NumParNodo = 28;     // drawing options 0..27
+constexpr int MaxProfili = 2000;  // library entries 1..2000
+constexpr int ProfiloBase = 32;   // library entry of a new joint
+constexpr int MaxDiam = 99;       // last row of the diameter table, rows from 0
+constexpr int NumParNodo = 28;    // drawing options 0..27
 
 struct Suite {
   std::string DirRoot, DirLavoro, DirProgra, DirDriver, DirCustom, Lavoro;  // as composed, with backslashes
-  std::string StrTmp;              // scratch text of the suite's programs; it holds nothing between two operations
-  char Decimale = '.';             // decimal mark of the user's locale, asked once by the host
+  std::string StrTmp;   // scratch text of the suite's programs; it holds nothing between two operations
+  char Decimale = '.';  // decimal mark of the user's locale, asked once by the host
 
   double AccelG = 0, NordGeo = 0;
   std::string UnitaLung, UnitaForze, UnitaMomenti, UnitaTensioni, UnitaSezioni, UnitaCarichi;

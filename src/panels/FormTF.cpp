@@ -114,7 +114,7 @@ constexpr RigaPannello RIGHE[] = {
 const Pannello FormTF = {"FormTF", RIGHE, true, &formTF.titolo, RileggiFormTF, Mostrato, nullptr, &formTF.aperto, &formTF.caricato};
 
 void RileggiFormTF() {
-  const int riga = nodo.TfDiamIdx - 1;       // each selection stores its row: read once
+  const int riga = nodo.TfDiamIdx - 1;  // each selection stores its row: read once
   for (Controllo* combo : {&formTF.Combo1, &formTF.Combo2}) {
     RiempiCombo(*combo);
     Preseleziona(*combo, riga);

@@ -11,12 +11,12 @@ struct StatoFormTF {
   bool aperto = false, caricato = false;
   std::string titolo = "Dimensioni tirafondi";
   Controllo SSTab1, PictureTF[2], Combo1, Combo2, GeoTfTxt[MaxGeoTf + 1], Label6[9], Label2[2], MatBulOK;
-  Controllo LGeo[MaxGeoTf + 1];    // captions beside the fields, same indices; L, R, L fuori plinto, Dist. bordo plinto are of Label6
-  Tela tela;                       // strokes on the panel itself: two half circles
+  Controllo LGeo[MaxGeoTf + 1];  // captions beside the fields, same indices; L, R, L fuori plinto, Dist. bordo plinto are of Label6
+  Tela tela;                     // strokes on the panel itself: two half circles
 };
 inline StatoFormTF formTF;
 extern const Pannello FormTF;
 
-void RileggiFormTF();              // combos and the fields of the current form from the model; also after a node was loaded
-void LeggiGeoTf();                 // fields of the current form, and its diameter, into the model
-void InsDati_DimTf(int);           // shows the panel modally
+void RileggiFormTF();     // combos and the fields of the current form from the model; also after a node was loaded
+void LeggiGeoTf();        // fields of the current form, and its diameter, into the model
+void InsDati_DimTf(int);  // shows the panel modally

@@ -16,9 +16,9 @@
 #include "panels/InsDati_eventi.h"
 #include "panels/valori.h"
 
-constexpr int MS_STATO = 800;              // rest of the pointer before the status line shows
-constexpr std::int32_t COLORE_SCHEDE = 0xFFFFD2;      // RGB(210, 255, 255)
-constexpr std::int32_t COLORE_VERSIONE = 0x6464FF;    // RGB(255, 100, 100)
+constexpr int MS_STATO = 800;                       // rest of the pointer before the status line shows
+constexpr std::int32_t COLORE_SCHEDE = 0xFFFFD2;    // RGB(210, 255, 255)
+constexpr std::int32_t COLORE_VERSIONE = 0x6464FF;  // RGB(255, 100, 100)
 constexpr std::int32_t COLORE_BIANCO = 0xFFFFFF;
 
 // ---- anchors ----
@@ -26,7 +26,7 @@ constexpr std::int32_t COLORE_BIANCO = 0xFFFFFF;
 // A distance that is no number leaves its anchors where they stand.
 static void PosizioniDaiCampi() {
   double *const Z = nodo.TfZ, *const Y = nodo.TfY;
-  double dz1 = 0, dz2 = 0, dy1 = 0, dy2 = 0;            // mm, from the plate's edges
+  double dz1 = 0, dz2 = 0, dy1 = 0, dy2 = 0;  // mm, from the plate's edges
   if (LeggiCampo(insDati.DTf[1], dz1)) Z[1] = Z[3] = dz1;
   if (LeggiCampo(insDati.DTf[2], dz2) && AssegnaFinito(Z[2], nodo.LatoZ - dz2)) Z[4] = Z[2];
   if (LeggiCampo(insDati.DTf[3], dy1)) Y[1] = Y[2] = dy1;
@@ -69,7 +69,7 @@ void InsDati_LatoTxt(int i) {
     switch (i) {
       case 0: nodo.LatoZ = v; break;
       case 1: nodo.LatoY = v; break;
-      case 2: AssegnaFinito(nodo.LatoZ, LatoDaMargine(v, nodo.Sezione.B)); break;   // 2 and 3 are the margins
+      case 2: AssegnaFinito(nodo.LatoZ, LatoDaMargine(v, nodo.Sezione.B)); break;  // 2 and 3 are the margins
       case 3: AssegnaFinito(nodo.LatoY, LatoDaMargine(v, nodo.Sezione.H)); break;
       case 4: nodo.SpessPiastra = v; break;
     }
@@ -93,10 +93,8 @@ static void MarginiDaLati() {
 }
 
 void InsDati_LatoTxt_Invio(int) {
-  if (VoceScelta(insDati.GeoP[0]) == 1)
-    LatiDaMargini();
-  else
-    MarginiDaLati();
+  if (VoceScelta(insDati.GeoP[0]) == 1) LatiDaMargini();
+  else MarginiDaLati();
   PosizioniDaiCampi();
   RidisegnaNodo();
 }
@@ -106,8 +104,7 @@ void InsDati_LatoTxt_Invio(int) {
 void InsDati_Op_Tip(int) {
   const bool nervature = VoceScelta(insDati.Op_Tip[0]) == 1;
   nodo.TipoNodo = nervature ? 2 : 1;
-  for (Controllo* c : {&insDati.HFazzTxt[0], &insDati.HFazzTxt[1], &insDati.Label8[0], &insDati.Label8[1],
-                       &insDati.ChSI, &insDati.LSi})
+  for (Controllo* c : {&insDati.HFazzTxt[0], &insDati.HFazzTxt[1], &insDati.Label8[0], &insDati.Label8[1], &insDati.ChSI, &insDati.LSi})
     MostraAbilitato(*c, nervature);
   RidisegnaNodo();
 }
@@ -138,10 +135,10 @@ void AggiornaTFLab() {
 // ---- method and exposure ----
 
 void InsDati_TipoVer(int i) {
-  if (nodo.TipoVer == i) return;             // only a real change counts
+  if (nodo.TipoVer == i) return;  // only a real change counts
   nodo.TipoVer = i;
   CambioMetodo();
-  const bool classi = i == 0;                // load classes belong to allowable stresses
+  const bool classi = i == 0;  // load classes belong to allowable stresses
   MostraVisibile(insDati.Label4, classi);
   for (int r = 0; r < 5; r++) MostraVisibile(insDati.CasCar[r], classi && insDati.Lsa[r].visibile);
 }
@@ -151,7 +148,7 @@ void InsDati_ComboEsposizione(int) { nodo.Esposizione = insDati.ComboEsposizione
 // ---- plan ----
 
 void RidisegnaNodo() {
-  if (passi.fallito) CalcolaSmussi();        // the canvas stays as it was
+  if (passi.fallito) CalcolaSmussi();  // the canvas stays as it was
   else DisegnaNodo(insDati.telaNodo);
   piattaforma.aggiorna(insDati.Nodo);
 }

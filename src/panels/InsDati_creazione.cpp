@@ -2,7 +2,7 @@
 #include "core/piattaforma.h"
 #include "panels/InsDati.h"
 
-constexpr double RAGGIO_TIPO = 30;         // anchor marks of the typology pictures, picture units
+constexpr double RAGGIO_TIPO = 30;  // anchor marks of the typology pictures, picture units
 
 namespace {
 // Anchor marks of a picture, and the picture's size: twice the marks' centre.
@@ -13,9 +13,9 @@ struct SegniTipo {
 }  // namespace
 
 static constexpr SegniTipo SEGNI_TIPO[] = {
-    {1440, 1440, {301, 1139, 301, 1139}, {1139, 1139, 301, 301}},
-    {1440, 1440, {301, 1139, 301, 1139}, {1139, 1139, 301, 301}},
-    {2196, 1548, {685, 1511, 685, 1511}, {361, 361, 1187, 1187}},
+  {1440, 1440, {301, 1139, 301, 1139}, {1139, 1139, 301, 301}},
+  {1440, 1440, {301, 1139, 301, 1139}, {1139, 1139, 301, 301}},
+  {2196, 1548, {685, 1511, 685, 1511}, {361, 361, 1187, 1187}},
 };
 
 void PreparaInsDati() {
@@ -28,7 +28,7 @@ void PreparaInsDati() {
   }
   insDati.GeoP[0].scelta = 1;
   for (int i = 2; i < 4; i++) insDati.LatoTxt[i].abilitato = insDati.Label2[i].abilitato = false;
-  insDati.OptionNTir[0].scelta = 1;          // nodo.OptionNTir and nodo.TipoVer start at 0 as well
+  insDati.OptionNTir[0].scelta = 1;  // nodo.OptionNTir and nodo.TipoVer start at 0 as well
   insDati.TipoVer[0].scelta = 1;
   insDati.ScrollSa.minimo = insDati.ScrollSa.massimo = insDati.ScrollSa.scelta = 3;
   insDati.ScrollSa.abilitato = false;

@@ -63,5 +63,5 @@ const char* InsDati_Lsa_Stato(int i);
 const char* InsDati_Label30_Stato(int i);
 
 // The window, the status line.
-void InsDati_Mostrato();                              // the first time: colours, plan, title of the search tool
+void InsDati_Mostrato();  // the first time: colours, plan, title of the search tool
 void InsDati_Passa(const char* testo);

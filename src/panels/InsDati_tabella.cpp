@@ -7,8 +7,8 @@
 
 // ---- texts that differ by index ----
 
-static constexpr const char* SCHEDE[] = {
-    "Profilo", "Nervature", "Piastra", "Tirafondi e Saldature", "Materiali", "Sollecitazioni", "Calcolo"};
+static constexpr const char* SCHEDE[] = {"Profilo",   "Nervature",      "Piastra", "Tirafondi e Saldature",
+                                         "Materiali", "Sollecitazioni", "Calcolo"};
 static constexpr const char* GEOM[] = {"h", "b", "a", "e", "r"};
 static constexpr const char* GEOP[] = {" Lati", " Margini"};
 static constexpr const char* LABEL2[] = {"Lato Z", "Lato Y", "Margine Z", "Margine Y", "Spessore"};
@@ -29,8 +29,8 @@ static constexpr const char* AIUTO_LATO[] = {
 // clang-format on
 static constexpr const char* AIUTO_LABEL2[] = {"", "", "", "", "Inserire lo spessore della piastra"};
 static constexpr const char* AIUTO_GEOP[] = {"Inserimento dei lati della piastra", "Inserimento dei margini piastra-colonna"};
-static constexpr const char* AIUTO_DTF[] = {"Inserire il valore di Dz1", "Inserire il valore di Dz2",
-                                            "Inserire il valore di Dy1", "Inserire il valore di Dy2"};
+static constexpr const char* AIUTO_DTF[] = {"Inserire il valore di Dz1", "Inserire il valore di Dz2", "Inserire il valore di Dy1",
+                                            "Inserire il valore di Dy2"};
 static constexpr const char* AIUTO_NERV[] = {"Inserire l'altezza delle nervature", "Inserire lo spessore delle nervature"};
 static constexpr const char* AIUTO_GOLA = "Inserire il lato dei cordoni di saldatura";
 // clang-format off
@@ -38,8 +38,8 @@ static constexpr const char* AIUTO_TIPO[] = {"Tipologia n°1: non è prevista ne
                                              "Tipologia n°2: sono previste 4 nervature",
                                              "Schema dei valori da inserire per posizionare i tirafondi"};
 // clang-format on
-static constexpr const char* AIUTO_GEOM[] = {"Altezza colonna", "Larghezza colonna", "Spessore anima colonna",
-                                             "Spessore ali colonna", "Raggio colonna"};
+static constexpr const char* AIUTO_GEOM[] = {"Altezza colonna", "Larghezza colonna", "Spessore anima colonna", "Spessore ali colonna",
+                                             "Raggio colonna"};
 // clang-format off
 static constexpr const char* AIUTO_TIR[] = {
     "Tirafondo: lunghezza fuori plinto", "Tirafondo: lunghezza di annegamento", "Tirafondo: raggio di curvatura",
@@ -48,9 +48,9 @@ static constexpr const char* AIUTO_TIR[] = {
 
 // ---- rows ----
 
-static constexpr Genere CORNICE = Genere::Cornice, ETICHETTA = Genere::Etichetta, CAMPO = Genere::Campo,
-                        COMANDO = Genere::Comando, SPUNTA = Genere::Spunta, SCELTA = Genere::Scelta,
-                        LISTA = Genere::Lista, BARRA = Genere::Barra, IMMAGINE = Genere::Immagine;
+static constexpr Genere CORNICE = Genere::Cornice, ETICHETTA = Genere::Etichetta, CAMPO = Genere::Campo, COMANDO = Genere::Comando,
+                        SPUNTA = Genere::Spunta, SCELTA = Genere::Scelta, LISTA = Genere::Lista, BARRA = Genere::Barra,
+                        IMMAGINE = Genere::Immagine;
 
 static constexpr StatoInsDati& P = insDati;
 
@@ -168,5 +168,5 @@ static constexpr RigaPannello RIGHE[] = {
 };
 // clang-format on
 
-const Pannello InsDati = {"InsDati", RIGHE, false, &insDati.titolo, InsDati_Mostrato, nullptr, InsDati_Passa,
-                          &insDati.aperto, &insDati.caricato};
+const Pannello InsDati = {"InsDati", RIGHE,         false,           &insDati.titolo,  InsDati_Mostrato,
+                          nullptr,   InsDati_Passa, &insDati.aperto, &insDati.caricato};

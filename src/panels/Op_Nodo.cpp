@@ -18,7 +18,7 @@ namespace {
 enum Voce { ALTEZZA_QUOTE = 7, DISTANZA_TESTO = 13, QUOTE = 15, QUOTE_INF = 16, DISTANZA_SEGNO = 17, DISTINTA = 18 };
 }  // namespace
 
-constexpr int CAMPO_DISTANZA = 13;           // field of the unsigned distance
+constexpr int CAMPO_DISTANZA = 13;  // field of the unsigned distance
 
 namespace {
 // Entry of each field. Opz leaves the last four fields as they stand on the panel.

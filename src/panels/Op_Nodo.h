@@ -3,7 +3,7 @@
 #pragma once
 #include "panels/controlli.h"
 
-constexpr int MaxParNodoTxt = 27;            // fields 0..16 and 25..27
+constexpr int MaxParNodoTxt = 27;  // fields 0..16 and 25..27
 
 struct StatoOpNodo {
   bool aperto = false, caricato = false;
@@ -14,6 +14,6 @@ struct StatoOpNodo {
 inline StatoOpNodo opNodo;
 extern const Pannello Op_Nodo;
 
-void RiempiOpNodo();               // after the options file was read: every field and choice
-void ApplicaOpzioni();             // fields into suite.ParNodo
-void InsDati_Opz(int);             // shows the panel with the options' values
+void RiempiOpNodo();    // after the options file was read: every field and choice
+void ApplicaOpzioni();  // fields into suite.ParNodo
+void InsDati_Opz(int);  // shows the panel with the options' values

@@ -12,14 +12,14 @@
 #include "model/suite.h"
 #include "panels/righe.h"
 
-constexpr double CLASSE_II = 1.125;          // increase of the allowable stresses for load class II
-constexpr double RCK_FCK = 0.83;             // NTC 2008 11.2.10.1 (11.2.1)
-constexpr double ALFA_CC = 0.85;             // NTC 2008 4.1.2.1.1.1
+constexpr double CLASSE_II = 1.125;  // increase of the allowable stresses for load class II
+constexpr double RCK_FCK = 0.83;     // NTC 2008 11.2.10.1 (11.2.1)
+constexpr double ALFA_CC = 0.85;     // NTC 2008 4.1.2.1.1.1
 
 namespace {
 struct Valore {
   double v = 0;
-  bool piano = false;                        // a factor: neither unit nor rounding
+  bool piano = false;  // a factor: neither unit nor rounding
 };
 }  // namespace
 
@@ -35,20 +35,35 @@ static void Mostra(Controllo* etichette, std::initializer_list<Valore> valori, s
 
 // NTC 2008 11.3.4.1, 4.2.4.1.1: strengths and design strengths; allowable stresses of both load classes.
 static void MostraAcciaio(Controllo* etichette, const MatAcciaio& m) {
-  Mostra(etichette, {{m.Fyk}, {m.GammaM, true}, {m.GammaMT, true}, {m.Fyk / m.GammaM}, {m.Fyk / m.GammaMT}, {m.Fyk40 / m.GammaM},
-                     {m.Fyk40 / m.GammaMT}, {m.SAmm}, {m.SAmm * CLASSE_II}});
+  Mostra(etichette, {{m.Fyk},
+                     {m.GammaM, true},
+                     {m.GammaMT, true},
+                     {m.Fyk / m.GammaM},
+                     {m.Fyk / m.GammaMT},
+                     {m.Fyk40 / m.GammaM},
+                     {m.Fyk40 / m.GammaMT},
+                     {m.SAmm},
+                     {m.SAmm * CLASSE_II}});
 }
 
 static void MostraViti(Controllo* etichette, const MatViti& m) {
-  Mostra(etichette, {{m.Fy}, {m.GammaM2, true}, {m.Fy / m.GammaM2}, {m.Ft}, {m.Ft / m.GammaM2}, {m.SAmm}, {m.SAmm * CLASSE_II}, {m.TauAmm},
+  Mostra(etichette, {{m.Fy},
+                     {m.GammaM2, true},
+                     {m.Fy / m.GammaM2},
+                     {m.Ft},
+                     {m.Ft / m.GammaM2},
+                     {m.SAmm},
+                     {m.SAmm * CLASSE_II},
+                     {m.TauAmm},
                      {m.TauAmm * CLASSE_II}});
 }
 
 // The rods take the partial factor of the bolt class, not one of their steel: they are verified as bolts.
 static void MostraTirafondi(Controllo* etichette, const MatAcciaio& m, double gammaM2) {
   const double tau = m.SAmm / std::sqrt(3.0);
-  Mostra(etichette, {{m.Fyk}, {gammaM2, true}, {m.Fyk / gammaM2}, {m.Ftk}, {m.Ftk / gammaM2}, {m.SAmm}, {m.SAmm * CLASSE_II}, {tau},
-                     {tau * CLASSE_II}});
+  Mostra(
+    etichette,
+    {{m.Fyk}, {gammaM2, true}, {m.Fyk / gammaM2}, {m.Ftk}, {m.Ftk / gammaM2}, {m.SAmm}, {m.SAmm * CLASSE_II}, {tau}, {tau * CLASSE_II}});
 }
 
 static void MostraCls(Controllo* etichette, const MatCls& m) {
@@ -58,7 +73,7 @@ static void MostraCls(Controllo* etichette, const MatCls& m) {
 
 static void Carica() {
   StatoPropMateriali& p = propMateriali;
-  p.Unit.coloreSfondo = 0xFFFFC8;            // red 200, green 255, blue 255
+  p.Unit.coloreSfondo = 0xFFFFC8;  // red 200, green 255, blue 255
   MostraVisibile(p.FrameAccPia, materiali.UsaAccPiastre);
   MostraVisibile(p.FrameBull, materiali.UsaViti);
   MostraVisibile(p.FrameTir, materiali.UsaTirafondi);
@@ -129,7 +144,7 @@ constexpr RigaPannello RIGHE[] = {
 };
 // clang-format on
 
-const Pannello PropMateriali = {"PropMateriali", RIGHE, true, &propMateriali.titolo, Carica, nullptr, nullptr, &propMateriali.aperto,
+const Pannello PropMateriali = {"PropMateriali",        RIGHE, true, &propMateriali.titolo, Carica, nullptr, nullptr, &propMateriali.aperto,
                                 &propMateriali.caricato};
 
 void SettaLabelMat() { MostraTesto(propMateriali.Unit, "[" + suite.UnitaTensioni + "]"); }
@@ -137,7 +152,8 @@ void SettaLabelMat() { MostraTesto(propMateriali.Unit, "[" + suite.UnitaTensioni
 void SettaMateriali() {
   StatoPropMateriali& p = propMateriali;
   MostraTesto(p.FrameAcc, std::string(materiali.UsaAccPiastre ? "Acciaio profili - [NTC08 11.3.4.1] - Tipo "
-                                                              : "Acciaio profili e piastre - [NTC08 11.3.4.1] - Tipo ") + nodo.MatAcc.Nome);
+                                                              : "Acciaio profili e piastre - [NTC08 11.3.4.1] - Tipo ") +
+                            nodo.MatAcc.Nome);
   MostraAcciaio(p.acc, nodo.MatAcc);
   if (materiali.UsaAccPiastre) {
     MostraTesto(p.FrameAccPia, "Acciaio piastre - [NTC08 11.3.4.1] - Tipo " + nodo.MatPiastra.Nome);

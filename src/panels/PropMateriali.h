@@ -4,7 +4,7 @@
 #pragma once
 #include "panels/controlli.h"
 
-constexpr int NumValoriAcciaio = 9;          // values shown of a steel, a rod, a bolt
+constexpr int NumValoriAcciaio = 9;  // values shown of a steel, a rod, a bolt
 constexpr int NumValoriCls = 5;
 
 struct StatoPropMateriali {
@@ -17,6 +17,6 @@ struct StatoPropMateriali {
 inline StatoPropMateriali propMateriali;
 extern const Pannello PropMateriali;
 
-void SettaLabelMat();              // the unit's caption
-void SettaMateriali();             // captions and values; a partial factor of 0 is an arithmetic fault
-void InsDati_PropMatButton(int);   // shows the panel modally; not on a fault
+void SettaLabelMat();             // the unit's caption
+void SettaMateriali();            // captions and values; a partial factor of 0 is an arithmetic fault
+void InsDati_PropMatButton(int);  // shows the panel modally; not on a fault

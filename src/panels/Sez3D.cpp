@@ -38,7 +38,7 @@ static void RiempiComboP() {
     voci.push_back(collegamento.SezioniStr[i].Nome + "  Asta " + std::to_string(collegamento.AsteNodo[i]));
   MostraVoci(sez3D.ComboP, std::move(voci));
   sez3D.UltimaValida = 0;
-  collegamento.SezioneImp = {};              // the choice of a former node counts no more
+  collegamento.SezioneImp = {};  // the choice of a former node counts no more
   if (!sez3D.ComboP.voci.empty()) ImpostaScelta(sez3D.ComboP, 0);
 }
 

@@ -8,7 +8,7 @@
 struct StatoSez3D {
   bool aperto = false, caricato = false;
   std::string titolo = "Importa sezioni da 3D";
-  int UltimaValida = 0;            // last position of ComboP that could be taken
+  int UltimaValida = 0;  // last position of ComboP that could be taken
   std::int16_t UltimoNodo = 0;
   Controllo Label1, Label2, NodoTxt, command1, Cerca, ComboP, geom[5], geomp[5], DisPri, OK, Annulla;
   Tela telaDisPri;

@@ -13,16 +13,14 @@
 #include "panels/righe.h"
 #include "panels/selezione.h"
 
-constexpr const char* NESSUNO = "0";         // what the commands "A" leave: no empty selection exists
+constexpr const char* NESSUNO = "0";  // what the commands "A" leave: no empty selection exists
 
 static void Unisci(std::string& testo, int numero) {
   if (!testo.empty()) testo += ',';
   testo += std::to_string(numero);
 }
 
-static bool Qualificato(const std::string& tipo) {
-  return nodo.TipoVer == 0 ? tipo == "TENSAMM" || tipo == "RARA" : tipo == "SLU";
-}
+static bool Qualificato(const std::string& tipo) { return nodo.TipoVer == 0 ? tipo == "TENSAMM" || tipo == "RARA" : tipo == "SLU"; }
 
 static void Soll3D_Annulla(int i) { ImpostaTesto(i == 0 ? soll3D.NodiTxt : soll3D.AsteTxt, ""); }
 static void Soll3D_ACdc(int) { ImpostaTesto(soll3D.CdCTxt, NESSUNO); }

@@ -26,7 +26,7 @@
 #include "panels/programma.h"
 #include "panels/valori.h"
 
-constexpr int DiametroPredefinito = 7;     // row of the diameter table, from 1: M20
+constexpr int DiametroPredefinito = 7;  // row of the diameter table, from 1: M20
 
 // ---- reset of a joint ----
 
@@ -111,8 +111,7 @@ static bool FaultDiAvvio() {
 }
 
 static bool CaricaProfilario() {
-  const int n = LeggiProfili(suite.DirCustom + FILE_PROFILARIO, 1, suite.ProfiliLib, FATT_LUNG_PROFILI,
-                             FATT_AREA_PROFILI, FILTRO_PROFILI);
+  const int n = LeggiProfili(suite.DirCustom + FILE_PROFILARIO, 1, suite.ProfiliLib, FATT_LUNG_PROFILI, FATT_AREA_PROFILI, FILTRO_PROFILI);
   suite.NumProfili = static_cast<std::int16_t>(n);
   if (n <= 0) return Errore("Profilario errato o mancante", Icona::Nessuna);
   std::vector<std::string> nomi;
@@ -143,8 +142,7 @@ static bool CaricaMateriali() {
   const int n = std::min<int>(materiali.NumCls, MaxMateriali);
   for (int i = 1; i <= n; i++) classi.push_back(materiali.ClsBase[i].Nome);
   MostraVoci(insDati.ComboCalcestruzzo, std::move(classi));
-  MostraVoci(insDati.ComboEsposizione, {"Esposto a fenomeni corrosivi", "Non esposto a fenomeni corrosivi",
-                                        "Resistente alla corrosione"});
+  MostraVoci(insDati.ComboEsposizione, {"Esposto a fenomeni corrosivi", "Non esposto a fenomeni corrosivi", "Resistente alla corrosione"});
   return true;
 }
 
@@ -165,11 +163,10 @@ bool CaricaInsDati(const std::string& rigaComando) {
   insDati.CartellaDialogo = suite.DirLavoro;
   if (!LeggiFont()) return Errore("Errore: file font.001 errato o mancante.", Icona::Nessuna);
   if (!CaricaProfilario()) return false;
-  LeggiStiliGrb();                           // a missing template shows its box and stops nothing
+  LeggiStiliGrb();  // a missing template shows its box and stops nothing
   if (!CaricaCatalogo() || !CaricaMateriali()) return false;
   LeggiDiametri();
-  if (!LeggiOpzioni())
-    return Errore("Errore: file " + suite.DirCustom + FILE_OPZIONI + " errato o mancante.", Icona::Nessuna);
+  if (!LeggiOpzioni()) return Errore("Errore: file " + suite.DirCustom + FILE_OPZIONI + " errato o mancante.", Icona::Nessuna);
   RiempiOpNodo();
   DisegnaSegniTipo();
   if (!Azzera()) return false;

@@ -1,13 +1,13 @@
 // panels/comandi_disegno.cpp - Gen_Dis: a file, a format, the drawing.
 #include "panels/comandi_disegno.h"
 
+#include "core/nomi_file.h"
 #include "core/piattaforma.h"
 #include "drawing/disegno.h"
 #include "drawing/formats/formati.h"
 #include "model/stato.h"
 #include "model/suite.h"
 #include "panels/InsDati.h"
-#include "core/nomi_file.h"
 
 static std::string FiltriDisegno() {
   std::string filtri;
@@ -45,7 +45,7 @@ void ScegliFileDisegno() {
     return;
   }
   piattaforma.attesa(true);
-  const int riga = filtro == 1 || filtro == 2 ? filtro - 1 : 2;      // any other filter counts as the last one
+  const int riga = filtro == 1 || filtro == 2 ? filtro - 1 : 2;  // any other filter counts as the last one
   esitoDisegno.fallito = !FORMATI[riga].esporta(percorso, 0);
   piattaforma.attesa(false);
 }

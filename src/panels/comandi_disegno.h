@@ -2,12 +2,12 @@
 #pragma once
 #include <string>
 
-struct EsitoDisegno {              // how the last drawing command ended; both false: the file was written
-  bool annullato = false;          // the dialog was left by Annulla, nothing changed
-  bool fallito = false;            // it ended in its failure box
+struct EsitoDisegno {      // how the last drawing command ended; both false: the file was written
+  bool annullato = false;  // the dialog was left by Annulla, nothing changed
+  bool fallito = false;    // it ended in its failure box
 };
 inline EsitoDisegno esitoDisegno;
 
-void ScegliFileDisegno();          // the dialog, then the drawing in the format of the filter chosen
+void ScegliFileDisegno();  // the dialog, then the drawing in the format of the filter chosen
 void InsDati_Gen_Dis(int);
-bool ScriviSvg(const std::string& percorso);   // the sheet as a picture, without a success box
+bool ScriviSvg(const std::string& percorso);  // the sheet as a picture, without a success box

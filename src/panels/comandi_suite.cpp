@@ -38,8 +38,8 @@ constexpr int CATEGORIA_FORZE = 4, CATEGORIA_MOMENTI = 5;
 static void ChiamaUnimis(Controllo& campo, const std::string& unita, int categoria) {
   double v = 0;
   if (!Val(campo.testo, v)) return;
-  const std::string argomenti = "|primcipale=0|uniprinctesto=" + unita + "|categoriadiingresso=" + std::to_string(categoria) + "|valoreingresso=" +
-                                NumeroPiano(v) + "|fileout=" + suite.DirLavoro + "\\TQ_fermix.tmp|";
+  const std::string argomenti = "|primcipale=0|uniprinctesto=" + unita + "|categoriadiingresso=" + std::to_string(categoria) +
+                                "|valoreingresso=" + NumeroPiano(v) + "|fileout=" + suite.DirLavoro + "\\TQ_fermix.tmp|";
   if (!piattaforma.esegui(suite.DirProgra + "\\tq_fermix.exe", argomenti)) return;
   FileLettura f;
   std::string riga;
@@ -80,7 +80,7 @@ void InsDati_EsportaSollButt(int) {
   insDati.CartellaDialogo.clear();
   switch (EsportaSollecitazioni(nome, ElencoDelNodo())) {
     case EsitoEsporta::Scritto: break;
-    case EsitoEsporta::Interrotto: break;                // the command's end shows the box of the fault
+    case EsitoEsporta::Interrotto: break;  // the command's end shows the box of the fault
     case EsitoEsporta::NonAperto: Messaggio("Impossibile esportare le sollecitazioni in " + nome, TitoloProg, Icona::Critica); break;
     case EsitoEsporta::NonScritto: Messaggio("Salvataggio fallito", TitoloProg, Icona::Esclamazione); break;
   }

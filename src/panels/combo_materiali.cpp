@@ -20,18 +20,16 @@
 #include "panels/PropMateriali.h"
 #include "panels/valori.h"
 
-constexpr const char* PROFILI = "PROFILI";   // column and plates
-constexpr const char* BULLONI = "BULLONI";   // anchors
+constexpr const char* PROFILI = "PROFILI";  // column and plates
+constexpr const char* BULLONI = "BULLONI";  // anchors
 
 constexpr const char* TITOLO_ATTENZIONE = "ATTENZIONE!";
 constexpr const char* TESTO_MAT_TA =
-    "Materiale non possibile per verifiche alle tensioni ammissibili. Verrà impostato un altro tipo di acciaio.";
-constexpr const char* TESTO_MAT_SLU =
-    "Materiale non possibile per verifiche agli stati limite. Verrà impostato un altro tipo di acciaio.";
+  "Materiale non possibile per verifiche alle tensioni ammissibili. Verrà impostato un altro tipo di acciaio.";
+constexpr const char* TESTO_MAT_SLU = "Materiale non possibile per verifiche agli stati limite. Verrà impostato un altro tipo di acciaio.";
 constexpr const char* TESTO_MAT_RICORDATO =
-    "Da questo momento in poi il materiale impostato sarà ricordato anche se si cambia il metodo di verifica.";
-constexpr const char* TESTO_MAT_BASE =
-    "Materiale-Base non valido per questo tipo di verifica. Verrà impostato un altro tipo di acciaio.";
+  "Da questo momento in poi il materiale impostato sarà ricordato anche se si cambia il metodo di verifica.";
+constexpr const char* TESTO_MAT_BASE = "Materiale-Base non valido per questo tipo di verifica. Verrà impostato un altro tipo di acciaio.";
 
 static bool MetodoTA() { return nodo.TipoVer == 0; }
 
@@ -56,16 +54,14 @@ void RiempiComboMateriali(Controllo& combo, bool metodoTA, const char* ruolo, co
     return;
   }
   if (ImpostaVoce(combo, selezione)) return;
-  Messaggio(std::string(metodoTA ? TESTO_MAT_TA : TESTO_MAT_SLU) + "\r" + TESTO_MAT_RICORDATO, TITOLO_ATTENZIONE,
-            Icona::Esclamazione);
+  Messaggio(std::string(metodoTA ? TESTO_MAT_TA : TESTO_MAT_SLU) + "\r" + TESTO_MAT_RICORDATO, TITOLO_ATTENZIONE, Icona::Esclamazione);
   ImpostaScelta(combo, Alternativo(metodoTA, ruolo, selezione));
 }
 
 // ---- method ----
 
 // What is in use goes to the memory of the method left; a first use of the method chosen starts from the same grade.
-static void CambiaMemoria(Controllo& combo, const char* ruolo, const MatAcciaio& inUso, MatAcciaio& lasciata,
-                          MatAcciaio& scelta) {
+static void CambiaMemoria(Controllo& combo, const char* ruolo, const MatAcciaio& inUso, MatAcciaio& lasciata, MatAcciaio& scelta) {
   lasciata = inUso;
   if (scelta.Nome.empty()) scelta = inUso;
   RiempiComboMateriali(combo, MetodoTA(), ruolo, scelta.Nome);
@@ -149,8 +145,7 @@ static void NonAccettabile(const char* inizio, const std::string& nome, const ch
 }
 
 // Of a replaced material only the name is set: the record follows when the combo is selected.
-static void ControllaAcciaio(MatAcciaio& mat, const MatAcciaio* tabella, int conteggio, const char* ruolo,
-                             const char* inizio) {
+static void ControllaAcciaio(MatAcciaio& mat, const MatAcciaio* tabella, int conteggio, const char* ruolo, const char* inizio) {
   if (InTabella(mat.Nome, tabella, conteggio)) return;
   NonAccettabile(inizio, mat.Nome, FINE_ACCIAI);
   const int n = IndiceMaterialeAlternativo(MetodoTA(), ruolo, mat.Nome, Righe(conteggio), tabella) + 1;
@@ -159,19 +154,16 @@ static void ControllaAcciaio(MatAcciaio& mat, const MatAcciaio* tabella, int con
 
 void ControllaMateriali() {
   const Materiali& m = materiali;
-  ControllaAcciaio(nodo.MatAcc, m.SezChiuse ? m.AcciaiChiusiBase : m.AcciaiBase,
-                   m.SezChiuse ? m.NumAcciaiChiusi : m.NumAcciai, PROFILI,
+  ControllaAcciaio(nodo.MatAcc, m.SezChiuse ? m.AcciaiChiusiBase : m.AcciaiBase, m.SezChiuse ? m.NumAcciaiChiusi : m.NumAcciai, PROFILI,
                    "Attenzione: tipo acciaio non accettabile (");
   if (m.UsaAccPiastre)
-    ControllaAcciaio(nodo.MatPiastra, m.AcciaiBase, m.NumAcciai, PROFILI,
-                     "Attenzione: tipo acciaio per piastre non accettabile (");
+    ControllaAcciaio(nodo.MatPiastra, m.AcciaiBase, m.NumAcciai, PROFILI, "Attenzione: tipo acciaio per piastre non accettabile (");
   if (m.UsaViti && !InTabella(nodo.MatVit.Nome, m.VitiBase, m.NumViti)) {
     NonAccettabile("Attenzione: classe viti non accettabile (", nodo.MatVit.Nome, FINE_VITI);
     nodo.MatVit.Nome = m.VitiBase[1].Nome;
   }
   if (m.UsaTirafondi)
-    ControllaAcciaio(nodo.MatTir, m.AcciaiBase, m.NumAcciai, BULLONI,
-                     "Attenzione: tipo acciaio per tirafondi non accettabile (");
+    ControllaAcciaio(nodo.MatTir, m.AcciaiBase, m.NumAcciai, BULLONI, "Attenzione: tipo acciaio per tirafondi non accettabile (");
   if (m.UsaCls && !InTabella(nodo.MatCls.Nome, m.ClsBase, m.NumCls)) {
     NonAccettabile("Attenzione: classe calcestruzzo non accettabile (", nodo.MatCls.Nome, FINE_CLS);
     nodo.MatCls.Nome = m.ClsBase[1].Nome;

@@ -14,9 +14,7 @@
 
 static int Quanti(const RigaPannello& r) { return r.ultimo - r.primo + 1; }
 
-static std::span<Controllo> Fratelli(const RigaPannello& r) {
-  return {r.controllo, static_cast<std::size_t>(Quanti(r))};
-}
+static std::span<Controllo> Fratelli(const RigaPannello& r) { return {r.controllo, static_cast<std::size_t>(Quanti(r))}; }
 
 // The text of index i of a row; a missing one is empty.
 static const char* TestoDi(const Testi& testi, const RigaPannello& r, int i) {
@@ -34,9 +32,7 @@ static void PreparaControllo(const RigaPannello& r, Controllo& c, int i) {
       c.scelta = 0;
       break;
     case Genere::Spunta:
-    case Genere::Scelta:
-      c.scelta = 0;
-      break;
+    case Genere::Scelta: c.scelta = 0; break;
     default: break;
   }
   if (r.genere != Genere::Schede) c.testo = TestoDi(r.didascalia, r, i);
@@ -67,7 +63,7 @@ const RigaPannello* TrovaRiga(const Pannello& p, std::string_view nome) {
 }
 
 Controllo* TrovaControllo(const Pannello& p, std::string_view nome, int indice) {
-  for (const RigaPannello& r : p.righe) {    // the indices of one name may stand in several rows
+  for (const RigaPannello& r : p.righe) {  // the indices of one name may stand in several rows
     if (r.nome != nome) continue;
     if (!r.indicizzato) return indice == SENZA_INDICE || indice == r.primo ? r.controllo : nullptr;
     if (indice == SENZA_INDICE && r.genere == Genere::Scelta) return r.controllo;
@@ -104,9 +100,7 @@ static void Cambio(Controllo& c) {
 }
 
 // Kinds on which a press does nothing but run the handler.
-static bool Premibile(Genere g) {
-  return g == Genere::Comando || g == Genere::Immagine || g == Genere::Etichetta || g == Genere::Cornice;
-}
+static bool Premibile(Genere g) { return g == Genere::Comando || g == Genere::Immagine || g == Genere::Etichetta || g == Genere::Cornice; }
 
 // Runs a handler as a command of its own. The one place where a failed allocation is met: the command ends, the program does not. Without a
 // handler the answer is senzaVaBene.

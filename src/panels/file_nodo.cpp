@@ -57,12 +57,12 @@ static int CifraFinoA(const std::string& testo, char ultima) {
   return t.size() == 1 && t[0] >= '0' && t[0] <= ultima ? t[0] - '0' : -1;
 }
 
-static void SelezionaMotivo() {                      // another digit selects nothing and is no failure
+static void SelezionaMotivo() {  // another digit selects nothing and is no failure
   const int voce = CifraFinoA(scambio.motivo, '3');
   if (voce >= 0) SelezionaVoce(insDati.OptionNTir[0], voce);
 }
 
-static void SelezionaDiametro() {                    // rows 1..100 of a table counted from 0; a free row holds 0
+static void SelezionaDiametro() {  // rows 1..100 of a table counted from 0; a free row holds 0
   const int riga = scambio.TfDiamIdx;
   if (riga < 1 || riga > MaxDiam + 1) {
     passi.fallito = true;
@@ -100,7 +100,7 @@ static void EseguiPasso(PassoNodo passo) {
 
 // --- the panel in line with the model -------------------------------------------------------------------------------------
 
-static void MostraPiastra() {                        // sides first, margins behind them: each change stores its value
+static void MostraPiastra() {  // sides first, margins behind them: each change stores its value
   ImpostaNumero(insDati.LatoTxt[0], nodo.LatoZ);
   ImpostaNumero(insDati.LatoTxt[1], nodo.LatoY);
   ImpostaNumero(insDati.LatoTxt[2], MargineDaLato(nodo.LatoZ, nodo.Sezione.B));
@@ -114,8 +114,7 @@ static void MostraTipologia() {
     ImpostaNumero(insDati.HFazzTxt[0], nodo.HNerv);
     ImpostaNumero(insDati.HFazzTxt[1], nodo.SpNerv);
     ImpostaScelta(insDati.ChSI, nodo.SaldInt != 0 ? 1 : 0);
-  }
-  else SelezionaVoce(insDati.Op_Tip[0], 0);
+  } else SelezionaVoce(insDati.Op_Tip[0], 0);
   ImpostaNumero(insDati.GolaTxt, nodo.Gola);
 }
 

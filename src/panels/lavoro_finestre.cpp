@@ -19,7 +19,7 @@ void LegaLavoro() {
 
 void AzzeraLavoro() {
   if (lavoro.usato) {
-    static const Lavoro VUOTO;     // large: made only where it is needed
+    static const Lavoro VUOTO;  // large: made only where it is needed
     lavoro = VUOTO;
   }
   LegaLavoro();
@@ -42,7 +42,9 @@ static void MostraTirafondo(Lavoro& l, int s, int i) {
 static void MostraSestetto(Lavoro& l, int s, const PuntoFermo& fine) {
   const bool intero = !fine.c_e || s < fine.sestetto;
   const auto raggiunto = [&](int criterio) { return intero || fine.criterio >= criterio; };
-  struct Tappe { int saldature, piastra, cls; };
+  struct Tappe {
+    int saldature, piastra, cls;
+  };
   constexpr Tappe TA = {TA_SALD, TA_PIASTRA, TA_CLS}, SLU = {SLU_SALD_1, SLU_PIASTRA, SLU_CLS};
   const Tappe& tappe = l.TipoVer == MetodoTA ? TA : SLU;
   const bool tuttiTir = raggiunto(tappe.saldature);

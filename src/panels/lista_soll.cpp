@@ -17,8 +17,8 @@
 #include "panels/valori.h"
 
 constexpr int NumRighe = 5;
-constexpr int ScrollMin = 3;               // value of the bar at which the rows show groups 1 to 5
-constexpr double TOLL_SOLL = 0.0001;       // stored units: components nearer than this are equal
+constexpr int ScrollMin = 3;          // value of the bar at which the rows show groups 1 to 5
+constexpr double TOLL_SOLL = 0.0001;  // stored units: components nearer than this are equal
 
 namespace {
 // The six components in the order of the list: where each is stored, its column on the panel, its factor.
@@ -52,7 +52,7 @@ static int GruppoDiRiga(int i) { return i + insDati.ScrollSa.scelta - 2; }
 static void RigaVisibile(int i, bool si) {
   MostraVisibile(insDati.Lsa[i], si);
   for (int k = 0; k < NumComp; k++) MostraVisibile(Campo(k, i), si);
-  MostraVisibile(insDati.CasCar[i], si && nodo.TipoVer == 0);   // load classes belong to allowable stresses
+  MostraVisibile(insDati.CasCar[i], si && nodo.TipoVer == 0);  // load classes belong to allowable stresses
 }
 
 void MostraRiga(int i) { RigaVisibile(i, true); }
@@ -86,10 +86,8 @@ static void RiempiRigaDopoRimozione(int i) { RiempiRigaCome(i, true); }
 // Rows that have a group are filled and shown, the others hidden.
 static void RiempiRighe(void (*riempi)(int)) {
   for (int i = 0; i < NumRighe; i++) {
-    if (GruppoDiRiga(i) <= nodo.NumSoll)
-      riempi(i);
-    else
-      NascondiRiga(i);
+    if (GruppoDiRiga(i) <= nodo.NumSoll) riempi(i);
+    else NascondiRiga(i);
   }
 }
 
@@ -116,7 +114,7 @@ void AggiornaRighe() {
     ImpostaBarra(nodo.NumSoll - 2);
     MostraAbilitato(insDati.ScrollSa, true);
   } else {
-    DisabilitaBarra();                       // its handler fills the rows and hides those without a group
+    DisabilitaBarra();  // its handler fills the rows and hides those without a group
   }
   AggiornaTitoloSoll();
 }
@@ -177,7 +175,7 @@ void RimuoviGruppo(int n) {
   nodo.SollNome[nodo.NumSoll].clear();
   nodo.NumSoll--;
   if (nodo.NumSoll > NumRighe) {
-    MostraMassimo(insDati.ScrollSa, nodo.NumSoll - 2);   // clips the value
+    MostraMassimo(insDati.ScrollSa, nodo.NumSoll - 2);  // clips the value
   } else if (nodo.NumSoll == NumRighe) {
     DisabilitaBarra();
   }
@@ -208,7 +206,7 @@ void InsDati_Singolo(int) {
 
 void InsDati_RimuoviSA(int) {
   if (nodo.NumSoll > 0) {
-    AzzeraGruppo(nodo.NumSoll);              // its name stays in the array until overwritten
+    AzzeraGruppo(nodo.NumSoll);  // its name stays in the array until overwritten
     nodo.NumSoll--;
     if (nodo.NumSoll > NumRighe) {
       ImpostaBarra(nodo.NumSoll - 2);
@@ -223,9 +221,7 @@ void InsDati_RimuoviSA(int) {
 }
 
 void InsDati_RimuoviTSA(int) {
-  if (!piattaforma.domanda("Rimozione totale dei dati relativi alle sollecitazioni agenti?", "ATTENZIONE!",
-                           Icona::Esclamazione))
-    return;
+  if (!piattaforma.domanda("Rimozione totale dei dati relativi alle sollecitazioni agenti?", "ATTENZIONE!", Icona::Esclamazione)) return;
   for (int n = 1; n <= nodo.NumSoll; n++) {
     AzzeraGruppo(n);
     nodo.SollNome[n].clear();
@@ -251,7 +247,7 @@ void InsDati_MaxMin(int) { RiduciMaxMin(); }
 
 // ---- doubles ----
 
-static bool GruppiUguali(int a, int b) {     // the names do not count
+static bool GruppiUguali(int a, int b) {  // the names do not count
   if (nodo.SollCC[a] != nodo.SollCC[b]) return false;
   for (int k = 0; k < NumComp; k++)
     if (!(std::fabs(Valore(k, a) - Valore(k, b)) < TOLL_SOLL)) return false;
@@ -283,8 +279,8 @@ struct Estremo {
 };
 
 struct EstremiClasse {
-  int quanti = 0;                            // groups of the class
-  Estremo massimo[NumComp], minimo[NumComp]; // by component
+  int quanti = 0;                             // groups of the class
+  Estremo massimo[NumComp], minimo[NumComp];  // by component
 };
 }  // namespace
 
@@ -298,7 +294,7 @@ static Estremo GruppoCome(int n) {
 static void AggiornaEstremi(EstremiClasse& c, int n) {
   const Estremo g = GruppoCome(n);
   const bool primo = c.quanti++ == 0;
-  for (int k = 0; k < NumComp; k++) {        // a tie keeps the earlier group
+  for (int k = 0; k < NumComp; k++) {  // a tie keeps the earlier group
     if (primo || g.v[k] > c.massimo[k].v[k]) c.massimo[k] = g;
     if (primo || g.v[k] < c.minimo[k].v[k]) c.minimo[k] = g;
   }
@@ -313,7 +309,7 @@ static void AggiungiEstremo(const Estremo& e, std::int16_t classe, const std::st
 
 void RiduciMaxMin() {
   RimuoviDoppi();
-  EstremiClasse classi[2];                   // class I, class II (any value but 0)
+  EstremiClasse classi[2];  // class I, class II (any value but 0)
   std::string nomi[MaxSoll + 1];
   for (int n = 1; n <= nodo.NumSoll; n++) {
     AggiornaEstremi(classi[nodo.SollCC[n] == 0 ? 0 : 1], n);

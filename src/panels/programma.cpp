@@ -115,8 +115,8 @@ struct Fotografia {
 void DistruggiFotografia::operator()(Fotografia* f) const { delete f; }
 
 FotografiaProgramma FotografaProgramma() {
-  FotografiaProgramma f(new Fotografia{nodo, materiali, {}, scambio, esitoFile, gradiLetti, pannelli, verificaPannello, insDati, formTF, opNodo,
-                                       propMateriali});
+  FotografiaProgramma f(new Fotografia{
+    nodo, materiali, {}, scambio, esitoFile, gradiLetti, pannelli, verificaPannello, insDati, formTF, opNodo, propMateriali});
   std::copy(std::begin(suite.ParNodo), std::end(suite.ParNodo), f->ParNodo);
   return f;
 }

@@ -7,12 +7,14 @@
 // suite goes back too: the host puts its decimal mark (suite.Decimale) in again.
 void AzzeraProgramma();
 
-void PreparaPannelli();            // rows tied, texts of creation, for every panel; the start does it
+void PreparaPannelli();  // rows tied, texts of creation, for every panel; the start does it
 
 // What a load can see of what was loaded, typed or verified before: joint, materials, panels. Put back, the next load runs as behind the
 // moment of the picture, in the same process. Drawing and tables of results are not in it.
 struct Fotografia;
-struct DistruggiFotografia { void operator()(Fotografia* f) const; };
+struct DistruggiFotografia {
+  void operator()(Fotografia* f) const;
+};
 using FotografiaProgramma = std::unique_ptr<Fotografia, DistruggiFotografia>;
 FotografiaProgramma FotografaProgramma();
 void RipristinaProgramma(const Fotografia& f);

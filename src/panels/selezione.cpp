@@ -11,7 +11,7 @@
 #include "model/stato.h"
 #include "panels/righe.h"
 
-constexpr int RITARDO_TIP = 800;             // ms of rest before the tip shows
+constexpr int RITARDO_TIP = 800;  // ms of rest before the tip shows
 
 // Entry 1 "Selezione" switches its frame on.
 static void AbilitaCornici() {
@@ -53,7 +53,7 @@ static void Selezione_Cerca(int) {
   piattaforma.attesa(true);
   std::string lista = AsteDeiNodi();
   if (!lista.empty()) {
-    lista.pop_back();                        // the last comma
+    lista.pop_back();  // the last comma
     ImpostaTesto(*selezione.aste, lista);
   }
   piattaforma.attesa(false);
@@ -81,7 +81,8 @@ static void Carica() {
 constexpr const char* TUTTI[] = {"Tutti", "Selezione"};
 constexpr const char* TUTTE[] = {"Tutte", "Selezione"};
 constexpr const char* LIMITI[] = {"da", "a"};
-constexpr const char* SUGG_COLORI[] = {"Cliccare per selezionare le aste di tutti i colori", "Cliccare per selezionare le aste dei colori desiderati"};
+constexpr const char* SUGG_COLORI[] = {"Cliccare per selezionare le aste di tutti i colori",
+                                       "Cliccare per selezionare le aste dei colori desiderati"};
 constexpr const char* SUGG_LINEE[] = {"Cliccare per selezionare le aste con qualunque tipo di linea",
                                       "Cliccare per selezionare le aste con i tipi di linea desiderati"};
 constexpr const char* SUGG_NOMI[] = {"Cliccare per selezionare le aste con qualunque nome",

@@ -9,10 +9,10 @@ constexpr int NumColori = 10, NumLineeSel = 5;
 struct StatoSelezione {
   bool aperto = false, caricato = false;
   std::string titolo = "Selezione aste";
-  std::string suggerimento;        // the tip that TimerSel will show
+  std::string suggerimento;  // the tip that TimerSel will show
   const Controllo* nodi = nullptr;
   Controllo* aste = nullptr;
-  Controllo Colori, Linee, Nomi;   // frames of the selections
+  Controllo Colori, Linee, Nomi;  // frames of the selections
   Controllo ColoriOp[2], ColoriCh[NumColori], LineeOp[2], LineeCh[NumLineeSel], Line1[NumLineeSel];
   Controllo NomiOp[2], NomiTxt[2], LNomi[2], Cerca, Chiudi, HLabSel;
 };

@@ -23,8 +23,6 @@ bool AssegnaFinito(double& variabile, double v) {
 }
 
 void ImpostaNumero(Controllo& c, double v) {
-  if (std::isfinite(v))
-    ImpostaTesto(c, NumeroPiano(v));
-  else
-    passi.fallito = true;
+  if (std::isfinite(v)) ImpostaTesto(c, NumeroPiano(v));
+  else passi.fallito = true;
 }

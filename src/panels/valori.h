@@ -4,6 +4,6 @@
 #pragma once
 struct Controllo;
 
-bool LeggiCampo(const Controllo& c, double& v);       // numeric head of the text, 0 for none
+bool LeggiCampo(const Controllo& c, double& v);  // numeric head of the text, 0 for none
 bool AssegnaFinito(double& variabile, double v);
-void ImpostaNumero(Controllo& c, double v);           // a field's text from a number; one that is not finite is a failed step
+void ImpostaNumero(Controllo& c, double v);  // a field's text from a number; one that is not finite is a failed step

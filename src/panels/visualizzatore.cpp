@@ -8,7 +8,7 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-constexpr int SILENZIO_RIUSCITA = 1;         // no box of success; a failed write is told
+constexpr int SILENZIO_RIUSCITA = 1;  // no box of success; a failed write is told
 
 static std::string FileGuardato() { return suite.DirProgra + "\\nodo.dis"; }
 

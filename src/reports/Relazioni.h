@@ -5,5 +5,5 @@
 #pragma once
 #include "engine/lavoro.h"
 
-bool RelazioneTA(const Lavoro& l);     // allowable stresses, CNR 10011/88
-bool RelazioneSLU(const Lavoro& l);    // limit states, NTC 2008
+bool RelazioneTA(const Lavoro& l);   // allowable stresses, CNR 10011/88
+bool RelazioneSLU(const Lavoro& l);  // limit states, NTC 2008

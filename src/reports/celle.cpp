@@ -12,7 +12,7 @@
 
 constexpr double POTENZE[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
 constexpr double QUINDICI_CIFRE = 1e15;
-constexpr int PRIMO_ESPONENTE = 4;         // below 1E-4 a number is written with an exponent
+constexpr int PRIMO_ESPONENTE = 4;  // below 1E-4 a number is written with an exponent
 constexpr int MinLarghezza = 1, MaxLarghezza = 255;
 
 // u / 10^decimali, trailing zeros of the decimals dropped.
@@ -25,7 +25,7 @@ static int ScriviDecimale(char* a, bool negativo, unsigned long long u, int deci
   if (negativo) *p++ = '-';
   char cifre[24];
   const int n = static_cast<int>(std::to_chars(cifre, cifre + sizeof cifre, u).ptr - cifre);
-  const int intere = n - decimali;                     // digits before the mark; <= 0: zeros behind it
+  const int intere = n - decimali;  // digits before the mark; <= 0: zeros behind it
   if (intere <= 0) {
     *p++ = '0';
   } else {

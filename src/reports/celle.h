@@ -11,14 +11,17 @@
 #include "model/suite.h"
 
 // A value to be rounded, ties to even, before it is written.
-struct Arrotondato { double valore = 0; int decimali = 0; };
-inline Arrotondato RD(double x) { return {x * suite.FattTensioni, suite.DecTensioni}; }   // stress, from daN/cm2
-inline Arrotondato RF(double x) { return {x * suite.FattForze, suite.DecForze}; }         // force, from daN
+struct Arrotondato {
+  double valore = 0;
+  int decimali = 0;
+};
+inline Arrotondato RD(double x) { return {x * suite.FattTensioni, suite.DecTensioni}; }  // stress, from daN/cm2
+inline Arrotondato RF(double x) { return {x * suite.FattForze, suite.DecForze}; }        // force, from daN
 inline Arrotondato R1(double x) { return {x, 1}; }
 inline Arrotondato R2(double x) { return {x, 2}; }
 
-constexpr int MaxNumero = 32;      // bytes of the longest number
-int ScriviVoce(char* a, double v);                   // plain; a[MaxNumero], returns the length
+constexpr int MaxNumero = 32;       // bytes of the longest number
+int ScriviVoce(char* a, double v);  // plain; a[MaxNumero], returns the length
 int ScriviVoce(char* a, int v);
 int ScriviVoce(char* a, Arrotondato v);
 
@@ -28,7 +31,11 @@ void Aggiungi(std::string& t, int v);
 void Aggiungi(std::string& t, Arrotondato v);
 
 // Width in characters, '|' in front or not, alignment 'L' left, any other right.
-struct Cella { int larghezza = 0; bool barra = false; char allineamento = 'L'; };
+struct Cella {
+  int larghezza = 0;
+  bool barra = false;
+  char allineamento = 'L';
+};
 constexpr Cella L(int larghezza) { return {larghezza, false, 'L'}; }
 constexpr Cella LB(int larghezza) { return {larghezza, true, 'L'}; }
 constexpr Cella RB(int larghezza) { return {larghezza, true, 'R'}; }

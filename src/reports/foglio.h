@@ -15,15 +15,15 @@
 struct Foglio {
   const Lavoro& l;
   FileScrittura file;
-  std::string percorso;            // suite path of the report
+  std::string percorso;  // suite path of the report
 };
 
-bool ApriFoglio(Foglio& f, const char* metodo);        // false: the file cannot be written, its box was shown
-bool ConcludiFoglio(Foglio& f, bool intero);           // box, close, show; what RelazioneTA and RelazioneSLU return
-bool TitoloCombinazione(Foglio& f, int s);             // empty line, name, seventy dashes
-bool EsitoCombinazione(Foglio& f, int s);              // empty line and verdict
+bool ApriFoglio(Foglio& f, const char* metodo);  // false: the file cannot be written, its box was shown
+bool ConcludiFoglio(Foglio& f, bool intero);     // box, close, show; what RelazioneTA and RelazioneSLU return
+bool TitoloCombinazione(Foglio& f, int s);       // empty line, name, seventy dashes
+bool EsitoCombinazione(Foglio& f, int s);        // empty line and verdict
 
-[[nodiscard]] inline bool FineRiga(Foglio& f, std::size_t inizio) {   // inizio: where the line begins in the text
+[[nodiscard]] inline bool FineRiga(Foglio& f, std::size_t inizio) {  // inizio: where the line begins in the text
   f.file.testo.append("\r\n");
   if (!FaultAritmetico()) return true;
   f.file.testo.resize(inizio);

@@ -3,21 +3,24 @@
 #include <cmath>
 
 #include "core/area_resistente.h"
+#include "core/nomi_file.h"
 #include "core/numeri.h"
 #include "engine/Saldature.h"
 #include "engine/righe.h"
 #include "model/stato.h"
 #include "reports/Relazioni.h"
 #include "reports/foglio.h"
-#include "core/nomi_file.h"
 
 constexpr const char* TITOLO_METODO = " - METODO DEGLI STATI LIMITE (NTC 2008)";
 
 namespace {
-struct Colonna { const char* titolo; Cella cella; };
+struct Colonna {
+  const char* titolo;
+  Cella cella;
+};
 }  // namespace
 
-constexpr Cella VUOTO = L(1);              // a literal blank between two columns
+constexpr Cella VUOTO = L(1);  // a literal blank between two columns
 
 constexpr Colonna COL_PROFILI[] = {{"Tipo prof.", LB(20)}, {"h", RB(20)}, {"b", RB(5)}, {"a", RB(5)}, {"e", RB(5)}, {"r", RB(5)}};
 constexpr Colonna COL_PIASTRE[] = {{"Num", LB(5)}, {"Lz", RB(5)}, {"Ly", RB(5)}, {"Sp", RB(5)}};
@@ -53,10 +56,10 @@ constexpr const char* RIGHE_TIRAFONDI[] = {"", "TIRAFONDI", ""};
 constexpr const char* RIGHE_DIMENSIONI[] = {"", "Dimensioni"};
 constexpr const char* RIGHE_MATERIALI[] = {"", "MATERIALI"};
 constexpr const char* RIGHE_STATO[] = {"", "", "SOLLECITAZIONI AGENTI E STATO TENSIONALE", ""};
-constexpr const char* RIGHE_VER_TIRAFONDI[] = {
-  "", "Verifica tirafondi", "Co-1, Co-2: NTC 2008, 4.2.8.1.1 formula (4.2.65)", "Co-3: Ft,Ed / Tad,Rd"};
-constexpr const char* RIGHE_VER_SALDATURE[] = {
-  "", "Verifica saldature", "SEq-1, SLim-1: NTC 2008, 4.2.8.2.4 formula (4.2.78)", "SEq-2, SLim-2: NTC 2008, 4.2.8.2.4 formula (4.2.79)"};
+constexpr const char* RIGHE_VER_TIRAFONDI[] = {"", "Verifica tirafondi", "Co-1, Co-2: NTC 2008, 4.2.8.1.1 formula (4.2.65)",
+                                               "Co-3: Ft,Ed / Tad,Rd"};
+constexpr const char* RIGHE_VER_SALDATURE[] = {"", "Verifica saldature", "SEq-1, SLim-1: NTC 2008, 4.2.8.2.4 formula (4.2.78)",
+                                               "SEq-2, SLim-2: NTC 2008, 4.2.8.2.4 formula (4.2.79)"};
 constexpr const char* RIGHE_VER_PIASTRA[] = {"", "Verifica piastra"};
 constexpr const char* RIGHE_VER_NERVATURE[] = {"", "Verifica nervature"};
 constexpr const char* RIGHE_VER_CLS[] = {"", "Verifica pressione sul calcestruzzo"};
@@ -69,7 +72,9 @@ static bool RigaTitoli(Foglio& f, std::span<const Colonna> colonne) {
 
 // Several values in cells of one form.
 template <class... Valore>
-static void Celle(std::string& t, Cella c, const Valore&... v) { (AggiungiCella(t, v, c), ...); }
+static void Celle(std::string& t, Cella c, const Valore&... v) {
+  (AggiungiCella(t, v, c), ...);
+}
 
 // The verdict's cell, which ends the line.
 static bool RigaVerdetto(Foglio& f, std::size_t inizio, bool passa) {
@@ -104,8 +109,7 @@ static bool RigaPiastra(Foglio& f, const char* nome, double lungo, double h, dou
 // The ribs' rows are written whatever TipoNodo, also for a joint without ribs.
 static bool ScriviPiastre(Foglio& f) {
   const Nodo& nodo = *f.l.nodo;
-  return Righe(f, RIGHE_PIASTRE) && RigaTitoli(f, COL_PIASTRE) &&
-         RigaPiastra(f, "1", nodo.LatoZ, nodo.LatoY, nodo.SpessPiastra) &&
+  return Righe(f, RIGHE_PIASTRE) && RigaTitoli(f, COL_PIASTRE) && RigaPiastra(f, "1", nodo.LatoZ, nodo.LatoY, nodo.SpessPiastra) &&
          RigaPiastra(f, "2(Y)", nodo.LatoY, nodo.HNerv, nodo.SpNerv) &&
          RigaPiastra(f, "3(Z)", (nodo.LatoZ - nodo.Sezione.B) / 2 - nodo.SpNerv, nodo.HNerv, nodo.SpNerv);
 }

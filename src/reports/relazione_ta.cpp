@@ -1,13 +1,13 @@
 // reports/relazione_ta.cpp - report by allowable stresses (CNR 10011/88). Items joined by tabs. Values are judged after Arrotonda1 or
 // Arrotonda2 and shown rounded with ties to even: at a half the number on paper may lie on the other side of its verdict.
 #include "core/area_resistente.h"
+#include "core/nomi_file.h"
 #include "core/numeri.h"
 #include "engine/limiti.h"
 #include "engine/righe.h"
 #include "model/stato.h"
 #include "reports/Relazioni.h"
 #include "reports/foglio.h"
-#include "core/nomi_file.h"
 
 constexpr const char* TITOLO_METODO = " - METODO DELLE TENSIONI AMMISSIBILI (CNR 10011/88)";
 
@@ -22,9 +22,8 @@ constexpr const char* RIGHE_LIMITI[] = {"", "\tTirafondi", "\t\tS_adm tf\tT_adm 
 constexpr const char* RIGHE_BLOCCO_SALDATURE[] = {"", "\tSaldature", "\tNome\tS_prp\tTau_pa\tTau_pe\t% su adm"};
 
 static bool ScriviUnita(Foglio& f) {
-  return Riga(f, TitoloNodi(), TITOLO_METODO) && Riga(f) && Riga(f, "UNITA' DI MISURA:") &&
-         Riga(f, "FORZE:\t\t", suite.UnitaForze) && Riga(f, "MOMENTI:\t", suite.UnitaMomenti) &&
-         Riga(f, "TENSIONI:\t", suite.UnitaTensioni) && Riga(f, "DIMENSIONI:\tmm");
+  return Riga(f, TitoloNodi(), TITOLO_METODO) && Riga(f) && Riga(f, "UNITA' DI MISURA:") && Riga(f, "FORZE:\t\t", suite.UnitaForze) &&
+         Riga(f, "MOMENTI:\t", suite.UnitaMomenti) && Riga(f, "TENSIONI:\t", suite.UnitaTensioni) && Riga(f, "DIMENSIONI:\tmm");
 }
 
 static bool ScriviGeometria(Foglio& f) {
@@ -55,7 +54,8 @@ static bool ScriviSaldature(Foglio& f) {
   const Nodo& nodo = *f.l.nodo;
   if (!Righe(f, RIGHE_SALDATURE) || !Riga(f, "\tNum. saldature: ", f.l.NumSaldature) || !Riga(f, "\tNome\tLungh.\tLato")) return false;
   for (int w = 1; w <= f.l.NumSaldature; ++w)
-    if (SaldaturaElencata(nodo, w) && !Riga(f, "\t", f.l.ris.Saldature[w].Nome, "\t", f.l.ris.Saldature[w].Lung, "\t", nodo.Gola)) return false;
+    if (SaldaturaElencata(nodo, w) && !Riga(f, "\t", f.l.ris.Saldature[w].Nome, "\t", f.l.ris.Saldature[w].Lung, "\t", nodo.Gola))
+      return false;
   return true;
 }
 
@@ -66,21 +66,19 @@ static bool ScriviMateriali(Foglio& f) {
          Riga(f, "\t\t\tsp <= 40mm\tsp > 40mm\tS_adm") &&
          Riga(f, "\tComb. car. I\t", RD(acc.SAmm), "\t\t", RD(acc.SAmm40), "\t\t", RD(f.l.SAmmCls)) &&
          Riga(f, "\tComb. car. II\t", RD(acc.SAmm * CLASSE_II), "\t\t", RD(acc.SAmm40 * CLASSE_II), "\t") &&
-         Riga(f, "\t\t\tAcciaio tirafondi ", tir.Nome, ", S_adm\t\t") &&
-         Riga(f, "\tComb. car. I\t", RD(tir.Fyk / 1.5 / 1.33)) &&
+         Riga(f, "\t\t\tAcciaio tirafondi ", tir.Nome, ", S_adm\t\t") && Riga(f, "\tComb. car. I\t", RD(tir.Fyk / 1.5 / 1.33)) &&
          Riga(f, "\tComb. car. II\t", RD(tir.Fyk / 1.5 * CLASSE_II / 1.33));
 }
 
 static bool ScriviTestata(Foglio& f) {
-  return ScriviUnita(f) && ScriviGeometria(f) && ScriviTirafondi(f) && ScriviNervature(f) && ScriviSaldature(f) &&
-         ScriviMateriali(f) && Righe(f, RIGHE_STATO);
+  return ScriviUnita(f) && ScriviGeometria(f) && ScriviTirafondi(f) && ScriviNervature(f) && ScriviSaldature(f) && ScriviMateriali(f) &&
+         Righe(f, RIGHE_STATO);
 }
 
 static bool ScriviSestetto(Foglio& f, int s) {
   const Nodo& nodo = *f.l.nodo;
   const double F = suite.FattForze, M = suite.FattMomenti;
-  return TitoloCombinazione(f, s) &&
-         Riga(f, "N: ", F * nodo.SollN[s], "\tTy: ", F * nodo.SollTy[s], "\tTz: ", F * nodo.SollTz[s], "\t") &&
+  return TitoloCombinazione(f, s) && Riga(f, "N: ", F * nodo.SollN[s], "\tTy: ", F * nodo.SollTy[s], "\tTz: ", F * nodo.SollTz[s], "\t") &&
          Riga(f, "Mt: ", M * nodo.SollMt[s], "\tMy: ", M * nodo.SollMy[s], "\tMz: ", M * nodo.SollMz[s], "\t\t") &&
          Riga(f, "Combinazione di carico tipo ", nodo.SollCC[s] == 0 ? "I" : "II");
 }
@@ -96,8 +94,7 @@ static bool RigaTirafondo(Foglio& f, int s, int i) {
 static bool BloccoTirafondi(Foglio& f, int s) {
   const LimitiTA& l = f.l.limitiTA[s];
   const Arrotondato tiro = {l.TadRd * suite.FattForze, suite.DecTensioni};
-  if (!Righe(f, RIGHE_LIMITI) ||
-      !Riga(f, "\t\t", RD(l.SAdmTir), "\t\t", RD(l.TauAdmTir), "\t\t", tiro, "\t\t", RD(l.SRfAdm)) ||
+  if (!Righe(f, RIGHE_LIMITI) || !Riga(f, "\t\t", RD(l.SAdmTir), "\t\t", RD(l.TauAdmTir), "\t\t", tiro, "\t\t", RD(l.SRfAdm)) ||
       !Riga(f, "\tNum.\tSigma\t\tTau\tCoeff\tTiro tf\t\tS_rf p"))
     return false;
   for (int i = 1; i <= f.l.nodo->NTir; ++i)
@@ -128,7 +125,8 @@ static bool BloccoPiastra(Foglio& f, int s) {
 }
 
 static bool RigaNervatura(Foglio& f, int s, const char* nome, const int (&posizioni)[4], int criterio) {
-  return Riga(f, "\t", nome, "\t", RD(SMaxNervatura(f.l.ris, s, posizioni) * MM2_SU_CM2), "\t\t", RD(RigheCriterio(f.l, s, criterio)[0].limite));
+  return Riga(f, "\t", nome, "\t", RD(SMaxNervatura(f.l.ris, s, posizioni) * MM2_SU_CM2), "\t\t",
+              RD(RigheCriterio(f.l, s, criterio)[0].limite));
 }
 
 static bool BloccoNervature(Foglio& f, int s) {

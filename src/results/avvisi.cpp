@@ -28,14 +28,16 @@ static void SenzaSestetti(const Contesto& c, std::vector<std::string>& t) {
 
 static void ClsTA(const Contesto& c, std::vector<std::string>& t) {
   if (c.metodo == MetodoTA && ConSestetti(c))
-    t.emplace_back("La pressione ammissibile del calcestruzzo è un numero in N/mm2 confrontato con daN/cm2: il limite è un decimo di quello "
-                   "della norma, a favore di sicurezza.");
+    t.emplace_back(
+      "La pressione ammissibile del calcestruzzo è un numero in N/mm2 confrontato con daN/cm2: il limite è un decimo di quello "
+      "della norma, a favore di sicurezza.");
 }
 
 static void UncinoTA(const Contesto& c, std::vector<std::string>& t) {
   if (c.metodo == MetodoTA && ConSestetti(c) && c.nodo.TipoTirafondo == 1)
-    t.emplace_back("L'aderenza dei tirafondi a uncino è divisa per 100 invece che per 10: è circa un decimo del valore della formula, a favore "
-                   "di sicurezza.");
+    t.emplace_back(
+      "L'aderenza dei tirafondi a uncino è divisa per 100 invece che per 10: è circa un decimo del valore della formula, a favore "
+      "di sicurezza.");
 }
 
 static void Grado(const char* materiale, const std::string& nelFile, const std::string& usato, std::vector<std::string>& t) {
@@ -64,7 +66,9 @@ static void SpessoreOltre40(const Contesto& c, std::vector<std::string>& t) {
   if (!ConSestetti(c)) return;
   const bool piastra = Oltre40(c, c.nodo.SpessPiastra), nervature = c.nodo.TipoNodo == 2 && Oltre40(c, c.nodo.SpNerv);
   if (!piastra && !nervature) return;
-  t.push_back(std::string(piastra && nervature ? "Piastra e nervature" : piastra ? "Piastra" : "Nervature") +
+  t.push_back(std::string(piastra && nervature ? "Piastra e nervature"
+                          : piastra            ? "Piastra"
+                                               : "Nervature") +
               " di spessore di poco oltre 40 mm: vale il limite più basso, con 40 mm varrebbe quello più alto.");
 }
 
@@ -75,7 +79,8 @@ static void TirafondoFuori(const Contesto& c, std::vector<std::string>& t) {
   std::string quali;
   for (int i = 1; i <= c.nodo.NTir && ConSestetti(c); ++i)
     if (FuoriADestra(c.nodo, i)) quali += (quali.empty() ? "" : ", ") + std::to_string(i);
-  if (!quali.empty()) t.push_back("Tirafondi oltre il lato destro della piastra (n. " + quali + "): contano come immersi nel calcestruzzo.");
+  if (!quali.empty())
+    t.push_back("Tirafondi oltre il lato destro della piastra (n. " + quali + "): contano come immersi nel calcestruzzo.");
 }
 
 static void Diametro(const Contesto& c, std::vector<std::string>& t) {
@@ -89,8 +94,9 @@ static void Diametro(const Contesto& c, std::vector<std::string>& t) {
 static void QuotaNervatura(const Contesto& c, std::vector<std::string>& t) {
   const Smussi s = SmussiNervature(c.nodo);
   if (c.nodo.TipoNodo == 2 && s.Z != s.Y)
-    t.emplace_back("I tratti orizzontali delle nervature lungo Z e lungo Y sono diversi: la sezione A-A del disegno quota la nervatura lungo Y "
-                   "con la misura di quella lungo Z.");
+    t.emplace_back(
+      "I tratti orizzontali delle nervature lungo Z e lungo Y sono diversi: la sezione A-A del disegno quota la nervatura lungo Y "
+      "con la misura di quella lungo Z.");
 }
 
 static void NomiConVirgola(const Contesto& c, std::vector<std::string>& t) {
@@ -102,8 +108,7 @@ static void NomiConVirgola(const Contesto& c, std::vector<std::string>& t) {
 static void RigheAlLimite(const Contesto& c, std::vector<std::string>& t) {
   if (c.giudicato == nullptr) return;
   const auto n = std::ranges::count_if(c.giudicato->righe, [&](const RigaControllo& r) { return AlLimite(r, c.metodo); });
-  if (n > 0)
-    t.push_back("Controlli al limite: " + std::to_string(n) + ". L'esito si capovolge se la domanda cambia di un milionesimo.");
+  if (n > 0) t.push_back("Controlli al limite: " + std::to_string(n) + ". L'esito si capovolge se la domanda cambia di un milionesimo.");
 }
 
 namespace {

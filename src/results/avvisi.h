@@ -8,7 +8,7 @@
 #include "engine/lavoro.h"
 
 struct Avviso {
-  std::string id, testo;           // testo: Italian
+  std::string id, testo;  // testo: Italian
 };
 
 // The grades that the node file names. letti false: there is no file, nothing is compared.

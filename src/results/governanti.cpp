@@ -6,13 +6,16 @@
 #include <limits>
 
 constexpr double SCARTO_LIMITE = 1e-6;
-constexpr double SCARTO_ARROTONDA = 0.1;         // farther from its limit no rounding of a check brings a demand across
+constexpr double SCARTO_ARROTONDA = 0.1;  // farther from its limit no rounding of a check brings a demand across
 
 namespace {
-struct Unita { const char* nome; double fattore; };
+struct Unita {
+  const char* nome;
+  double fattore;
+};
 }  // namespace
 
-static constexpr Unita UNITA[] = {{"N/mm2", NMM2_DI_DANCM2}, {"kN", KN_DI_DAN}, {"-", 1}};     // by Grandezza
+static constexpr Unita UNITA[] = {{"N/mm2", NMM2_DI_DANCM2}, {"kN", KN_DI_DAN}, {"-", 1}};  // by Grandezza
 
 std::string_view UnitaRiga(Grandezza g) { return UNITA[static_cast<int>(g)].nome; }
 

@@ -11,20 +11,20 @@
 
 constexpr double KN_DI_DAN = 0.01, KNM_DI_DANCM = 0.0001, NMM2_DI_DANCM2 = 0.1;
 
-struct RigaUscita {                // one row as it goes out
+struct RigaUscita {  // one row as it goes out
   const Criterio* criterio = nullptr;
   int sestetto = 0, elemento = 0;
   double domanda = 0, limite = 0;
-  double rapporto = 0, sfruttamento = 0;         // not a number: none
+  double rapporto = 0, sfruttamento = 0;  // not a number: none
   bool passa = true;
 };
-std::string_view UnitaRiga(Grandezza g);         // "N/mm2", "kN", "-"
+std::string_view UnitaRiga(Grandezza g);  // "N/mm2", "kN", "-"
 RigaUscita InUscita(const RigaControllo& r, int metodo);
 
 constexpr std::size_t NESSUNA_RIGA = static_cast<std::size_t>(-1);
-struct Governanti {                // positions in the Lavoro's rows
+struct Governanti {  // positions in the Lavoro's rows
   std::size_t nodo = NESSUNA_RIGA;
-  std::vector<std::size_t> perControllo;         // of the checks that have rows, in their order
+  std::vector<std::size_t> perControllo;  // of the checks that have rows, in their order
   std::vector<std::size_t> perSestetto;
 };
 Governanti TrovaGovernanti(const Lavoro& l);

@@ -16,13 +16,13 @@
 
 // ---- bands ----
 
-constexpr double PRESSIONE_NULLA = 1e-12;        // of the highest one
-constexpr double PRESSIONE_UNIFORME = 1e-9;      // relative spread of the pressure up to which it is one band
+constexpr double PRESSIONE_NULLA = 1e-12;    // of the highest one
+constexpr double PRESSIONE_UNIFORME = 1e-9;  // relative spread of the pressure up to which it is one band
 
 static double Pressione(const Lavoro& l, int s, PuntoPiano p) { return std::max(0.0, -PressioneNelPunto(l, s, p)); }
 
 namespace {
-struct Contorno {                  // the compressed part, with the pressure at its vertices
+struct Contorno {  // the compressed part, with the pressure at its vertices
   int n = 0;
   std::array<PuntoScena, 8> v;
   std::array<double, 8> p;
@@ -71,7 +71,7 @@ std::vector<Isobara> Isobare(const Lavoro& l, int s) {
   Contorno c = ContornoCompresso(l, s);
   if (c.n < 3) return fasce;
   const auto fine = c.p.begin() + c.n;
-  for (double& p : c.p)            // where the axis cuts, rounding leaves a trace of pressure
+  for (double& p : c.p)  // where the axis cuts, rounding leaves a trace of pressure
     if (p < PRESSIONE_NULLA * *std::max_element(c.p.begin(), fine)) p = 0;
   const double massima = *std::max_element(c.p.begin(), fine), minima = *std::min_element(c.p.begin(), fine);
   if (!(massima > 0)) return fasce;
@@ -90,7 +90,11 @@ std::vector<Isobara> Isobare(const Lavoro& l, int s) {
 constexpr const char* SCALA_PRESSIONI[FASCE_ISOBARE] = {"#fdf6d8", "#f3eab6", "#e3dfa0", "#cdd596", "#b1ca93", "#92bd96",
                                                         "#72ae9b", "#559d9f", "#408a9f", "#347599", "#2f5f8e", "#2c487d"};
 namespace {
-struct ColoreStato { double fino; const char* colore; double spessore; };
+struct ColoreStato {
+  double fino;
+  const char* colore;
+  double spessore;
+};
 }  // namespace
 
 constexpr ColoreStato STATI[] = {{0.5, "#0072b2", 1.5}, {0.8, "#56b4e9", 2.5}, {1, "#e69f00", 3.5}, {HUGE_VAL, "#d55e00", 5}};
@@ -115,7 +119,7 @@ static std::string Decimali(double v, int n) {
   char a[64];
   std::snprintf(a, sizeof a, "%.*f", n, v == 0 ? 0.0 : v);
   std::string t = a;
-  if (t.find_first_not_of("-0.") == std::string::npos && t.front() == '-') t.erase(0, 1);      // no minus before a zero
+  if (t.find_first_not_of("-0.") == std::string::npos && t.front() == '-') t.erase(0, 1);  // no minus before a zero
   std::ranges::replace(t, '.', ',');
   return t;
 }
@@ -193,7 +197,8 @@ static void AggiungiIsobare(Gruppo& g, const std::vector<Isobara>& fasce) {
 
 static std::vector<PuntoScena> SagomaColonna(const Sezione& s) {
   const double b = s.B / 2, h = s.H / 2, a = s.A / 2, e = s.E;
-  return {{-b, -h}, {b, -h}, {b, -h + e}, {a, -h + e}, {a, h - e}, {b, h - e}, {b, h}, {-b, h}, {-b, h - e}, {-a, h - e}, {-a, -h + e}, {-b, -h + e}};
+  return {{-b, -h}, {b, -h}, {b, -h + e}, {a, -h + e}, {a, h - e},   {b, h - e},
+          {b, h},   {-b, h}, {-b, h - e}, {-a, h - e}, {-a, -h + e}, {-b, -h + e}};
 }
 
 static void AggiungiAcciaio(Gruppo& g, const Nodo& n) {
@@ -209,7 +214,8 @@ static void AggiungiAcciaio(Gruppo& g, const Nodo& n) {
 static std::vector<PuntoScena> SagomaSaldatura(const Saldatura& d, double gola) {
   const double dx = d.PZ[3] - d.PZ[1], dy = d.PY[3] - d.PY[1], L = std::sqrt(dx * dx + dy * dy);
   const double nx = L > 0 ? -dy / L * gola / 2 : 0, ny = L > 0 ? dx / L * gola / 2 : 0;
-  return {{d.PZ[1] + nx, -(d.PY[1] + ny)}, {d.PZ[3] + nx, -(d.PY[3] + ny)}, {d.PZ[3] - nx, -(d.PY[3] - ny)}, {d.PZ[1] - nx, -(d.PY[1] - ny)}};
+  return {
+    {d.PZ[1] + nx, -(d.PY[1] + ny)}, {d.PZ[3] + nx, -(d.PY[3] + ny)}, {d.PZ[3] - nx, -(d.PY[3] - ny)}, {d.PZ[1] - nx, -(d.PY[1] - ny)}};
 }
 
 static Elemento ElementoSaldatura(const Saldatura& d, const Carico& c, std::vector<PuntoScena> punti) {
@@ -244,7 +250,7 @@ static void AggiungiTirafondi(Gruppo& g, const Lavoro& l, int s) {
     e.forma = Forma::Cerchio;
     e.punti = {{x, y}};
     e.raggio = n.TfFi / 2;
-    e.riempi = forza > 0 ? BIANCO : GRIGIO;      // a pulled rod is hollow
+    e.riempi = forza > 0 ? BIANCO : GRIGIO;  // a pulled rod is hollow
     e.tratto = Stato(c.sfruttamento, c.passa).colore;
     e.spessore = c.passa ? 2 : 4;
     e.classe = "tirafondo";
@@ -299,7 +305,9 @@ static Gruppo Pianta(const Lavoro& l, int s, const FattiSestetto& f) {
 
 namespace {
 // Labels keep apart: a rod's stands outward of it, away from the plate's centre, and moves on while it would cover another.
-struct Casella { double x1, y1, x2, y2; };
+struct Casella {
+  double x1, y1, x2, y2;
+};
 }  // namespace
 
 static bool Copre(const Casella& a, const Casella& b) { return a.x1 < b.x2 && b.x1 < a.x2 && a.y1 < b.y2 && b.y1 < a.y2; }
@@ -397,8 +405,10 @@ static std::string DoveRiga(const Criterio& c, int elemento) {
 
 static void Testata(Gruppo& foglio, const Lavoro& l, int s) {
   const Nodo& n = *l.nodo;
-  Elemento titolo = Scritta(BORDO, 34, std::string(l.passa[s] ? "VERIFICATO" : "NON VERIFICATO") + " - sestetto " + std::to_string(s) + " " +
-                                           PrimiCaratteri(n.SollNome[s], 60), 18);
+  Elemento titolo = Scritta(BORDO, 34,
+                            std::string(l.passa[s] ? "VERIFICATO" : "NON VERIFICATO") + " - sestetto " + std::to_string(s) + " " +
+                              PrimiCaratteri(n.SollNome[s], 60),
+                            18);
   titolo.grassetto = true;
   foglio.elementi.push_back(std::move(titolo));
   const Governanti g = TrovaGovernanti(l);
@@ -407,8 +417,10 @@ static void Testata(Gruppo& foglio, const Lavoro& l, int s) {
     if (r.sestetto != s) continue;
     const RigaUscita u = InUscita(r, l.TipoVer);
     const std::string unita = u.criterio->grandezza == Grandezza::Rapporto ? "" : " " + std::string(UnitaRiga(u.criterio->grandezza));
-    foglio.elementi.push_back(Scritta(BORDO, 56, "Governa: " + std::string(u.criterio->nome) + DoveRiga(*u.criterio, u.elemento) + ", domanda " +
-                                                     Decimali(u.domanda, 2) + unita + ", limite " + Decimali(u.limite, 2) + unita, 13));
+    foglio.elementi.push_back(Scritta(BORDO, 56,
+                                      "Governa: " + std::string(u.criterio->nome) + DoveRiga(*u.criterio, u.elemento) + ", domanda " +
+                                        Decimali(u.domanda, 2) + unita + ", limite " + Decimali(u.limite, 2) + unita,
+                                      13));
   }
   const std::string carichi = "N " + Decimali(n.SollN[s] * KN_DI_DAN, 1) + "  Ty " + Decimali(n.SollTy[s] * KN_DI_DAN, 1) + "  Tz " +
                               Decimali(n.SollTz[s] * KN_DI_DAN, 1) + " kN;  Mt " + Decimali(n.SollMt[s] * KNM_DI_DANCM, 1) + "  My " +
@@ -446,7 +458,7 @@ Scena ImmagineSestetto(const Lavoro& l, int s) {
   Elemento sfondo = std::move(scritte.front());
   scritte.erase(scritte.begin());
   foglio.elementi = {std::move(sfondo)};
-  Gruppo sopra;                    // labels over the plan
+  Gruppo sopra;  // labels over the plan
   sopra.elementi = std::move(scritte);
   foglio.gruppi.push_back(std::move(pianta));
   foglio.gruppi.push_back(std::move(elevazione));

@@ -17,7 +17,7 @@ void AggiungiNumero(std::string& t, double v) {
     return;
   }
   char a[40];
-  t.append(a, std::to_chars(a, a + sizeof a, v == 0 ? 0.0 : v).ptr);         // no minus before a zero
+  t.append(a, std::to_chars(a, a + sizeof a, v == 0 ? 0.0 : v).ptr);  // no minus before a zero
 }
 
 void AggiungiNumero(std::string& t, int v) {
@@ -33,7 +33,8 @@ static std::size_t LunghezzaUtf8(std::string_view t) {
   if (n == 0 || t.size() < n) return 0;
   for (std::size_t k = 1; k < n; ++k)
     if ((byte(k) & 0xC0) != 0x80) return 0;
-  if ((c == 0xE0 && byte(1) < 0xA0) || (c == 0xED && byte(1) >= 0xA0) || (c == 0xF0 && byte(1) < 0x90) || (c == 0xF4 && byte(1) >= 0x90)) return 0;
+  if ((c == 0xE0 && byte(1) < 0xA0) || (c == 0xED && byte(1) >= 0xA0) || (c == 0xF0 && byte(1) < 0x90) || (c == 0xF4 && byte(1) >= 0x90))
+    return 0;
   return n;
 }
 
@@ -96,7 +97,7 @@ void Chiudi(Scrittura& j, char parentesi) {
 
 void Nome(Scrittura& j, std::string_view nome) {
   j.testo.append(j.primo ? "\"" : ",\"").append(nome).append("\":");
-  j.primo = true;                  // no comma between a name and its value
+  j.primo = true;  // no comma between a name and its value
 }
 
 void Intero(Scrittura& j, std::string_view testo) {

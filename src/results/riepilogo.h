@@ -14,22 +14,22 @@
 
 constexpr const char* SCHEMA_RIEPILOGO = "qb07/riepilogo/1";
 constexpr const char* VERSIONE = QB07_VERSIONE;
-constexpr const char* NOME_METODO[] = {"ta", "slu"};     // by TipoVer
+constexpr const char* NOME_METODO[] = {"ta", "slu"};  // by TipoVer
 
 enum class StatoNodo : unsigned char { Verificato, NonVerificato, NonEseguito };
 constexpr const char* NOME_STATO[] = {"verificato", "non verificato", "non eseguito"};
 
 struct NodoGiudicato {
-  std::string percorso;            // as given
-  std::string nome;                // its stem
-  std::string sha256;              // of the node file; empty: it could not be read
+  std::string percorso;  // as given
+  std::string nome;      // its stem
+  std::string sha256;    // of the node file; empty: it could not be read
   std::string suite_sha256;
   char decimale = '.';
   bool rispondiOk = true;
-  int metodo = -1;                 // -1: not known, the file could not be loaded
+  int metodo = -1;  // -1: not known, the file could not be loaded
   StatoNodo stato = StatoNodo::NonEseguito;
-  std::string motivo;              // the box that stopped it
-  const Nodo* nodo = nullptr;      // as loaded; null: it was not
+  std::string motivo;          // the box that stopped it
+  const Nodo* nodo = nullptr;  // as loaded; null: it was not
   const Suite* suite = nullptr;
   const Lavoro* lavoro = nullptr;  // worked out and judged; null: it was not
   RigheGeometria geometria;
@@ -40,7 +40,10 @@ std::string NodoInJson(const NodoGiudicato& n, bool tutteLeRighe);
 std::string NodoPersoInJson(NodoGiudicato n, const std::string& motivo, bool tutteLeRighe);
 
 enum class FormatoRiepilogo : unsigned char { Json, Jsonl, Csv, CsvIt, Testo };
-struct RigaFormatoRiepilogo { std::string_view nome; FormatoRiepilogo formato; };
+struct RigaFormatoRiepilogo {
+  std::string_view nome;
+  FormatoRiepilogo formato;
+};
 // clang-format off
 constexpr RigaFormatoRiepilogo FORMATI_RIEPILOGO[] = {
   { "json", FormatoRiepilogo::Json },     { "jsonl", FormatoRiepilogo::Jsonl }, { "csv", FormatoRiepilogo::Csv },
@@ -56,9 +59,9 @@ std::string PiedeRiepilogo(FormatoRiepilogo f);
 // ---- going on from an earlier output ----
 
 struct RigaRipresa {
-  std::string percorso, metodo;    // what the line is about; empty: it is another version's
-  std::string riga;                // as it stands, without its end
-  std::string oggetto;             // the same without schema and program
+  std::string percorso, metodo;  // what the line is about; empty: it is another version's
+  std::string riga;              // as it stands, without its end
+  std::string oggetto;           // the same without schema and program
 };
 enum class EsitoRipresa : unsigned char { Letta, Troncata, NonValida };
 // One line of an earlier jsonl output. Troncata: a last line that was cut (no line end behind it).

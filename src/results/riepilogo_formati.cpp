@@ -55,7 +55,9 @@ struct FormaCsv {
 
 static constexpr FormaCsv CSV = {',', '.', "\n"}, CSV_IT = {';', ',', "\r\n"};
 
-static bool SembraFormula(std::string_view t) { return !t.empty() && std::string_view("=+-@\t\r").find(t.front()) != std::string_view::npos; }
+static bool SembraFormula(std::string_view t) {
+  return !t.empty() && std::string_view("=+-@\t\r").find(t.front()) != std::string_view::npos;
+}
 
 static std::string CampoTesto(std::string_view t, const FormaCsv& f) {
   std::string v = SembraFormula(t) ? "'" + std::string(t) : std::string(t);
@@ -152,7 +154,10 @@ std::string PiedeRiepilogo(FormatoRiepilogo f) { return f == FormatoRiepilogo::J
 
 namespace {
 // The members that every object has, with their kinds: n null, t text, l list, o object.
-struct MembroAtteso { std::string_view nome; std::string_view generi; };
+struct MembroAtteso {
+  std::string_view nome;
+  std::string_view generi;
+};
 }  // namespace
 
 // clang-format off
@@ -190,7 +195,7 @@ EsitoRipresa LeggiRigaRipresa(std::string_view riga, bool intera, RigaRipresa& r
   if (!json::Leggi(riga, v)) return intera || !riga.starts_with('{') ? EsitoRipresa::NonValida : EsitoRipresa::Troncata;
   if (!Risultato(v)) return EsitoRipresa::NonValida;
   r = {};
-  if (TestoDi(Cerca(*Cerca(v, "programma"), "versione")) != VERSIONE) return EsitoRipresa::Letta;      // another version's: worked out anew
+  if (TestoDi(Cerca(*Cerca(v, "programma"), "versione")) != VERSIONE) return EsitoRipresa::Letta;  // another version's: worked out anew
   r.percorso = TestoDi(Cerca(v, "percorso"));
   r.metodo = TestoDi(Cerca(v, "metodo"));
   for (const std::string_view nome : {std::string_view("schema"), std::string_view("programma")}) {
@@ -208,8 +213,10 @@ bool RipresaVale(const RigaRipresa& r, const NodoGiudicato& atteso, bool tutteLe
   if (r.oggetto.empty() || r.percorso != atteso.percorso || atteso.sha256.empty() || !json::Leggi(r.oggetto, v)) return false;
   const Letto* opzioni = Cerca(v, "opzioni");
   const Letto* ingresso = Cerca(v, "ingresso");
-  if (ingresso == nullptr || ingresso->genere != Letto::Genere::Oggetto) return false;      // lost, perhaps by no fault of the file: tried again
-  if (opzioni == nullptr || TestoDi(Cerca(v, "sha256")) != atteso.sha256 || TestoDi(Cerca(v, "suite_sha256")) != atteso.suite_sha256) return false;
+  if (ingresso == nullptr || ingresso->genere != Letto::Genere::Oggetto)
+    return false;  // lost, perhaps by no fault of the file: tried again
+  if (opzioni == nullptr || TestoDi(Cerca(v, "sha256")) != atteso.sha256 || TestoDi(Cerca(v, "suite_sha256")) != atteso.suite_sha256)
+    return false;
   const bool stesseOpzioni = atteso.metodo >= 0 && TestoDi(Cerca(*opzioni, "metodo")) == NOME_METODO[atteso.metodo] &&
                              TestoDi(Cerca(*opzioni, "decimale")) == std::string_view(&atteso.decimale, 1) &&
                              TestoDi(Cerca(*opzioni, "rispondi")) == (atteso.rispondiOk ? "ok" : "annulla");

@@ -18,7 +18,8 @@ constexpr int DECIMALI_RAPPORTO = 3;
 // Cut to so many characters, three points in one where something was left out. Control characters would reach the terminal: blanks.
 static std::string Entro(std::string_view t, std::size_t caratteri) {
   std::string r = NumCaratteri(t) <= caratteri ? std::string(t) : PrimiCaratteri(t, caratteri - 1) + "\u2026";
-  std::ranges::replace_if(r, [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7f; }, ' ');
+  std::ranges::replace_if(
+    r, [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7f; }, ' ');
   return r;
 }
 
@@ -108,7 +109,8 @@ std::string TabellaNodo(std::string_view oggetto, bool primo) {
   std::string titolo(TestoDi(Cerca(nodo, "nome")));
   if (!metodo.empty()) titolo.append(metodo == "ta" ? " - tensioni ammissibili" : " - stati limite");
   std::string t = primo ? "" : "\n";
-  t += Piega("", titolo.append(": ").append(TestoDi(Cerca(nodo, "stato"))).append("  (").append(TestoDi(Cerca(nodo, "percorso"))).append(")"));
+  t +=
+    Piega("", titolo.append(": ").append(TestoDi(Cerca(nodo, "stato"))).append("  (").append(TestoDi(Cerca(nodo, "percorso"))).append(")"));
   if (const std::string_view motivo = TestoDi(Cerca(nodo, "motivo")); !motivo.empty()) t += Piega("  motivo: ", motivo);
   const Letto* governanti = Cerca(nodo, "governanti");
   const Letto* righe = governanti != nullptr ? Cerca(*governanti, "per_controllo") : nullptr;

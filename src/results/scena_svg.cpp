@@ -19,7 +19,7 @@ static std::string Sicuro(std::string_view t) {
       case '<': r += "&lt;"; break;
       case '>': r += "&gt;"; break;
       case '"': r += "&quot;"; break;
-      default: r += static_cast<unsigned char>(c) < 0x20 ? ' ' : c;      // XML has no place for the others
+      default: r += static_cast<unsigned char>(c) < 0x20 ? ' ' : c;  // XML has no place for the others
     }
   }
   return r;

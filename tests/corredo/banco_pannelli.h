@@ -44,6 +44,10 @@ inline std::string Suggerimento(const Pannello& p, const char* nome, int i = SEN
   return t.uno != nullptr ? t.uno : t.voci[static_cast<std::size_t>(c.indice - c.riga->primo)];
 }
 
-struct TestoAtteso { const char* nome; int i; const char* testo; };
+struct TestoAtteso {
+  const char* nome;
+  int i;
+  const char* testo;
+};
 
 inline std::string UltimoEvento() { return registratore.eventi.empty() ? "" : registratore.eventi.back(); }

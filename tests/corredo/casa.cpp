@@ -13,7 +13,10 @@
 namespace {
 
 // From the ground upward; rooms of one storey do not know each other.
-struct Stanza { const char* nome; int piano; };
+struct Stanza {
+  const char* nome;
+  int piano;
+};
 // clang-format off
 constexpr Stanza STANZE[] = {
   {"model", 0}, {"core", 1}, {"engine", 2}, {"results", 3}, {"reports", 3}, {"drawing", 3}, {"link", 3}, {"materials", 3}, {"panels", 4}, {"app", 5},
@@ -26,7 +29,14 @@ constexpr std::string_view FUORI_PORTATA[] = {
 };
 
 // Each names who told the author instead of the reason. Cut in two, so that this file does not hold them.
-const std::string PAROLE[] = {"deliber" "ate", "as " "told", "the rules " "say", "the text " "says"};
+const std::string PAROLE[] = {"deliber"
+                              "ate",
+                              "as "
+                              "told",
+                              "the rules "
+                              "say",
+                              "the text "
+                              "says"};
 
 int Piano(const std::string& file) {
   for (const Stanza& k : STANZE)
@@ -85,7 +95,7 @@ std::string UnaRiga(const std::string& t) {
 // A declaration at namespace scope: what stands outside of its braces (each pair as {}), and what in them.
 struct Dichiarazione {
   std::string testo, corpo;
-  bool anonima = false;            // in an anonymous namespace
+  bool anonima = false;  // in an anonymous namespace
 };
 
 bool EFunzione(const std::string& t) {
@@ -96,7 +106,7 @@ bool EFunzione(const std::string& t) {
 std::vector<Dichiarazione> Dichiarazioni(const std::string& sorgente) {
   const std::string t = SenzaCommenti(sorgente);
   std::vector<Dichiarazione> r;
-  std::vector<bool> spazi;         // namespaces around, true the anonymous ones
+  std::vector<bool> spazi;  // namespaces around, true the anonymous ones
   Dichiarazione d;
   const auto chiudi = [&] {
     d.testo = UnaRiga(d.testo);
@@ -131,7 +141,8 @@ std::vector<Dichiarazione> Dichiarazioni(const std::string& sorgente) {
 
 // Declared type, empty: none. `struct X;` declares without being one.
 std::string Tipo(const Dichiarazione& d) {
-  static const std::regex TIPO("(?:template ?<.*> ?)?(?:struct|class|union|enum class|enum) (?:alignas\\(.*\\) )?(\\w+)(?: final)?(?: ?:[^{]*)? ?\\{.*");
+  static const std::regex TIPO(
+    "(?:template ?<.*> ?)?(?:struct|class|union|enum class|enum) (?:alignas\\(.*\\) )?(\\w+)(?: final)?(?: ?:[^{]*)? ?\\{.*");
   std::smatch m;
   return std::regex_match(d.testo, m, TIPO) ? m[1].str() : "";
 }
@@ -161,7 +172,7 @@ struct Grafo {
   std::vector<std::string> pila;
   Rilievi anelli;
 
-  void Visita(const std::string& v) {          // Tarjan's: a component of more than one module is a ring
+  void Visita(const std::string& v) {  // Tarjan's: a component of more than one module is a ring
     const int mio = static_cast<int>(numero.size()) + 1;
     numero[v] = basso[v] = mio;
     pila.push_back(v);
@@ -240,7 +251,10 @@ Rilievi PortataDelMotore(const Sorgenti& s) {
 }
 
 Rilievi TipiDoppi(const Sorgenti& s) {
-  struct Luogo { std::string file; bool anonimo; };
+  struct Luogo {
+    std::string file;
+    bool anonimo;
+  };
   std::map<std::string, std::vector<Luogo>> tipi;
   for (const auto& [file, testo] : s)
     for (const Dichiarazione& d : Dichiarazioni(testo))

@@ -6,9 +6,11 @@
 // Units     mm, daN, daN mm. Signs: tension +; My turns against x, Mz with y.
 #pragma once
 
-struct Reazioni { double N = 0, My = 0, Mz = 0; };                 // daN, daN mm
+struct Reazioni {
+  double N = 0, My = 0, Mz = 0;
+};  // daN, daN mm
 
-Reazioni ReazioniPiano(double piano_y, double piano_x, double piano_1);    // of nodo's plate and anchors
+Reazioni ReazioniPiano(double piano_y, double piano_x, double piano_1);  // of nodo's plate and anchors
 
 // Solves sextet s of nodo and gives the differences from its load: N, My, Mz. True: the solver succeeded and each is within
 // one unit plus 0.01 per cent of the load.

@@ -49,7 +49,8 @@ class FoglioDisegno : public ::testing::Test {
   void Angolo(double x, double y, int q) {
     for (int i = TrovaArco(x, y, 7, OX, OY); i >= 0; i = TrovaArco(x, y, 7, OX, OY, i)) {
       const double a = (q - 1) * 1.570796;
-      if (std::abs(disegno.CoordX[disegno.ArcIni[i]] - (OX + x + 7 * std::cos(a))) < 1e-3 && std::abs(disegno.CoordY[disegno.ArcIni[i]] - (OY + y + 7 * std::sin(a))) < 1e-3) {
+      if (std::abs(disegno.CoordX[disegno.ArcIni[i]] - (OX + x + 7 * std::cos(a))) < 1e-3 &&
+          std::abs(disegno.CoordY[disegno.ArcIni[i]] - (OY + y + 7 * std::sin(a))) < 1e-3) {
         EXPECT_EQ(disegno.ArcCol[i], 9);
         return;
       }
@@ -64,5 +65,5 @@ class FoglioDisegno : public ::testing::Test {
     EXPECT_EQ(disegno.TesAng[i], angolo);
     EXPECT_EQ(disegno.TesCol[i], colore);
   }
-  double OX = 0, OY = 0;           // origin of the view that is looked at
+  double OX = 0, OY = 0;  // origin of the view that is looked at
 };

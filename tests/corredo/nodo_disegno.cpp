@@ -8,15 +8,34 @@
 
 void NodoDiProva() {
   nodo.Sezione.Nome = "HEX 200           ";
-  nodo.Sezione.H = 200; nodo.Sezione.B = 180; nodo.Sezione.A = 10; nodo.Sezione.E = 15; nodo.Sezione.R = 12;
-  nodo.LatoZ = 400; nodo.LatoY = 500; nodo.SpessPiastra = 20;
-  nodo.TipoNodo = 2; nodo.HNerv = 150; nodo.SpNerv = 8; nodo.SaldInt = 0;
-  nodo.Gola = 7; nodo.GolaCalc = 7 / std::sqrt(2.0);
-  nodo.NTir = 4; nodo.OptionNTir = 0;
+  nodo.Sezione.H = 200;
+  nodo.Sezione.B = 180;
+  nodo.Sezione.A = 10;
+  nodo.Sezione.E = 15;
+  nodo.Sezione.R = 12;
+  nodo.LatoZ = 400;
+  nodo.LatoY = 500;
+  nodo.SpessPiastra = 20;
+  nodo.TipoNodo = 2;
+  nodo.HNerv = 150;
+  nodo.SpNerv = 8;
+  nodo.SaldInt = 0;
+  nodo.Gola = 7;
+  nodo.GolaCalc = 7 / std::sqrt(2.0);
+  nodo.NTir = 4;
+  nodo.OptionNTir = 0;
   const double z[] = {60, 340, 60, 340, 200, 200, 200, 200}, y[] = {70, 70, 430, 430, 250, 250, 430, 70};
   for (int i = 1; i <= 8; ++i) nodo.TfZ[i] = z[i - 1], nodo.TfY[i] = y[i - 1];
-  nodo.TipoTirafondo = 0; nodo.TfFi = 20; nodo.TfLFt = 120; nodo.TfL = 500; nodo.TfR = 70; nodo.TfL1 = 450; nodo.TfLF = 10;
-  nodo.TfDForo = 100; nodo.TfHMalta = 50; nodo.TfLFil = 40;
+  nodo.TipoTirafondo = 0;
+  nodo.TfFi = 20;
+  nodo.TfLFt = 120;
+  nodo.TfL = 500;
+  nodo.TfR = 70;
+  nodo.TfL1 = 450;
+  nodo.TfLF = 10;
+  nodo.TfDForo = 100;
+  nodo.TfHMalta = 50;
+  nodo.TfLFil = 40;
 }
 
 void OpzioniDiProva() {
@@ -24,13 +43,16 @@ void OpzioniDiProva() {
   for (int i = 0; i <= 20; ++i) suite.ParNodo[i] = p[i];
 }
 
-static bool Vicino(int coord, double x, double y) { return std::abs(disegno.CoordX[coord] - x) < 1e-3 && std::abs(disegno.CoordY[coord] - y) < 1e-3; }
+static bool Vicino(int coord, double x, double y) {
+  return std::abs(disegno.CoordX[coord] - x) < 1e-3 && std::abs(disegno.CoordY[coord] - y) < 1e-3;
+}
 
 int TrovaLinea(double x1, double y1, double x2, double y2, double OX, double OY) {
   const Disegno& d = disegno;
   for (int i = 0; i < d.NumLinee; ++i) {
     const int a = d.LinIni[i], b = d.LinFin[i];
-    if ((Vicino(a, OX + x1, OY + y1) && Vicino(b, OX + x2, OY + y2)) || (Vicino(b, OX + x1, OY + y1) && Vicino(a, OX + x2, OY + y2))) return i;
+    if ((Vicino(a, OX + x1, OY + y1) && Vicino(b, OX + x2, OY + y2)) || (Vicino(b, OX + x1, OY + y1) && Vicino(a, OX + x2, OY + y2)))
+      return i;
   }
   return -1;
 }

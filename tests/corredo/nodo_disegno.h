@@ -12,5 +12,5 @@ void OpzioniDiProva();
 // A line of the store between two points, either way round, within 0.001; index or -1. Sheet coordinates less (OX, OY).
 int TrovaLinea(double x1, double y1, double x2, double y2, double OX = 0, double OY = 0);
 int TrovaArco(double xc, double yc, double raggio, double OX = 0, double OY = 0, int dopo = -1);
-int TrovaTesto(const std::string& testo, int dopo = -1);      // index of the next text behind dopo, or -1
+int TrovaTesto(const std::string& testo, int dopo = -1);  // index of the next text behind dopo, or -1
 int ContaTesti(const std::string& testo);

@@ -10,18 +10,30 @@
 
 // The anchors of a pattern (0 four, 1 eight, 2 six "Vert.", 3 six "Orizz."), z and y from the plate's edges.
 inline void SchemaProva(int schema, double z = 50, double y = 50) {
-  static constexpr std::int16_t NUMERO[] = { 4, 8, 6, 6 };
+  static constexpr std::int16_t NUMERO[] = {4, 8, 6, 6};
   nodo.OptionNTir = schema;
   nodo.NTir = NUMERO[schema];
-  const auto posto = [](int i, double tz, double ty) { nodo.TfZ[i] = tz; nodo.TfY[i] = ty; };
+  const auto posto = [](int i, double tz, double ty) {
+    nodo.TfZ[i] = tz;
+    nodo.TfY[i] = ty;
+  };
   const double Z = nodo.LatoZ, Y = nodo.LatoY;
   posto(1, z, y);
   posto(2, Z - z, y);
   posto(3, z, Y - y);
   posto(4, Z - z, Y - y);
-  if (schema == 1 || schema == 2) { posto(5, z, Y / 2); posto(6, Z - z, Y / 2); }
-  if (schema == 1) { posto(7, Z / 2, Y - y); posto(8, Z / 2, y); }
-  if (schema == 3) { posto(5, Z / 2, Y - y); posto(6, Z / 2, y); }
+  if (schema == 1 || schema == 2) {
+    posto(5, z, Y / 2);
+    posto(6, Z - z, Y / 2);
+  }
+  if (schema == 1) {
+    posto(7, Z / 2, Y - y);
+    posto(8, Z / 2, y);
+  }
+  if (schema == 3) {
+    posto(5, Z / 2, Y - y);
+    posto(6, Z / 2, y);
+  }
 }
 
 // One more sextet: daN, daN cm. Returns its index.
@@ -39,8 +51,8 @@ inline int SestettoProva(double N, double Ty, double Tz, double Mt, double My, d
 inline void NodoProva() {
   MontaRegistratore();
   AzzeraFault();
-  suite.NumDiam = 3;                                   // M20, M24, M30
-  const double diametri[] = { 20, 24, 30 }, aree[] = { 245, 353, 561 };
+  suite.NumDiam = 3;  // M20, M24, M30
+  const double diametri[] = {20, 24, 30}, aree[] = {245, 353, 561};
   for (int r = 0; r < 3; ++r) {
     suite.DiamVal[r] = diametri[r];
     suite.DiamArea[r] = aree[r];
@@ -58,7 +70,7 @@ inline void NodoProva() {
   nodo.HNerv = 150;
   nodo.SpNerv = 10;
   nodo.Gola = 8;
-  nodo.GolaCalc = 5;                                   // a round throat, not 8 / sqrt 2
+  nodo.GolaCalc = 5;  // a round throat, not 8 / sqrt 2
   nodo.TfFi = 20;
   nodo.TfL = 500;
   nodo.TfL1 = 450;
@@ -70,7 +82,7 @@ inline void NodoProva() {
   nodo.TfDistBordo = 200;
   nodo.MatCls.Rck = 300;
   nodo.MatCls.GammaC = 1.5;
-  nodo.EcCls = 312201.85778;                           // 5700 sqrt 30 10
+  nodo.EcCls = 312201.85778;  // 5700 sqrt 30 10
   nodo.MatAcc.Nome = "S 235 (FE 360)";
   nodo.MatAcc.SAmm = 1600;
   nodo.MatAcc.SAmm40 = 1400;

@@ -18,14 +18,14 @@ using Riquadri = std::vector<std::string>;
 
 struct Lettore {
   const char* nome;
-  const char* file;                // below the scratch folder
-  int casuali;                     // random files, thousands under the sanitizers
+  const char* file;  // below the scratch folder
+  int casuali;       // random files, thousands under the sanitizers
   std::string valido;
-  void (*leggi)(const std::string& cartella);              // reads, then tests what it left
+  void (*leggi)(const std::string& cartella);  // reads, then tests what it left
   Riquadri riquadri;
-  Riquadri base = {};                                      // boxes that the valid file shows too
-  void (*mancante)(const std::string& cartella) = nullptr; // reads a file that cannot be opened and tests; else leggi does
-  std::vector<std::string> corpo = {};                     // files met before or thought of, read as they are
+  Riquadri base = {};                                       // boxes that the valid file shows too
+  void (*mancante)(const std::string& cartella) = nullptr;  // reads a file that cannot be opened and tests; else leggi does
+  std::vector<std::string> corpo = {};                      // files met before or thought of, read as they are
 };
 const std::vector<Lettore>& Lettori();
 
@@ -69,7 +69,7 @@ struct FileOstili : testing::TestWithParam<std::size_t> {
   void Inizio() { MontaRegistratore(); }
 };
 
-TEST_P(FileOstili, ValidoComeBase) {         // the base of the others is read as it should be
+TEST_P(FileOstili, ValidoComeBase) {  // the base of the others is read as it should be
   Inizio();
   Prova(l.valido);
   SoloRiquadri(l.base);
@@ -110,8 +110,9 @@ TEST_P(FileOstili, ByteCambiati) {
 
 TEST_P(FileOstili, ContiENumeriOstili) {
   Inizio();
-  const char* numeri[] = {"-1", "32767", "99999", "1e400", "-1e400", "1e308", "nan", "inf", "1e-400", "2147483648", "-32769", "99999999999999999999999999"};
-  for (std::size_t p = 0; p < l.valido.size();) {          // each number of the file replaced
+  const char* numeri[] = {"-1",  "32767", "99999",  "1e400",      "-1e400", "1e308",
+                          "nan", "inf",   "1e-400", "2147483648", "-32769", "99999999999999999999999999"};
+  for (std::size_t p = 0; p < l.valido.size();) {  // each number of the file replaced
     if (l.valido[p] < '0' || l.valido[p] > '9') {
       ++p;
       continue;
@@ -149,7 +150,7 @@ TEST_P(FileOstili, VuotoBinarioEnorme) {
 
 TEST_P(FileOstili, MancanteOCartella) {
   Inizio();
-  std::filesystem::create_directories(cartella + "/" + l.file);     // a folder in the file's place: cannot be opened
+  std::filesystem::create_directories(cartella + "/" + l.file);  // a folder in the file's place: cannot be opened
   if (l.mancante != nullptr) {
     l.mancante(cartella);
     return;
@@ -166,7 +167,9 @@ inline std::string Guasta(std::string t, std::mt19937& caso) {
   for (unsigned k = 1 + caso() % 4; k > 0; --k) {
     const std::size_t n = t.size() + 1, p = caso() % n, q = p + caso() % (n - p), lungo = std::min<std::size_t>(q - p, 200);
     switch (caso() % 5) {
-      case 0: if (p < t.size()) t[p] = static_cast<char>(caso() % 256); break;
+      case 0:
+        if (p < t.size()) t[p] = static_cast<char>(caso() % 256);
+        break;
       case 1: t.erase(p, lungo); break;
       case 2: t.insert(p, t.substr(p, lungo)); break;
       case 3: t.insert(p, pezzi[caso() % std::size(pezzi)]); break;

@@ -81,8 +81,7 @@ void PannelloPronto() {
   for (int n = 1; n <= materiali.NumCls; n++) classi.push_back(materiali.ClsBase[n].Nome);
   MostraVoci(insDati.TraveP, profili);
   MostraVoci(insDati.ComboCalcestruzzo, classi);
-  MostraVoci(insDati.ComboEsposizione, {"Esposto a fenomeni corrosivi", "Non esposto a fenomeni corrosivi",
-                                        "Resistente alla corrosione"});
+  MostraVoci(insDati.ComboEsposizione, {"Esposto a fenomeni corrosivi", "Non esposto a fenomeni corrosivi", "Resistente alla corrosione"});
   RiempiComboMateriali(insDati.Acc, true, "PROFILI", "");
   RiempiComboMateriali(insDati.Cviti, true, "BULLONI", "");
   AzzeraNodo();

@@ -22,9 +22,7 @@ static T Togli(std::vector<T>& coda) {
   return primo;
 }
 
-static void RegMessaggio(const std::string& testo, const std::string& titolo, Icona icona) {
-  Evento(RigaMessaggio(testo, titolo, icona));
-}
+static void RegMessaggio(const std::string& testo, const std::string& titolo, Icona icona) { Evento(RigaMessaggio(testo, titolo, icona)); }
 
 static bool RegDomanda(const std::string& testo, const std::string& titolo, Icona icona) {
   const bool ok = registratore.risposte.empty() || Togli(registratore.risposte);
@@ -60,16 +58,14 @@ static bool RegAttivaFinestra(const std::string& titolo) {
   return false;
 }
 
-static void RegTimer(Temporizzatore quale, int ms, void (*scaduto)()) {
-  registratore.timer[static_cast<int>(quale)] = {ms, scaduto};
-}
+static void RegTimer(Temporizzatore quale, int ms, void (*scaduto)()) { registratore.timer[static_cast<int>(quale)] = {ms, scaduto}; }
 
 static void RegApri(const Pannello& p, bool modale) {
   registratore.pannelli.push_back(p.nome);
   PannelloMostrato(p, modale);
   if (!modale) return;
   if (!registratore.dentro.empty()) Togli(registratore.dentro)();
-  if (p.aperto != nullptr && *p.aperto) PannelloNascosto(p);   // a test that forgot to close it must not hang
+  if (p.aperto != nullptr && *p.aperto) PannelloNascosto(p);  // a test that forgot to close it must not hang
 }
 
 void MontaRegistratore() {
@@ -95,7 +91,7 @@ void MontaRegistratore() {
     registratore.finito = true;
     Evento(RIGA_FINE);
   };
-  lavoro.usato = true;                                    // tests fill its tables by hand
+  lavoro.usato = true;  // tests fill its tables by hand
   AzzeraProgramma();
 }
 
@@ -114,7 +110,7 @@ static std::filesystem::path CartellaProcesso() {
   return std::filesystem::temp_directory_path(errore) / ("qb07-prova-" + std::to_string(getpid()));
 }
 
-static void RipulisciCartelle() {     // a forked child has another number, and removes nothing of its parent
+static void RipulisciCartelle() {  // a forked child has another number, and removes nothing of its parent
   std::error_code errore;
   std::filesystem::remove_all(CartellaProcesso(), errore);
 }

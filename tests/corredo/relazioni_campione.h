@@ -77,7 +77,8 @@ class ProvaRelazione : public ::testing::Test {
     return metodo == MetodoTA ? RelazioneTA(lavoro) : RelazioneSLU(lavoro);
   }
   static bool Scritta() {
-    return std::any_of(registratore.eventi.begin(), registratore.eventi.end(), [](const std::string& e) { return e.starts_with("[testo] "); });
+    return std::any_of(registratore.eventi.begin(), registratore.eventi.end(),
+                       [](const std::string& e) { return e.starts_with("[testo] "); });
   }
   // Where the checks stopped.
   static void Fermo(int sestetto, int criterio, int elemento) {

@@ -39,7 +39,7 @@ static void ScattaPagine(const Pannello& p, QTabWidget& schede) {
 }
 
 static void ScattaPannello(const Pannello& p) {
-  if (&p == &Sez3D) {                     // the bars at the model's first base
+  if (&p == &Sez3D) {  // the bars at the model's first base
     ImpostaTesto(sez3D.NodoTxt, "1");
     Scatena(Sez3D, sez3D.Cerca, Evento::Cambio);
   }
@@ -60,10 +60,13 @@ int main(int argc, char** argv) {
   if (!CaricaInsDati(Utf8(argomenti[1]))) return 2;
   cartella = Utf8(argomenti[2]);
   QWidget& principale = *FinestraDi(InsDati)->finestra;
-  principale.resize(1240, 690);           // what fits a small screen, whatever this one is
+  principale.resize(1240, 690);  // what fits a small screen, whatever this one is
   if (argomenti.size() > 3) {
     nodo_ = Utf8(argomenti[3]);
-    piattaforma.scegliFile = [](const RichiestaFile&, std::string& percorso, int&) { percorso = nodo_; return true; };
+    piattaforma.scegliFile = [](const RichiestaFile&, std::string& percorso, int&) {
+      percorso = nodo_;
+      return true;
+    };
     InsDati_Car_Nodo(0);
     AggiornaTitoli();
   }
@@ -71,7 +74,7 @@ int main(int argc, char** argv) {
   ScattaPagine(InsDati, *dynamic_cast<QTabWidget*>(LegameDi(insDati.SSTab)->oggetto));
   finestre.dentroModale = ScattaPannello;
   for (const Pannello* p : Pannelli())
-    if (p == &PropMateriali) InsDati_PropMatButton(0);     // the command fills it
+    if (p == &PropMateriali) InsDati_PropMatButton(0);  // the command fills it
     else if (p != &InsDati) ApriPannello(*p, true);
   principale.hide();
   return mancate == 0 ? 0 : 3;

@@ -86,7 +86,7 @@ static void Scorri(QScrollBar& barra, int valore) {
   for (int k = 0; k < 1000 && barra.value() != meta; ++k) QTest::keyClick(&barra, barra.value() < meta ? Qt::Key_Down : Qt::Key_Up);
 }
 
-static QPoint Segno(const QWidget& w) { return QPoint(9, w.height() / 2); }      // of a tick or a choice
+static QPoint Segno(const QWidget& w) { return QPoint(9, w.height() / 2); }  // of a tick or a choice
 
 static bool Sceglie(const Pannello&, Controllo& c, int posizione) {
   QWidget& w = Pronto(c);

@@ -20,7 +20,7 @@
 
 static void DentroModale(const Pannello& p) {
   EseguiCopione(&p);
-  if (p.aperto != nullptr && *p.aperto) Esci(StatoUscita());      // the script ended inside
+  if (p.aperto != nullptr && *p.aperto) Esci(StatoUscita());  // the script ended inside
 }
 
 // What the platform without a screen says of itself is none of the program's; every other word of the toolkit is an error.

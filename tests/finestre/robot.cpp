@@ -20,9 +20,9 @@
 #include <QTimer>
 
 struct StatoRobot {
-  Piattaforma finestre;                   // the real operations
-  RispostaFile file;                      // to the dialog on screen
-  bool rifiutato = false;                 // the dialog did not take the name
+  Piattaforma finestre;    // the real operations
+  RispostaFile file;       // to the dialog on screen
+  bool rifiutato = false;  // the dialog did not take the name
 };
 static StatoRobot robot;
 
@@ -90,7 +90,7 @@ static void Scegli() {
     QTest::keyClick(d, Qt::Key_Escape);
     return;
   }
-  QTest::qWait(300);                      // the folder's listing comes from a thread of the toolkit
+  QTest::qWait(300);  // the folder's listing comes from a thread of the toolkit
   auto* filtri = d->findChild<QComboBox*>("fileTypeCombo");
   if (filtri != nullptr && filtri->count() >= robot.file.filtro) {
     filtri->setFocus();
@@ -145,7 +145,7 @@ static bool RobotEsegui(const std::string& programma, const std::string& argomen
 void MontaRobot() {
   MontaPiattaformaQt();
   robot.finestre = piattaforma;
-  MontaPiattaforma();                     // lines, virtual time, programs that are not waited for
+  MontaPiattaforma();  // lines, virtual time, programs that are not waited for
   piattaforma.messaggio = RobotMessaggio;
   piattaforma.domanda = RobotDomanda;
   piattaforma.scegliFile = RobotScegliFile;

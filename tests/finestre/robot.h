@@ -2,4 +2,4 @@
 // as its event line, and answered by mouse and keyboard with what the script has queued.
 #pragma once
 
-void MontaRobot();           // behind the platforms of both hosts: keeps the windows', answers for the script
+void MontaRobot();  // behind the platforms of both hosts: keeps the windows', answers for the script

@@ -46,7 +46,8 @@ QLineEdit* CampoDi(const Controllo& c) { return dynamic_cast<QLineEdit*>(Oggetto
 void MostraPagina(QWidget* w) {
   for (QWidget* figlio = w; !figlio->isWindow(); figlio = figlio->parentWidget())
     for (QWidget* p = figlio->parentWidget(); p != nullptr; p = p->parentWidget())
-      if (auto* schede = dynamic_cast<QTabWidget*>(p); schede != nullptr && schede->indexOf(figlio) >= 0) schede->setCurrentIndex(schede->indexOf(figlio));
+      if (auto* schede = dynamic_cast<QTabWidget*>(p); schede != nullptr && schede->indexOf(figlio) >= 0)
+        schede->setCurrentIndex(schede->indexOf(figlio));
   QCoreApplication::processEvents();
 }
 

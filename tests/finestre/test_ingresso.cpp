@@ -35,7 +35,7 @@ TEST(Ingresso, IlFuocoSelezionaTuttoIlTesto) {
   MostraPagina(CampoDi(insDati.LatoTxt[2]));
   QTest::mouseClick(CampoDi(insDati.LatoTxt[2]), Qt::LeftButton);
   QCoreApplication::processEvents();
-  EXPECT_EQ(CampoDi(insDati.LatoTxt[2])->selectedText(), "100");      // the margin of a new node
+  EXPECT_EQ(CampoDi(insDati.LatoTxt[2])->selectedText(), "100");  // the margin of a new node
 }
 
 // The same where the keyboard brings the focus: an arrow along a column of the load list, the tabulator along a row.
@@ -119,7 +119,7 @@ TEST(Ingresso, InvioNelCampo) {
   QLineEdit* const campo = CampoDi(insDati.LatoTxt[2]);
   Scrivi(insDati.LatoTxt[2], "120");
   QTest::keyClick(campo, Qt::Key_Return);
-  EXPECT_EQ(CampoDi(insDati.LatoTxt[0])->text(), "540");          // 2 x 120 + 300
+  EXPECT_EQ(CampoDi(insDati.LatoTxt[0])->text(), "540");  // 2 x 120 + 300
   EXPECT_TRUE(campo->hasFocus());
   Scrivi(insDati.LatoTxt[2], "110");
   QTest::keyClick(campo, Qt::Key_Enter);
@@ -142,7 +142,7 @@ TEST(Ingresso, TestiLunghiEAccentiNonFannoDanno) {
   CampoDi(insDati.Lsa[0])->selectAll();
   CampoDi(insDati.Lsa[0])->insert(QString(20000, QChar(0x00E8)) + QString::fromUtf8("€漢"));
   QTest::keyClick(CampoDi(insDati.Lsa[0]), Qt::Key_X);
-  EXPECT_EQ(nodo.SollNome[1].size(), 2u * 20000 + 3 + 3 + 1);         // UTF-8: 2 bytes an è, 3 each of the others
+  EXPECT_EQ(nodo.SollNome[1].size(), 2u * 20000 + 3 + 3 + 1);  // UTF-8: 2 bytes an è, 3 each of the others
   for (int k = 0; k < 400; ++k) QTest::keyClick(CampoDi(insDati.TxtSN[0]), Qt::Key_9);
   EXPECT_TRUE(std::isfinite(nodo.SollN[1]));
 }
@@ -152,8 +152,9 @@ TEST(Ingresso, RotellaEFrecceMuovonoLaLista) {
   for (int k = 0; k < 8; ++k) InsDati_Singolo(0);
   QLineEdit* campo = CampoDi(insDati.TxtSN[4]);
   MostraPagina(campo);
-  EXPECT_EQ(insDati.ScrollSa.scelta, 6);                              // eight groups: the last five, 8 - 2
-  QWheelEvent su(QPointF(5, 5), campo->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  EXPECT_EQ(insDati.ScrollSa.scelta, 6);  // eight groups: the last five, 8 - 2
+  QWheelEvent su(QPointF(5, 5), campo->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                 false);
   QApplication::sendEvent(campo, &su);
   EXPECT_EQ(insDati.ScrollSa.scelta, 5);
   EXPECT_EQ(CampoDi(insDati.Lsa[0])->text(), "Soll 3");
@@ -176,7 +177,7 @@ TEST(Ingresso, LaRotellaNonSceglieAlPassaggio) {
   const QPointF dove(lista->rect().center());
   const auto gira = [lista, dove] {
     QWheelEvent e(dove, lista->mapToGlobal(dove), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&e);               // from the desktop: only then the toolkit may give the focus
+    QSpontaneKeyEvent::setSpontaneous(&e);  // from the desktop: only then the toolkit may give the focus
     qApp->notify(lista, &e);
   };
   gira();
@@ -225,7 +226,8 @@ TEST(Ingresso, LaDomandaSiAnnullaDaTastiera) {
 TEST(Ingresso, LaRigaDiStatoDopoOttocentoMillisecondi) {
   const Scena s("stato");
   QWidget* w = OggettoDi(insDati.Verifica);
-  QMouseEvent e(QEvent::MouseMove, QPointF(w->rect().center()), w->mapToGlobal(QPointF(w->rect().center())), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+  QMouseEvent e(QEvent::MouseMove, QPointF(w->rect().center()), w->mapToGlobal(QPointF(w->rect().center())), Qt::NoButton, Qt::NoButton,
+                Qt::NoModifier);
   QElapsedTimer orologio;
   orologio.start();
   QApplication::sendEvent(w, &e);
@@ -307,7 +309,7 @@ TEST(Ingresso, LaFinestraStaNelloSchermo) {
   const QSize minima = s.principale->minimumSizeHint(), schermo = s.principale->screen()->availableSize();
   EXPECT_EQ(s.principale->width(), std::max(minima.width(), std::min(1240, schermo.width() - 16)));
   EXPECT_EQ(s.principale->height(), std::max(minima.height(), std::min(720, schermo.height() - 48)));
-  EXPECT_LE(minima.width(), 956);         // 1920 x 1200 at 200 per cent is 960 x 600
+  EXPECT_LE(minima.width(), 956);  // 1920 x 1200 at 200 per cent is 960 x 600
   EXPECT_LE(minima.height(), 560);
 }
 
@@ -334,7 +336,7 @@ TEST(Ingresso, IlFuocoDiRitornoNonSeleziona) {
     QApplication::sendEvent(campo, &preso);
     QCoreApplication::processEvents();
     EXPECT_EQ(campo->selectedText(), "") << causa;
-    EXPECT_EQ(CampoDi(insDati.LatoTxt[0])->text(), "500") << causa;      // not left
+    EXPECT_EQ(CampoDi(insDati.LatoTxt[0])->text(), "500") << causa;  // not left
   }
   QLineEdit altrui(s.principale);
   altrui.setText("ab");

@@ -127,7 +127,7 @@ TEST(PiattaformaQt, LaFinestraDelTestoCerca) {
   const QTemporaryDir cartella;
   QFile f(cartella.filePath("RelTA.txt"));
   ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-  f.write("UNITA' DI MISURA\r\nprofondit\xE0 dei fori\r\nfine\r\n");     // Windows-1252
+  f.write("UNITA' DI MISURA\r\nprofondit\xE0 dei fori\r\nfine\r\n");  // Windows-1252
   f.close();
   QWidget* w = FinestraTesto(f.fileName());
   w->show();
@@ -140,7 +140,7 @@ TEST(PiattaformaQt, LaFinestraDelTestoCerca) {
   ASSERT_TRUE(f.open(QIODevice::WriteOnly));
   f.write("altra\r\n");
   f.close();
-  EXPECT_EQ(FinestraTesto(f.fileName()), w);                             // one window a file, read again
+  EXPECT_EQ(FinestraTesto(f.fileName()), w);  // one window a file, read again
   EXPECT_EQ(testo->toPlainText(), "altra\n");
   w->close();
 }
@@ -161,8 +161,8 @@ TEST(PiattaformaQt, LaFinestraDelTestoIncolonnaOgniOttoLettere) {
     return testo->cursorRect(c).x();
   };
   EXPECT_NEAR(x(1) - x(0), 8 * QFontMetricsF(testo->font()).horizontalAdvance(' '), 1.5);
-  EXPECT_EQ(x(23), x(12));                                               // "300" under "h": 1 + 10 + 1, and 14 + 1 + 6 + 2
-  EXPECT_EQ(x(36), x(50));                                               // eight letters fill their column: "daNcm" and "daN" begin at the next
+  EXPECT_EQ(x(23), x(12));  // "300" under "h": 1 + 10 + 1, and 14 + 1 + 6 + 2
+  EXPECT_EQ(x(36), x(50));  // eight letters fill their column: "daNcm" and "daN" begin at the next
   w->close();
 }
 
@@ -192,7 +192,7 @@ TEST(PiattaformaQt, LAnteprimaHaTuttoIlDisegno) {
   const Scena s("anteprima");
   FoglioVisto foglio;
   ASSERT_TRUE(DisegnaFoglioVisto(foglio));
-  EXPECT_GT(foglio.linee.size(), static_cast<std::size_t>(disegno.NumLinee));    // the lines, and the strokes of the texts
+  EXPECT_GT(foglio.linee.size(), static_cast<std::size_t>(disegno.NumLinee));  // the lines, and the strokes of the texts
   EXPECT_EQ(foglio.archi.size(), static_cast<std::size_t>(disegno.NumArchi));
   for (int i = 0; i < disegno.NumCoord; ++i) {
     const bool dentro = disegno.CoordX[i] > foglio.carta.left() && disegno.CoordX[i] < foglio.carta.right();

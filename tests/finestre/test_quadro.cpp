@@ -36,18 +36,18 @@ static bool Scuro(const QImage& m, int x, int y) {
 TEST(Quadro, LaPiastraAltaRiempieLaFinestraAlta) {
   Tela t = Piastra(25, 50);
   const QImage m = Dipinta(t, 212, 412);
-  EXPECT_TRUE(Scuro(m, 23, 206));           // left side, 106 - 83.3
+  EXPECT_TRUE(Scuro(m, 23, 206));  // left side, 106 - 83.3
   EXPECT_TRUE(Scuro(m, 189, 206));
-  EXPECT_TRUE(Scuro(m, 106, 39));           // upper side, 206 - 166.7
+  EXPECT_TRUE(Scuro(m, 106, 39));  // upper side, 206 - 166.7
   EXPECT_TRUE(Scuro(m, 106, 373));
-  EXPECT_FALSE(Scuro(m, 64, 206));          // where the square's would be
+  EXPECT_FALSE(Scuro(m, 64, 206));  // where the square's would be
 }
 
 // 400 by 200 pixels for the same plate: the height governs, 200 / 120 a unit.
 TEST(Quadro, LaPiastraAltaInUnaFinestraLarga) {
   Tela t = Piastra(25, 50);
   const QImage m = Dipinta(t, 412, 212);
-  EXPECT_TRUE(Scuro(m, 206 - 42, 106));     // 25 x 5 / 3 = 41.7
+  EXPECT_TRUE(Scuro(m, 206 - 42, 106));  // 25 x 5 / 3 = 41.7
   EXPECT_TRUE(Scuro(m, 206, 106 - 83));
 }
 
@@ -69,7 +69,7 @@ TEST(Quadro, UnaLineaSola) {
 // Anchors beyond the plate are seen as far as the canvas goes, never beyond it; nothing painted leaves the canvas as it is.
 TEST(Quadro, CerchiEVuoto) {
   Tela t = Piastra(25, 50);
-  ArcoTela(t, 35, 0, 5, 0, 0, 0);           // to 40: 48 with the margin, 200 / 96 a unit
+  ArcoTela(t, 35, 0, 5, 0, 0, 0);  // to 40: 48 with the margin, 200 / 96 a unit
   EXPECT_TRUE(Scuro(Dipinta(t, 212, 412), 106 - 52, 206));
   Tela vuota;
   ImpostaScala(vuota, -60, 60, 60, -60);

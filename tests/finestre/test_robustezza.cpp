@@ -215,7 +215,7 @@ TEST(Robustezza, AnteprimaERelazioniInOgniOrdine) {
     EXPECT_EQ(Aperta("FinestraTesto"), nullptr);
     EXPECT_TRUE(s.principale->isVisible());
   }
-  ASSERT_TRUE(ApriAnteprima());           // and the program ends with one open
+  ASSERT_TRUE(ApriAnteprima());  // and the program ends with one open
 }
 
 // Every field of every page takes a text of any length and accents, and the sketch is painted behind each one; a message that a value
@@ -236,7 +236,8 @@ TEST(Robustezza, OgniCampoReggeOgniTesto) {
       QLineEdit* campo = CampoDi(r.controllo[i - r.primo]);
       if (campo == nullptr || !campo->isEnabled() || campo->isHidden()) continue;
       MostraPagina(campo);
-      for (const QString& t : {QString(), QString(400, '9'), QString::fromUtf8("perché 12,5 €"), QString("-1e308"), QString("1e-308"), QString("0")}) {
+      for (const QString& t :
+           {QString(), QString(400, '9'), QString::fromUtf8("perché 12,5 €"), QString("-1e308"), QString("1e-308"), QString("0")}) {
         campo->setFocus(Qt::TabFocusReason);
         campo->selectAll();
         campo->insert(t);

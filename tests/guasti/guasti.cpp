@@ -38,7 +38,7 @@ struct Stato {
   long n = 0, contate = 0;
   int errore = EIO;
   bool seguito[MASSIMO_DESCRITTORI] = {};
-  bool interrotta = false;                  // the call before was interrupted: this one goes through
+  bool interrotta = false;  // the call before was interrupted: this one goes through
   bool letto = false;
 };
 Stato stato;
@@ -62,10 +62,12 @@ void LeggiAmbiente() {
 }
 
 template <class F>
-F Vera(F, const char* nome) { return reinterpret_cast<F>(dlsym(RTLD_NEXT, nome)); }
+F Vera(F, const char* nome) {
+  return reinterpret_cast<F>(dlsym(RTLD_NEXT, nome));
+}
 #define VERA(nome) Vera(&::nome, #nome)
 
-bool Riguarda(const char* percorso) {        // under the folder, or the folder itself
+bool Riguarda(const char* percorso) {  // under the folder, or the folder itself
   LeggiAmbiente();
   if (stato.modo == Modo::Nessuno || percorso == nullptr) return false;
   const std::size_t l = std::strlen(stato.sotto);
@@ -73,7 +75,9 @@ bool Riguarda(const char* percorso) {        // under the folder, or the folder 
 }
 
 bool Guarda(const char* percorso) { return Riguarda(percorso) && std::strcmp(percorso, stato.file) == 0; }
-bool Guarda(const char* percorso, int) { return Riguarda(percorso) && (std::strcmp(percorso, stato.file) == 0 || percorso[std::strlen(percorso) - 1] == '/'); }
+bool Guarda(const char* percorso, int) {
+  return Riguarda(percorso) && (std::strcmp(percorso, stato.file) == 0 || percorso[std::strlen(percorso) - 1] == '/');
+}
 
 bool Riguarda(int fd) { return fd >= 0 && fd < MASSIMO_DESCRITTORI && stato.seguito[fd]; }
 
@@ -82,15 +86,17 @@ int Segui(int fd) {
   return fd;
 }
 
-void Scrivi(const char* chiamata) {          // past what is laid over
+void Scrivi(const char* chiamata) {  // past what is laid over
   const long fd = syscall(SYS_openat, AT_FDCWD, stato.esito, O_WRONLY | O_CREAT | O_APPEND, 0666);
   syscall(SYS_write, fd, chiamata, std::strlen(chiamata));
   syscall(SYS_write, fd, "\n", 1ul);
   syscall(SYS_close, fd);
 }
 
-struct Sorte { bool fallisce = false, uccide = false; };
-enum class Specie { Sguardo, Atto, Stanza };         // looks only, and is never interrupted; does something; needs room on the disk
+struct Sorte {
+  bool fallisce = false, uccide = false;
+};
+enum class Specie { Sguardo, Atto, Stanza };  // looks only, and is never interrupted; does something; needs room on the disk
 
 // Counts a call and says what becomes of it.
 Sorte Conta(const char* chiamata, Specie specie) {
@@ -126,13 +132,13 @@ bool Scrive(int modi) { return (modi & O_ACCMODE) != O_RDONLY || (modi & (O_CREA
 }  // namespace
 
 // Paths at folder descriptors: only the current folder's, which is all that the program uses.
-#define APRI(nome, ...)                                                                                                             \
-  va_list altri;                                                                                                                    \
-  va_start(altri, modi);                                                                                                            \
-  const mode_t permessi = (modi & O_CREAT) != 0 ? va_arg(altri, mode_t) : 0;                                                        \
-  va_end(altri);                                                                                                                    \
-  const auto vera = VERA(nome);                                                                                                     \
-  if (!Riguarda(percorso) || !Scrive(modi)) return vera(__VA_ARGS__, permessi);                                                     \
+#define APRI(nome, ...)                                                         \
+  va_list altri;                                                                \
+  va_start(altri, modi);                                                        \
+  const mode_t permessi = (modi & O_CREAT) != 0 ? va_arg(altri, mode_t) : 0;    \
+  va_end(altri);                                                                \
+  const auto vera = VERA(nome);                                                 \
+  if (!Riguarda(percorso) || !Scrive(modi)) return vera(__VA_ARGS__, permessi); \
   return Segui(Chiama(#nome, (modi & O_CREAT) != 0 ? Specie::Stanza : Specie::Atto, [&] { return vera(__VA_ARGS__, permessi); }))
 
 extern "C" {
@@ -158,13 +164,13 @@ int close(int fd) {
   const int errore = errno, esito = vera(fd);
   if (s.uccide) kill(getpid(), SIGKILL);
   errno = errore;
-  stato.interrotta = false;                  // nobody may close it again
+  stato.interrotta = false;  // nobody may close it again
   return s.fallisce ? -1 : esito;
 }
 
-#define SU_DESCRITTORE(nome, specie, ...)                                                                                           \
-  const auto vera = VERA(nome);                                                                                                     \
-  if (!Riguarda(fd)) return vera(__VA_ARGS__);                                                                                      \
+#define SU_DESCRITTORE(nome, specie, ...)      \
+  const auto vera = VERA(nome);                \
+  if (!Riguarda(fd)) return vera(__VA_ARGS__); \
   return Chiama(#nome, specie, [&] { return vera(__VA_ARGS__); })
 int fsync(int fd) { SU_DESCRITTORE(fsync, Specie::Stanza, fd); }
 int fdatasync(int fd) { SU_DESCRITTORE(fdatasync, Specie::Stanza, fd); }
@@ -174,9 +180,9 @@ int ftruncate(int fd, off_t n) { SU_DESCRITTORE(ftruncate, Specie::Atto, fd, n);
 int fstat(int fd, struct stat* s) noexcept { SU_DESCRITTORE(fstat, Specie::Sguardo, fd, s); }
 
 #define SU_PERCORSO(nome, percorso, specie, ...) SE_RIGUARDA(nome, Riguarda(percorso), specie, __VA_ARGS__)
-#define SE_RIGUARDA(nome, riguarda, specie, ...)                                                                                    \
-  const auto vera = VERA(nome);                                                                                                     \
-  if (!(riguarda)) return vera(__VA_ARGS__);                                                                                \
+#define SE_RIGUARDA(nome, riguarda, specie, ...) \
+  const auto vera = VERA(nome);                  \
+  if (!(riguarda)) return vera(__VA_ARGS__);     \
   return Chiama(#nome, specie, [&] { return vera(__VA_ARGS__); })
 int rename(const char* da, const char* a) { SU_PERCORSO(rename, a, Specie::Stanza, da, a); }
 int renameat(int d1, const char* da, int d2, const char* a) { SU_PERCORSO(renameat, a, Specie::Stanza, d1, da, d2, a); }
@@ -209,7 +215,7 @@ size_t fwrite(const void* byte, size_t misura, size_t n, FILE* f) {
   const Sorte s = Conta("fwrite", Specie::Stanza);
   if (s.fallisce) return 0;
   const size_t scritti = vera(byte, misura, n, f);
-  if (s.uccide) {                            // half of it had reached the file
+  if (s.uccide) {  // half of it had reached the file
     VERA(fflush)(f);
     kill(getpid(), SIGKILL);
   }

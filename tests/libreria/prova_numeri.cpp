@@ -81,8 +81,7 @@ static void GovernantiUguali(const qb07_esito* e, const Lavoro& l) {
   };
   if (g.nodo == NESSUNA_RIGA) {
     ASSERT_EQ(qb07_esito_governante(e, &r), QB07_ASSENTE);
-  }
-  else {
+  } else {
     ASSERT_EQ(qb07_esito_governante(e, &r), QB07_OK);
     uguale(g.nodo);
   }

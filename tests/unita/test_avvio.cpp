@@ -17,7 +17,7 @@ constexpr const char* MANCA_ARGOMENTO = "[messaggio] critica | ERRORE | Avvio de
 constexpr const char* NON_LAVORI = "[messaggio] esclamazione | ERRORE | Errore: il direttorio dei lavori deve terminare con < \\lavori >";
 
 struct Avvio : testing::Test {
-  std::string radice;              // of the suite, with capitals and a blank
+  std::string radice;  // of the suite, with capitals and a blank
   void SetUp() override {
     MontaRegistratore();
     radice = CartellaProva("Suite Prova");
@@ -36,10 +36,14 @@ struct Avvio : testing::Test {
     EXPECT_FALSE(TrovaPercorsi(riga));
     ASSERT_EQ(registratore.eventi.size(), 1u) << riga;
     EXPECT_EQ(registratore.eventi[0], evento);
-    EXPECT_FALSE(registratore.finito);                     // the end is the caller's
+    EXPECT_FALSE(registratore.finito);  // the end is the caller's
   }
-  void FallisceDirLav() { Fallisce("|diroot=" + radice + "|", ERRORE + ("Errore: file " + Minuscolo(radice)) + "\\impostazioni\\dirlav errato o mancante"); }
-  void FallisceLavoro() { Fallisce("|diroot=" + radice + "|", ERRORE + ("Errore: file " + Minuscolo(radice)) + "\\impostazioni\\lavoro errato o mancante"); }
+  void FallisceDirLav() {
+    Fallisce("|diroot=" + radice + "|", ERRORE + ("Errore: file " + Minuscolo(radice)) + "\\impostazioni\\dirlav errato o mancante");
+  }
+  void FallisceLavoro() {
+    Fallisce("|diroot=" + radice + "|", ERRORE + ("Errore: file " + Minuscolo(radice)) + "\\impostazioni\\lavoro errato o mancante");
+  }
   void FallisceLavori() { Fallisce("|diroot=" + radice + "|", NON_LAVORI); }
 };
 
@@ -50,11 +54,11 @@ TEST_F(Avvio, Percorsi) {
   const std::string minuscola = Minuscolo(radice);
   EXPECT_EQ(suite.DirRoot, minuscola);
   EXPECT_EQ(suite.Lavoro, "Ponte1");                       // its case stays
-  EXPECT_EQ(suite.DirLavoro, "c:\\dati\\lavori\\Ponte1");   // no final backslash
+  EXPECT_EQ(suite.DirLavoro, "c:\\dati\\lavori\\Ponte1");  // no final backslash
   EXPECT_EQ(suite.DirProgra, minuscola + "\\progra");
   EXPECT_EQ(suite.DirDriver, minuscola + "\\driver");
   EXPECT_EQ(suite.DirCustom, minuscola + "\\custom");
-  EXPECT_TRUE(EsisteFile(suite.DirRoot + "\\impostazioni\\lavoro"));   // found again under its own case
+  EXPECT_TRUE(EsisteFile(suite.DirRoot + "\\impostazioni\\lavoro"));  // found again under its own case
 }
 
 TEST_F(Avvio, TestoPrimaEDopoMaiuscoleEBlank) {
@@ -74,30 +78,31 @@ TEST_F(Avvio, SenzaBarraFinale) {
 }
 
 TEST_F(Avvio, DirLavLetto) {
-  for (const char* byte : {"C:\\Dati\\Lavori", "\"C:\\Dati\\Lavori\"", "  C:\\Dati\\Lavori  \r\n", "C:\\Dati\\Lavori,altro", "\"C:\\Dati\\Lavori\\\" \n"}) {
+  for (const char* byte :
+       {"C:\\Dati\\Lavori", "\"C:\\Dati\\Lavori\"", "  C:\\Dati\\Lavori  \r\n", "C:\\Dati\\Lavori,altro", "\"C:\\Dati\\Lavori\\\" \n"}) {
     DirLav(byte);
     Trova();
     EXPECT_EQ(suite.DirLavoro, "c:\\dati\\lavori\\Ponte1") << byte;
   }
-  DirLav("/dati/Lavori/");                                  // a final slash counts as the separator
+  DirLav("/dati/Lavori/");  // a final slash counts as the separator
   Trova();
   EXPECT_EQ(suite.DirLavoro, "/dati/lavori/Ponte1");
-  DirLav("c:\\maxilavori");                                 // only the last six letters are looked at
+  DirLav("c:\\maxilavori");  // only the last six letters are looked at
   Trova();
   EXPECT_EQ(suite.DirLavoro, "c:\\maxilavori\\Ponte1");
 }
 
 TEST_F(Avvio, DirLavMancanteOCorto) {
-  DirLav("c:\\lavori");                                     // nine characters
+  DirLav("c:\\lavori");  // nine characters
   Trova();
   EXPECT_EQ(suite.DirLavoro, "c:\\lavori\\Ponte1");
-  DirLav("c:lavori");                                       // eight
+  DirLav("c:lavori");  // eight
   FallisceDirLav();
-  DirLav("\xE0\xE0lavori");                                 // eight characters, ten bytes of UTF-8
+  DirLav("\xE0\xE0lavori");  // eight characters, ten bytes of UTF-8
   FallisceDirLav();
   DirLav("");
   FallisceDirLav();
-  DirLav("\r\nc:\\dati\\lavori\r\n");                       // one line is read
+  DirLav("\r\nc:\\dati\\lavori\r\n");  // one line is read
   FallisceDirLav();
   std::filesystem::remove(radice + "/Impostazioni/DirLav");
   FallisceDirLav();
@@ -120,12 +125,12 @@ TEST_F(Avvio, RadiceCorta) {
   std::filesystem::copy(radice, "s", std::filesystem::copy_options::recursive);
   Fallisce("|diroot=s|", std::string(ERRORE) + "Errore: file s\\impostazioni\\dirlav errato o mancante");
   Fallisce("|diroot=s\\|", std::string(ERRORE) + "Errore: file s\\\\impostazioni\\dirlav errato o mancante");
-  for (const char* lunga : {"s\\.", "s/."}) {                 // three characters are enough, a separator among them
+  for (const char* lunga : {"s\\.", "s/."}) {  // three characters are enough, a separator among them
     EXPECT_TRUE(TrovaPercorsi(std::string("|diroot=") + lunga + "|"));
     EXPECT_EQ(suite.DirRoot, lunga);
   }
   ScriviByte("s/Impostazioni/DirLav", "c:\\dati\\altrove");
-  Fallisce("|diroot=s|", NON_LAVORI);                       // the folder is judged before the root
+  Fallisce("|diroot=s|", NON_LAVORI);  // the folder is judged before the root
   std::filesystem::remove_all("s", errore);
   std::filesystem::current_path(qui);
 }
@@ -148,10 +153,11 @@ TEST_F(Avvio, LavoroLetto) {
   Lavoro("  Ponte2  \r\naltra riga");
   Trova();
   EXPECT_EQ(suite.Lavoro, "Ponte2");
-  Lavoro("P,nte3");                                         // a whole line, no comma rule
+  Lavoro("P,nte3");  // a whole line, no comma rule
   Trova();
   EXPECT_EQ(suite.Lavoro, "P,nte3");
-  Lavoro("Citt\xE0" "1\r\n");                               // six characters, seven bytes of UTF-8
+  Lavoro("Citt\xE0"
+         "1\r\n");  // six characters, seven bytes of UTF-8
   Trova();
   EXPECT_EQ(suite.Lavoro, "Città1");
 }
@@ -173,5 +179,5 @@ TEST_F(Avvio, FileEnormiOBinari) {
   DirLav("c:\\dati\\lavori");
   Lavoro(std::string(3u << 20, 'x'));
   FallisceLavoro();
-  EXPECT_FALSE(std::filesystem::exists(radice + "/lavori"));   // no folder is made
+  EXPECT_FALSE(std::filesystem::exists(radice + "/lavori"));  // no folder is made
 }

@@ -65,15 +65,16 @@ TEST(AvvioPannello, ASoundSuiteStartsWithoutABox) {
 TEST(AvvioPannello, TablesFillTheLists) {
   ASSERT_TRUE(Avvia(PreparaSuite("avvio_liste")));
   ASSERT_EQ(static_cast<int>(insDati.TraveP.voci.size()), suite.NumProfili);
-  EXPECT_EQ(insDati.TraveP.voci[0], "IPE80");        // without the padding that the record keeps
+  EXPECT_EQ(insDati.TraveP.voci[0], "IPE80");  // without the padding that the record keeps
   EXPECT_EQ(suite.ProfiliLib[1].Nome, "IPE80             ");
-  EXPECT_EQ(suite.ProfiliLib[1].H, 80);              // mm: length factor 1
-  EXPECT_DOUBLE_EQ(suite.ProfiliLib[1].Area, 764);   // 7.64 cm2 in mm2: area factor 10
+  EXPECT_EQ(suite.ProfiliLib[1].H, 80);             // mm: length factor 1
+  EXPECT_DOUBLE_EQ(suite.ProfiliLib[1].Area, 764);  // 7.64 cm2 in mm2: area factor 10
   EXPECT_FALSE(insDati.Acc.voci.empty());
   EXPECT_EQ(insDati.Acc.voci[0], "S 235 (FE 360)");
   EXPECT_FALSE(insDati.Cviti.voci.empty());
   EXPECT_EQ(static_cast<int>(insDati.ComboCalcestruzzo.voci.size()), materiali.NumCls);
-  EXPECT_EQ(insDati.ComboEsposizione.voci, (Testi{"Esposto a fenomeni corrosivi", "Non esposto a fenomeni corrosivi", "Resistente alla corrosione"}));
+  EXPECT_EQ(insDati.ComboEsposizione.voci,
+            (Testi{"Esposto a fenomeni corrosivi", "Non esposto a fenomeni corrosivi", "Resistente alla corrosione"}));
   EXPECT_TRUE(insDati.CheckMatBase.abilitato);
   EXPECT_FALSE(materiali.UsaViti);
   EXPECT_TRUE(materiali.UsaTirafondi);
@@ -86,9 +87,10 @@ TEST(AvvioPannello, TablesFillTheLists) {
 // either role.
 TEST(AvvioPannello, TheSteelsOfferedAreThoseOfAllowableStresses) {
   const std::string radice = PreparaSuite("avvio_acciai");
-  ScriviByte(radice + "/custom/MaterialiNTC08.tx1",
-             "ACCIAIO_DA_CARPENTERIA_SEZIONI_APERTE\r\n4\r\nuno\r\n\r\n1600 1400 2350 3600 2150 3600 1 1\r\ndue\r\n\r\n0 0 2350 3600 2150 3600 1 1\r\n"
-             "tre\r\n\r\n1600 1400 0 0 0 0 1 1\r\nquattro\r\n\r\n1600 0 2350 3600 2150 3600 1 1\r\n");
+  ScriviByte(
+    radice + "/custom/MaterialiNTC08.tx1",
+    "ACCIAIO_DA_CARPENTERIA_SEZIONI_APERTE\r\n4\r\nuno\r\n\r\n1600 1400 2350 3600 2150 3600 1 1\r\ndue\r\n\r\n0 0 2350 3600 2150 3600 1 1\r\n"
+    "tre\r\n\r\n1600 1400 0 0 0 0 1 1\r\nquattro\r\n\r\n1600 0 2350 3600 2150 3600 1 1\r\n");
   Avvia(radice);
   EXPECT_EQ(insDati.Acc.voci, (Testi{"uno", "tre"}));
   EXPECT_EQ(insDati.Cviti.voci, (Testi{"uno", "tre"}));
@@ -117,7 +119,7 @@ TEST(AvvioPannello, TypologyPictures) {
     for (std::size_t k = 0; k < 4; k++) {
       EXPECT_EQ(t.tratti[k].forma, Tratto::Forma::Arco);
       EXPECT_EQ(t.tratti[k].raggio, 30);
-      EXPECT_EQ(t.tratti[k].a1, t.tratti[k].a2);     // full circle
+      EXPECT_EQ(t.tratti[k].a1, t.tratti[k].a2);  // full circle
       EXPECT_EQ(t.tratti[k].xc, x[p == 2][k]);
       EXPECT_EQ(t.tratti[k].yc, y[p == 2][k]);
     }
@@ -166,7 +168,7 @@ TEST(AvvioPannello, JobMaterialsMissingGoOn) {
   EXPECT_EQ(registratore.eventi, (Testi{"[messaggio] esclamazione | NODO COLONNA - PLINTO | Materiali Base non impostati, specificare un "
                                         "materiale nell'apposita sezione"}));
   EXPECT_FALSE(insDati.CheckMatBase.abilitato);
-  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");     // first steel, third concrete
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");  // first steel, third concrete
   EXPECT_EQ(nodo.MatCls.Nome, materiali.ClsBase[3].Nome);
   EXPECT_EQ(insDati.ComboCalcestruzzo.scelta, 2);
 }
@@ -181,8 +183,9 @@ TEST(AvvioPannello, OptionsMissing) {
   const std::string radice = PreparaSuite("avvio_opzioni");
   Togli(radice + "/custom/OpzioniNodi1-5.txt");
   EXPECT_FALSE(Avvia(radice));
-  EXPECT_EQ(registratore.eventi,
-            (Testi{"[messaggio] nessuna | ERRORE | Errore: file " + suite.DirCustom + "\\OpzioniNodi1-5.txt errato o mancante.", "[fine]"}));
+  EXPECT_EQ(
+    registratore.eventi,
+    (Testi{"[messaggio] nessuna | ERRORE | Errore: file " + suite.DirCustom + "\\OpzioniNodi1-5.txt errato o mancante.", "[fine]"}));
 }
 
 TEST(AvvioPannello, BoxesComeInTheOrderOfTheStart) {
@@ -193,7 +196,7 @@ TEST(AvvioPannello, BoxesComeInTheOrderOfTheStart) {
   Togli(radice + "/custom/OpzioniNodi1-5.txt");
   EXPECT_FALSE(Avvia(radice));
   ASSERT_EQ(registratore.eventi.size(), 5u);
-  EXPECT_NE(registratore.eventi[0].find("cad2dmodello.grb"), std::string::npos);   // template, materials, diameters, options
+  EXPECT_NE(registratore.eventi[0].find("cad2dmodello.grb"), std::string::npos);  // template, materials, diameters, options
   EXPECT_NE(registratore.eventi[1].find("Materiali Base"), std::string::npos);
   EXPECT_NE(registratore.eventi[2].find("QbDiam.txt"), std::string::npos);
   EXPECT_NE(registratore.eventi[3].find("OpzioniNodi1-5.txt"), std::string::npos);
@@ -208,7 +211,7 @@ TEST(AvvioPannello, TheTemplateComesBetweenLibraryAndCatalogue) {
   for (const char* file : {"/lavori/NODI01/parametrilavoro", "/progra/font.001", "/custom/prof_pro"}) {
     Togli(radice + file);
     EXPECT_FALSE(Avvia(radice));
-    ASSERT_EQ(registratore.eventi.size(), 2u) << file;       // the file's own box, the end
+    ASSERT_EQ(registratore.eventi.size(), 2u) << file;  // the file's own box, the end
     EXPECT_EQ(registratore.eventi[0].find("cad2dmodello.grb"), std::string::npos) << file;
     ScriviByte(radice + file, LeggiByte(altrove + file));
   }
@@ -273,7 +276,7 @@ TEST(AvvioPannello, AShortLibraryLeavesTheSectionCleared) {
   EXPECT_EQ(suite.NumProfili, 1);
   EXPECT_EQ(insDati.TraveP.scelta, -1);
   EXPECT_EQ(nodo.Sezione.H, 0);
-  EXPECT_EQ(nodo.LatoZ, 200);                        // 2 * 100 + 0
+  EXPECT_EQ(nodo.LatoZ, 200);  // 2 * 100 + 0
 }
 
 // ---- the reset ----
@@ -285,8 +288,8 @@ TEST(Azzeramento, DefaultsOfANewJoint) {
   EXPECT_EQ(insDati.TraveP.scelta, 31);
   const char* geomp[] = {"350", "300", "10", "17.5", "27"};
   for (int i = 0; i < 5; i++) EXPECT_EQ(insDati.geomp[i].testo, geomp[i]);
-  EXPECT_EQ(nodo.LatoZ, 500);                        // B + 200
-  EXPECT_EQ(nodo.LatoY, 550);                        // H + 200
+  EXPECT_EQ(nodo.LatoZ, 500);  // B + 200
+  EXPECT_EQ(nodo.LatoY, 550);  // H + 200
   EXPECT_EQ(nodo.SpessPiastra, 10);
   EXPECT_EQ(nodo.TipoNodo, 2);
   EXPECT_EQ(nodo.HNerv, 150);
@@ -319,7 +322,7 @@ TEST(Azzeramento, FieldsShowTheDefaults) {
   ASSERT_TRUE(AvviaSuite(PreparaSuite("reset_campi")));
   const char* lati[] = {"500", "550", "100", "100", "10"};
   for (int i = 0; i < 5; i++) EXPECT_EQ(insDati.LatoTxt[i].testo, lati[i]);
-  for (int i = 1; i <= 4; i++) EXPECT_EQ(insDati.DTf[i].testo, "50");   // (500 - 300) / 4, (550 - 350) / 4
+  for (int i = 1; i <= 4; i++) EXPECT_EQ(insDati.DTf[i].testo, "50");  // (500 - 300) / 4, (550 - 350) / 4
   EXPECT_EQ(insDati.HFazzTxt[0].testo, "150");
   EXPECT_EQ(insDati.HFazzTxt[1].testo, "6");
   EXPECT_EQ(insDati.GolaTxt.testo, "7");
@@ -340,7 +343,7 @@ TEST(Azzeramento, JobMaterialsAreApplied) {
   ASSERT_TRUE(AvviaSuite(PreparaSuite("reset_matbase")));
   EXPECT_TRUE(materiali.MatDaBase);
   EXPECT_EQ(nodo.MatAcc.Nome, "S 275 (FE 430)");
-  EXPECT_EQ(nodo.MatAcc.SAmm, 1900);                 // the record is the catalogue's
+  EXPECT_EQ(nodo.MatAcc.SAmm, 1900);  // the record is the catalogue's
   EXPECT_EQ(nodo.MatCls.Nome, "C25/30");
   EXPECT_NEAR(nodo.EcCls, 312201.85778, 1e-5);
   EXPECT_EQ(nodo.MatTir.Nome, "S 235 (FE 360)");
@@ -380,7 +383,7 @@ TEST_F(AzzeramentoInMemoria, ResetBringsBackWhatWasChangedButNotTheMethod) {
   lavoro.NumSaldature = 8;
   disegno.DestDis = GENDIS;
   AzzeraNodo();
-  EXPECT_EQ(nodo.TipoVer, 1);                        // not part of the reset
+  EXPECT_EQ(nodo.TipoVer, 1);  // not part of the reset
   EXPECT_EQ(nodo.SaldInt, 1);
   EXPECT_EQ(nodo.TfLFil, 33);
   EXPECT_EQ(nodo.TipoNodo, 2);
@@ -406,7 +409,7 @@ TEST_F(AzzeramentoInMemoria, ResetBringsBackTheAnchor) {
   EXPECT_EQ(nodo.TfDForo, 100);
   EXPECT_EQ(nodo.TfHMalta, 50);
   EXPECT_EQ(nodo.TfDistBordo, 200);
-  const char* etichette[] = {"120", "500", "70", "450", "10", "21"};   // TfLFt, TfL, TfR, TfL1, TfLF, TfFi
+  const char* etichette[] = {"120", "500", "70", "450", "10", "21"};  // TfLFt, TfL, TfR, TfL1, TfLF, TfFi
   for (int i = 0; i < 6; i++) EXPECT_EQ(insDati.TFLab[i].testo, etichette[i]);
 }
 
@@ -439,7 +442,7 @@ TEST_F(AzzeramentoInMemoria, JobSteelThatIsRefusedTellsSoInTheReset) {
 TEST_F(AzzeramentoInMemoria, TheProgramGoesBackToItsStart) {
   UtenteSceglie(InsDati, insDati.TipoVer[1], 1);
   Scatena(InsDati, insDati.Singolo, Evento::Cambio);
-  CostruisciSaldature(lavoro);                           // as a verification or a drawing begins
+  CostruisciSaldature(lavoro);  // as a verification or a drawing begins
   lavoro.righe.resize(3);
   verifica.AreaTf = 245;
   ris.SMaxCls[3] = 5;
@@ -473,7 +476,7 @@ TEST_F(AzzeramentoInMemoria, TheProgramGoesBackToItsStart) {
 
 TEST_F(AzzeramentoInMemoria, ThePanelAsCreated) {
   AzzeraProgramma();
-  EXPECT_EQ(VoceScelta(insDati.GeoP[0]), 0);         // sides, until the reset takes margins
+  EXPECT_EQ(VoceScelta(insDati.GeoP[0]), 0);  // sides, until the reset takes margins
   EXPECT_FALSE(insDati.LatoTxt[2].abilitato);
   EXPECT_TRUE(insDati.LatoTxt[0].abilitato);
   EXPECT_EQ(VoceScelta(insDati.Op_Tip[0]), -1);

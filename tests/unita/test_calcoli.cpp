@@ -19,7 +19,8 @@ namespace {
 
 using Eventi = std::vector<std::string>;
 const std::string FAULT = "[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: la verifica non può continuare.";
-const std::string DIAMETRO = "[messaggio] informazione | NODO COLONNA - PLINTO | Il diametro dei tirafondi non è compreso tra i valori del file c:\\custom\\QbDiam.txt .";
+const std::string DIAMETRO =
+  "[messaggio] informazione | NODO COLONNA - PLINTO | Il diametro dei tirafondi non è compreso tra i valori del file c:\\custom\\QbDiam.txt .";
 const std::string ESTRAPOLATO = DIAMETRO + "\\nIl valore dell'area corrispondente è stato calcolato per estrapolazione.";
 const std::string INTERPOLATO = DIAMETRO + "\\nIl valore dell'area corrispondente è stato calcolato per interpolazione.";
 
@@ -52,7 +53,7 @@ TEST_F(CalcoliTest, CostantiPerMetodo) {
   EXPECT_EQ(verifica.AreaTf, 353);
   EXPECT_EQ(verifica.SommaR2, 250000);
   EXPECT_EQ(verifica.ArmZ[1], -150);
-  EXPECT_EQ(lavoro.SAmmCls, 9.75);                     // daN/mm2 scale of Rck / 10
+  EXPECT_EQ(lavoro.SAmmCls, 9.75);  // daN/mm2 scale of Rck / 10
   EXPECT_EQ(lavoro.TauCls, 0.1);
   EXPECT_GT(ris.TadRd, 0);
   EXPECT_EQ(ris.FvRd, 0);
@@ -61,23 +62,23 @@ TEST_F(CalcoliTest, CostantiPerMetodo) {
   ASSERT_TRUE(CalcolaTabelle(LavoroProva()));
   EXPECT_NEAR(ris.FtRd, 0.9 * 3600 * 353 / 100 / 1.25, 1e-9);
   EXPECT_NEAR(lavoro.TauCls, 0.28 * std::sqrt(16.6), 1e-12);
-  EXPECT_EQ(lavoro.SAmmCls, 5);                        // allowable stresses only
-  EXPECT_EQ(nodo.MatCls.SAmm, 5);                      // the joint is not written
+  EXPECT_EQ(lavoro.SAmmCls, 5);    // allowable stresses only
+  EXPECT_EQ(nodo.MatCls.SAmm, 5);  // the joint is not written
   EXPECT_EQ(nodo.MatCls.TauCls, 0);
 }
 
-TEST_F(CalcoliTest, AreaPrimaDelleResistenze) {         // the cap of the bond by limit states: this run's area, 353, not the one before
+TEST_F(CalcoliTest, AreaPrimaDelleResistenze) {  // the cap of the bond by limit states: this run's area, 353, not the one before
   nodo.TipoVer = 1;
   nodo.TipoTirafondo = 1;
   nodo.NumSoll = 0;
   ASSERT_TRUE(CalcolaTabelle(LavoroProva()));
-  EXPECT_NEAR(ris.TadRd, 7056, 1e-9);                  // 245 / 100 x 3600 / 1.25
+  EXPECT_NEAR(ris.TadRd, 7056, 1e-9);  // 245 / 100 x 3600 / 1.25
   nodo.TfFi = 24;
   ASSERT_TRUE(CalcolaTabelle(LavoroProva()));
-  EXPECT_NEAR(ris.TadRd, 10166.4, 1e-9);               // 353 / 100 x 3600 / 1.25
+  EXPECT_NEAR(ris.TadRd, 10166.4, 1e-9);  // 353 / 100 x 3600 / 1.25
 }
 
-TEST_F(CalcoliTest, MomentiPerDieci) {                 // daN cm to daN mm; forces as stored
+TEST_F(CalcoliTest, MomentiPerDieci) {  // daN cm to daN mm; forces as stored
   ASSERT_TRUE(CalcolaTabelle(LavoroProva()));
   EXPECT_EQ(verifica.N, -30000);
   EXPECT_EQ(verifica.Ty, 1000);
@@ -90,7 +91,7 @@ TEST_F(CalcoliTest, MomentiPerDieci) {                 // daN cm to daN mm; forc
 TEST_F(CalcoliTest, TabelleTA) {
   ASSERT_TRUE(CalcolaTabelle(LavoroProva()));
   // Pressure and anchor stress of this load: reference solution of the strain plane; shear of anchor 1: (370000)^0.5 by hand.
-  EXPECT_NEAR(ris.SMaxCls[1], 0.37543, 1e-5);          // absolute
+  EXPECT_NEAR(ris.SMaxCls[1], 0.37543, 1e-5);  // absolute
   EXPECT_NEAR(ris.SigmaTir[1][4], -2.0727, 1e-4);
   EXPECT_NEAR(ris.SRfTir[1][1], std::sqrt(370000.0) / 400, 1e-9);
   EXPECT_NEAR(ris.TauTir[1][1], std::sqrt(370000.0) / 245, 1e-9);
@@ -111,8 +112,8 @@ TEST_F(CalcoliTest, TabelleSLU) {
   EXPECT_EQ(ris.SRfTir[1][1] + ris.TauTir[1][1] + ris.TiroTir[1][1], 0);
 }
 
-TEST_F(CalcoliTest, RigheAzzerate) {                   // what step by step is cleared, and what stays
-  nodo.TipoNodo = 5;                                   // nothing behind the anchors: the cleared rows can be seen
+TEST_F(CalcoliTest, RigheAzzerate) {  // what step by step is cleared, and what stays
+  nodo.TipoNodo = 5;                  // nothing behind the anchors: the cleared rows can be seen
   for (int s = 1; s <= 2; ++s) {
     ris.SMaxPiastra[s] = 9;
     for (int p = 0; p <= 8; ++p) ris.SNerv[s][p] = 9;
@@ -130,16 +131,16 @@ TEST_F(CalcoliTest, RigheAzzerate) {                   // what step by step is c
   EXPECT_EQ(ris.SMaxPiastra[1], 0);
   for (int p = 1; p <= 8; ++p) EXPECT_EQ(ris.SNerv[1][p], 0);
   for (int i = 1; i <= 4; ++i) EXPECT_EQ(ris.TauTir[1][i], 0);
-  EXPECT_EQ(ris.SigmaTir[1][5], 9);                    // beyond the anchors
-  EXPECT_EQ(ris.SRfTir[1][1], 9);                      // of the other method
+  EXPECT_EQ(ris.SigmaTir[1][5], 9);  // beyond the anchors
+  EXPECT_EQ(ris.SRfTir[1][1], 9);    // of the other method
   EXPECT_EQ(ris.TiroTir[1][1], 9);
   EXPECT_EQ(ris.SPiastraTir[1][1][2], 9);
   for (int w = 1; w <= 8; ++w) {
     for (int k = 1; k <= 3; ++k) EXPECT_EQ(ris.Saldature[w].SPrp[1][k] + ris.Saldature[w].TauPa[1][k] + ris.Saldature[w].TauPe[1][k], 0);
     EXPECT_EQ(ris.Saldature[w].SEq1[1] + ris.Saldature[w].SEq2[1], 0);
   }
-  EXPECT_EQ(ris.Saldature[9].SPrp[1][1], 9);           // beyond NumSaldature
-  EXPECT_EQ(ris.SMaxPiastra[2], 9);                    // beyond NumSoll
+  EXPECT_EQ(ris.Saldature[9].SPrp[1][1], 9);  // beyond NumSaldature
+  EXPECT_EQ(ris.SMaxPiastra[2], 9);           // beyond NumSoll
   nodo.TipoVer = 0;
   ASSERT_TRUE(CalcolaTabelle(LavoroProva()));
   EXPECT_EQ(ris.FvEd[1][1] + ris.FtEd[1][1], 0);
@@ -154,10 +155,10 @@ TEST_F(CalcoliTest, TipologiaConNervature) {
   EXPECT_NE(ris.Saldature[28].SPrp[1][1], 0);
   EXPECT_NE(ris.Saldature[38].TauPa[1][1], 0);
   // Welds 29, 31, 36, 38: the share of the column replaced what the cuts had put there.
-  constexpr int COLONNA[] = { 29, 31, 36, 38 };
+  constexpr int COLONNA[] = {29, 31, 36, 38};
   double dirette[4], minima = 0;
   for (int n = 0; n < 4; ++n) minima = std::min(minima, dirette[n] = ris.Saldature[COLONNA[n]].TauPa[1][1]);
-  EXPECT_LT(minima, 0);                                // which a shear of the cuts, raised only, never is
+  EXPECT_LT(minima, 0);  // which a shear of the cuts, raised only, never is
   TensioniSaldatureColonna(lavoro, 1);
   for (int n = 0; n < 4; ++n) EXPECT_EQ(ris.Saldature[COLONNA[n]].TauPa[1][1], dirette[n]) << COLONNA[n];
   nodo.SaldInt = 1;
@@ -198,14 +199,14 @@ TEST_F(CalcoliTest, PiastraNervataPrendeLaMaggiore) {  // the strips' stresses r
     for (int i = 1; i <= 4; ++i) {
       for (auto& riga : ris.SPiastraTir[1]) std::fill(std::begin(riga), std::end(riga), 0.0);
       ris.SPiastraTir[1][d][i] = 12345;
-      ris.SPiastraTir[1][d][5] = 99999;                // no such anchor
+      ris.SPiastraTir[1][d][5] = 99999;  // no such anchor
       ASSERT_TRUE(CalcolaTabelle(LavoroProva()));
       EXPECT_EQ(ris.SMaxPiastra[1], 12345) << d << ' ' << i;
     }
 }
 
 TEST_F(CalcoliTest, AltraTipologia) {
-  for (const std::int16_t tipo : { std::int16_t(3), std::int16_t(0) }) {
+  for (const std::int16_t tipo : {std::int16_t(3), std::int16_t(0)}) {
     Prepara();
     nodo.TipoNodo = tipo;
     ASSERT_TRUE(CalcolaTabelle(LavoroProva()));
@@ -220,22 +221,26 @@ TEST_F(CalcoliTest, AltraTipologia) {
 TEST_F(CalcoliTest, SolutoreFallitoAlTerzo) {
   // Anchors of 1e-9 mm2: the load ten plates off finds no equilibrium. The solver's box, then the driver's; rows 1, 2 stay, no more.
   for (double& a : suite.DiamArea) a = 1e-9;
-  suite.DiamVal[0] = 18;                               // 20 mm is now interpolated: no message after a failure
+  suite.DiamVal[0] = 18;  // 20 mm is now interpolated: no message after a failure
   nodo.NumSoll = 0;
   for (int s = 1; s <= 5; ++s) SestettoProva(-40000, 0, 0, 0, 0, s == 3 ? -1e7 : -s * 1000);
   EXPECT_FALSE(VerificaNodoFinestre());
-  EXPECT_EQ(registratore.eventi,
-            (Eventi{ "[messaggio] nessuna | ERRORE ! | Convergenza non raggiunta !",
-                     "[messaggio] critica | NODO COLONNA - PLINTO | Sestetto di sollecitazione n°3: situazione non equilibrata nel calcolo delle "
-                     "azioni sui tirafondi. La verifica non può continuare!" }));
+  EXPECT_EQ(
+    registratore.eventi,
+    (Eventi{"[messaggio] nessuna | ERRORE ! | Convergenza non raggiunta !",
+            "[messaggio] critica | NODO COLONNA - PLINTO | Sestetto di sollecitazione n°3: situazione non equilibrata nel calcolo delle "
+            "azioni sui tirafondi. La verifica non può continuare!"}));
   EXPECT_GT(ris.SMaxPiastra[2], 0);
   EXPECT_EQ(ris.SMaxPiastra[3], 0);
   EXPECT_EQ(ris.SMaxCls[4], 0);
   EXPECT_FALSE(Scritta());
 }
 
-TEST_F(CalcoliTest, FaultFermanoLaVerifica) {          // one box, no report, nothing of the diameter
-  struct Guasto { const char* nome; void (*modifica)(); };
+TEST_F(CalcoliTest, FaultFermanoLaVerifica) {  // one box, no report, nothing of the diameter
+  struct Guasto {
+    const char* nome;
+    void (*modifica)();
+  };
   // clang-format off
   const Guasto GUASTI[] = {
     { "SommaR2", [] { for (int i = 1; i <= 4; ++i) { nodo.TfZ[i] = 200; nodo.TfY[i] = 250; } } },
@@ -262,16 +267,16 @@ TEST_F(CalcoliTest, FaultFermanoLaVerifica) {          // one box, no report, no
     Prepara();
     g.modifica();
     EXPECT_FALSE(VerificaNodoFinestre()) << g.nome;
-    EXPECT_EQ(registratore.eventi, Eventi{ FAULT }) << g.nome;
-    EXPECT_FALSE(FaultAritmetico()) << g.nome;         // cleared: the program goes on
+    EXPECT_EQ(registratore.eventi, Eventi{FAULT}) << g.nome;
+    EXPECT_FALSE(FaultAritmetico()) << g.nome;  // cleared: the program goes on
     EXPECT_FALSE(Scritta()) << g.nome;
   }
   Prepara();
-  SegnalaFault();                                      // of somebody before: the run starts clean
+  SegnalaFault();  // of somebody before: the run starts clean
   EXPECT_TRUE(VerificaNodoFinestre());
 }
 
-TEST_F(CalcoliTest, ErroreNelPrimoSestettoFerma) {     // the later ones are not worked
+TEST_F(CalcoliTest, ErroreNelPrimoSestettoFerma) {  // the later ones are not worked
   SestettoProva(-1000, 0, 0, 0, 0, 0);
   nodo.SpessPiastra = 0;
   ris.SMaxCls[2] = 7;
@@ -281,9 +286,12 @@ TEST_F(CalcoliTest, ErroreNelPrimoSestettoFerma) {     // the later ones are not
 
 TEST_F(CalcoliTest, MessaggiSulDiametro) {
   // Rows 20, 24, 30. An exact value says nothing, between two rows interpolation, outside extrapolation.
-  struct Riga { double fi; Eventi prima; };
-  for (const Riga& r : { Riga{ 20, {} }, { 24, {} }, { 30, {} }, { 22, { INTERPOLATO } }, { 19, { ESTRAPOLATO } }, { 31, { ESTRAPOLATO } } })
-    for (const std::int16_t soll : { std::int16_t(0), std::int16_t(1) }) {
+  struct Riga {
+    double fi;
+    Eventi prima;
+  };
+  for (const Riga& r : {Riga{20, {}}, {24, {}}, {30, {}}, {22, {INTERPOLATO}}, {19, {ESTRAPOLATO}}, {31, {ESTRAPOLATO}}})
+    for (const std::int16_t soll : {std::int16_t(0), std::int16_t(1)}) {
       Prepara();
       nodo.TfFi = r.fi;
       nodo.NumSoll = soll;
@@ -303,7 +311,7 @@ TEST_F(CalcoliTest, MessaggiSulDiametro) {
   EXPECT_FALSE(ris.FlagDiamInterpolato || ris.FlagDiamEstrapolato);
 }
 
-TEST_F(CalcoliTest, SenzaSestetti) {                   // the report is written with no combinations
+TEST_F(CalcoliTest, SenzaSestetti) {  // the report is written with no combinations
   nodo.NumSoll = 0;
   EXPECT_TRUE(VerificaNodoFinestre());
   ASSERT_EQ(registratore.eventi.size(), 1u);
@@ -328,14 +336,14 @@ TEST_F(CalcoliTest, RelazionePerMetodo) {
   EXPECT_NE(std::find_if(registratore.eventi.begin(), registratore.eventi.end(), Relazione)->find("RelSLU_"), std::string::npos);
 }
 
-TEST_F(CalcoliTest, FaultNellaRelazione) {             // a steel that the weld check does not know: the driver's box, once, no report
+TEST_F(CalcoliTest, FaultNellaRelazione) {  // a steel that the weld check does not know: the driver's box, once, no report
   nodo.MatAcc.Nome = "ignoto";
   EXPECT_FALSE(VerificaNodoFinestre());
-  EXPECT_EQ(registratore.eventi, Eventi{ FAULT });
+  EXPECT_EQ(registratore.eventi, Eventi{FAULT});
   EXPECT_FALSE(FaultAritmetico());
 }
 
-TEST_F(CalcoliTest, EsitoDiPrimaCancellato) {          // a run that is stopped leaves no outcome of the one before it
+TEST_F(CalcoliTest, EsitoDiPrimaCancellato) {  // a run that is stopped leaves no outcome of the one before it
   ASSERT_TRUE(VerificaNodoFinestre());
   ASSERT_TRUE(Scritta());
   EXPECT_FALSE(lavoro.righe.empty());
@@ -349,7 +357,7 @@ TEST_F(CalcoliTest, EsitoDiPrimaCancellato) {          // a run that is stopped 
   EXPECT_EQ(lavoro.diagnosi.size(), 1u);
 }
 
-TEST_F(CalcoliTest, DueVerificheUguali) {              // the tables in sight are rescaled in place; the next run starts from its own rows
+TEST_F(CalcoliTest, DueVerificheUguali) {  // the tables in sight are rescaled in place; the next run starts from its own rows
   nodo.TipoNodo = 2;
   nodo.TipoVer = 1;
   ASSERT_TRUE(VerificaNodoFinestre());
@@ -366,7 +374,7 @@ TEST_F(CalcoliTest, DueVerificheUguali) {              // the tables in sight ar
 TEST_F(CalcoliTest, TabelleInVistaTA) {
   nodo.TipoNodo = 2;
   SestettoProva(-20000, 500, 0, 0, 90000, 0);
-  ris.SMaxCls[3] = ris.SigmaTir[1][5] = 1;             // beyond the sextets, beyond the anchors: as they were
+  ris.SMaxCls[3] = ris.SigmaTir[1][5] = 1;  // beyond the sextets, beyond the anchors: as they were
   const auto suo = CreaLavoroSuo();
   ASSERT_TRUE(EseguiVerifica(suo->l));
   ASSERT_TRUE(VerificaNodoFinestre());
@@ -384,11 +392,11 @@ TEST_F(CalcoliTest, TabelleInVistaTA) {
     EXPECT_GT(ris.SMaxPiastra[s] * ris.SMaxCls[s] * ris.TauTir[s][1] * ris.SNerv[s][1], 0);
   }
   EXPECT_EQ(ris.SMaxCls[3] + ris.SigmaTir[1][5], 2);
-  EXPECT_EQ(nodo.MatCls.SAmm, 9.75);                   // the two values of the concrete are the joint's again
+  EXPECT_EQ(nodo.MatCls.SAmm, 9.75);  // the two values of the concrete are the joint's again
   EXPECT_EQ(nodo.MatCls.TauCls, 0.1);
 }
 
-TEST_F(CalcoliTest, TabelleInVistaSLU) {               // weld stresses x 10^2, every sextet and weld in use, points 1 to 3
+TEST_F(CalcoliTest, TabelleInVistaSLU) {  // weld stresses x 10^2, every sextet and weld in use, points 1 to 3
   nodo.TipoVer = 1;
   SestettoProva(40000, 500, 3000, 7000, 90000, 110000);
   const auto suo = CreaLavoroSuo();

@@ -66,9 +66,10 @@ void OstileStruttura(const std::string& cartella) {
 
 void StrutturaMancante(const std::string& cartella) {
   OstileStruttura(cartella);
-  ASSERT_EQ(registratore.eventi.size(), 4u); // not one for the number of conditions, whose box is the panel's
+  ASSERT_EQ(registratore.eventi.size(), 4u);  // not one for the number of conditions, whose box is the panel's
   EXPECT_TRUE(registratore.eventi[1].ends_with("| VESTRAWIN | Errore in lettura del file STRUTTUR.STR"));
-  for (const int k : {0, 2, 3}) EXPECT_TRUE(registratore.eventi[static_cast<std::size_t>(k)].ends_with("\\struttur.str errato o mancante."));
+  for (const int k : {0, 2, 3})
+    EXPECT_TRUE(registratore.eventi[static_cast<std::size_t>(k)].ends_with("\\struttur.str errato o mancante."));
 }
 
 std::string StrutturaDi(const std::string& n1, const std::string& n2, const std::string& n3, const std::string& n4) {
@@ -77,12 +78,14 @@ std::string StrutturaDi(const std::string& n1, const std::string& n2, const std:
 
 std::vector<std::string> CorpoStruttura() {
   std::vector<std::string> corpo = {Campione("struttur.str")};
-  for (const char* n : {"-1", "-2147483648", "2147483647", "4294967297", "99999999999999999999", "1e400", "1E9", "nan", "\"2", ",", "", "2,2"})
+  for (const char* n :
+       {"-1", "-2147483648", "2147483647", "4294967297", "99999999999999999999", "1e400", "1E9", "nan", "\"2", ",", "", "2,2"})
     for (int k = 0; k < 4; ++k) corpo.push_back(StrutturaDi(k == 0 ? n : "1", k == 1 ? n : "2", k == 2 ? n : "1", k == 3 ? n : "2"));
   corpo.push_back("release\r\n");
   corpo.push_back("release\rrelease\rrelease");
   corpo.push_back(StrutturaDi("1", "2", "1", "2") + std::string(1000, '\0'));
-  corpo.push_back("release\r\n0\r\n1\r\n1e308,nan,inf,20,\"" + std::string(70000, 'x') + "\r\n1\r\n1e308,20,99999999999,-1\r\n-5 99999\r\n");
+  corpo.push_back("release\r\n0\r\n1\r\n1e308,nan,inf,20,\"" + std::string(70000, 'x') +
+                  "\r\n1\r\n1e308,20,99999999999,-1\r\n-5 99999\r\n");
   return corpo;
 }
 
@@ -122,7 +125,8 @@ void OstileCasi(const std::string& cartella) {
   SenzaFault();
 }
 
-constexpr const char* CASI = "2\r\n11\r\nnome\r\naltro\r\n|NORMA=X|TIPOVER=SLU|\r\n1\r\n1,2,3\r\n2\r\n1,2\r\n3,4\r\n4\r\nn\r\na\r\nTIPOVER=RARA\r\n0\r\n0\r\n";
+constexpr const char* CASI =
+  "2\r\n11\r\nnome\r\naltro\r\n|NORMA=X|TIPOVER=SLU|\r\n1\r\n1,2,3\r\n2\r\n1,2\r\n3,4\r\n4\r\nn\r\na\r\nTIPOVER=RARA\r\n0\r\n0\r\n";
 
 std::vector<std::string> CorpoCasi() {
   std::vector<std::string> corpo = {Campione("combinaz.tot")};
@@ -150,7 +154,7 @@ void OstileRisultati(const std::string& cartella) {
   for (const bool maxMin : {false, true}) {
     Aste({5, 6, -7, 101});
     for (int i = 1; i <= c.NumAsteNodo; ++i) {
-      c.AstaNodo[i] = i - 2;                 // the first has no place
+      c.AstaNodo[i] = i - 2;  // the first has no place
       c.LatoAsta[i] = static_cast<std::int16_t>(1 + i % 2);
     }
     nodo.NumSoll = 0;
@@ -165,8 +169,9 @@ void OstileRisultati(const std::string& cartella) {
   SenzaFault();
 }
 
-const std::vector<RecordRisultati> DUE_ASTE = {{5, 511, 1, 2, 3, 4, 5}, {5, 512, 1, 2, 3, 4, 5}, {5, 521, 1, 2, 3, 4, 5}, {5, 522, 1, 2, 3, 4, 5},
-                                               {6, 611, 0, 0, 0, 0, 0}, {6, 612, 0, 0, 0, 0, 0}, {6, 621, 0, 0, 0, 0, 0}, {6, 622, 0, 0, 0, 0, 0}};
+const std::vector<RecordRisultati> DUE_ASTE = {{5, 511, 1, 2, 3, 4, 5}, {5, 512, 1, 2, 3, 4, 5}, {5, 521, 1, 2, 3, 4, 5},
+                                               {5, 522, 1, 2, 3, 4, 5}, {6, 611, 0, 0, 0, 0, 0}, {6, 612, 0, 0, 0, 0, 0},
+                                               {6, 621, 0, 0, 0, 0, 0}, {6, 622, 0, 0, 0, 0, 0}};
 
 std::vector<std::string> CorpoRisultati() {
   std::vector<std::string> corpo = {Campione("astec011.bin"), Campione("aste_009.bin")};
@@ -175,14 +180,15 @@ std::vector<std::string> CorpoRisultati() {
     for (const std::int32_t sestetti : OSTILI)
       for (const std::int16_t aste : {std::int16_t{-1}, std::int16_t{2}, std::int16_t{32767}})
         corpo.push_back(FileRisultatiDi(aste, sezioni, sestetti, DUE_ASTE));
-  for (const std::size_t resto : {1u, 12u, 55u}) corpo.push_back(FileRisultatiDi(2, 2, 2, DUE_ASTE) + std::string(resto, '\x7F'));   // odd size
+  for (const std::size_t resto : {1u, 12u, 55u})
+    corpo.push_back(FileRisultatiDi(2, 2, 2, DUE_ASTE) + std::string(resto, '\x7F'));  // odd size
   corpo.push_back(FileRisultatiDi(1, 1, 1, {{5, 1e308, -1e308, 1e-320, 1e301, -1e300, 0}}));
   return corpo;
 }
 
 // ---- answers of the programs ----
 
-std::string risposta;                        // what the program played here writes
+std::string risposta;  // what the program played here writes
 bool ScriveSondaOut(const std::string&, const std::string&) {
   ScriviByte(suite.DirLavoro + "/SondaOut.txt", risposta);
   return true;
@@ -196,7 +202,7 @@ void Programma(const std::string& cartella, bool (*eseguito)(const std::string&,
   suite.DirLavoro = cartella;
   registratore.programmi = true;
   registratore.eseguito = eseguito;
-  for (const char* domanda : {"/SondaIn.txt", "/SondaNIn.txt"}) std::filesystem::remove(cartella + domanda);   // as ScriviByte does
+  for (const char* domanda : {"/SondaIn.txt", "/SondaNIn.txt"}) std::filesystem::remove(cartella + domanda);  // as ScriviByte does
   if (eseguito != nullptr) risposta = LeggiByte(cartella + "/risposta");
 }
 
@@ -258,8 +264,19 @@ void CalcolatriceSenzaRisposta(const std::string& cartella) {
   EXPECT_TRUE(registratore.eventi.back().ends_with("Errore aritmetico: il comando non può continuare."));
 }
 
-const std::vector<std::string> CORPO_RISPOSTE = {"\r\n", "1,,2\r\n", "-\r\n", ",\r\n", "99999,99999\r\n99999\r\n1,99999\r\n", "-1,-1\r\n-1\r\n-1,-1\r\n", "1e400\r\n1e400\r\n",
-                                                 "nan\r\ninf\r\n", "\"12,15\r\n", "3-4-5\r\n", "1-32767\r\n", std::string(100000, '9') + "\r\n", std::string(3, '\0')};
+const std::vector<std::string> CORPO_RISPOSTE = {"\r\n",
+                                                 "1,,2\r\n",
+                                                 "-\r\n",
+                                                 ",\r\n",
+                                                 "99999,99999\r\n99999\r\n1,99999\r\n",
+                                                 "-1,-1\r\n-1\r\n-1,-1\r\n",
+                                                 "1e400\r\n1e400\r\n",
+                                                 "nan\r\ninf\r\n",
+                                                 "\"12,15\r\n",
+                                                 "3-4-5\r\n",
+                                                 "1-32767\r\n",
+                                                 std::string(100000, '9') + "\r\n",
+                                                 std::string(3, '\0')};
 
 }  // namespace
 

@@ -18,11 +18,13 @@ using Testi = std::vector<std::string>;
 
 const char* RICORDATO = "\\nDa questo momento in poi il materiale impostato sarà ricordato anche se si cambia il metodo di verifica.";
 const std::string BOX_TA =
-    std::string("[messaggio] esclamazione | ATTENZIONE! | Materiale non possibile per verifiche alle tensioni ammissibili. Verrà "
-                "impostato un altro tipo di acciaio.") + RICORDATO;
+  std::string("[messaggio] esclamazione | ATTENZIONE! | Materiale non possibile per verifiche alle tensioni ammissibili. Verrà "
+              "impostato un altro tipo di acciaio.") +
+  RICORDATO;
 const std::string BOX_SLU =
-    std::string("[messaggio] esclamazione | ATTENZIONE! | Materiale non possibile per verifiche agli stati limite. Verrà impostato "
-                "un altro tipo di acciaio.") + RICORDATO;
+  std::string("[messaggio] esclamazione | ATTENZIONE! | Materiale non possibile per verifiche agli stati limite. Verrà impostato "
+              "un altro tipo di acciaio.") +
+  RICORDATO;
 
 class Combo62 : public testing::Test {
  protected:
@@ -42,7 +44,7 @@ TEST_F(Combo62, FillFiltersByMethodAndRole) {
   EXPECT_EQ(insDati.Acc.voci, (Testi{"S 235 (FE 360)", "S 275 (FE 430)", "S 355 (FE 510)", "S 450"}));
   Metodo(0);
   EXPECT_EQ(insDati.Acc.voci.back(), "S 185");
-  materiali.AcciaiBase[2].Fyk40 = 0;                 // columns need Fyk, anchors Ftk
+  materiali.AcciaiBase[2].Fyk40 = 0;  // columns need Fyk, anchors Ftk
   Metodo(1);
   EXPECT_EQ(insDati.Acc.voci, (Testi{"S 235 (FE 360)", "S 355 (FE 510)", "S 450"}));
   EXPECT_EQ(insDati.Cviti.voci.size(), 4u);
@@ -52,11 +54,11 @@ TEST_F(Combo62, FillWithoutANameTakesTheFirst) {
   nodo.MatAcc = {};
   RiempiComboMateriali(insDati.Acc, true, "PROFILI", "");
   EXPECT_EQ(insDati.Acc.scelta, 0);
-  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");     // the fill fires the selection
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");  // the fill fires the selection
 }
 
 TEST_F(Combo62, FillWithANameSelectsIt) {
-  RiempiComboMateriali(insDati.Cviti, true, "BULLONI", "s 275 (fe 430)");   // case does not count
+  RiempiComboMateriali(insDati.Cviti, true, "BULLONI", "s 275 (fe 430)");  // case does not count
   EXPECT_EQ(insDati.Cviti.scelta, 1);
   EXPECT_EQ(nodo.MatTir.Nome, "S 275 (FE 430)");
   EXPECT_TRUE(registratore.eventi.empty());
@@ -65,11 +67,11 @@ TEST_F(Combo62, FillWithANameSelectsIt) {
 TEST_F(Combo62, FillWithAStrangeNameSaysSoAndTakesAnother) {
   RiempiComboMateriali(insDati.Acc, true, "PROFILI", "S 355");
   EXPECT_EQ(registratore.eventi, (Testi{BOX_TA}));
-  EXPECT_EQ(insDati.Acc.scelta, 2);                  // "S 355 (FE 510)" contains it: table entry 3 less 1
+  EXPECT_EQ(insDati.Acc.scelta, 2);  // "S 355 (FE 510)" contains it: table entry 3 less 1
   EXPECT_EQ(nodo.MatAcc.Nome, "S 355 (FE 510)");
   RiempiComboMateriali(insDati.Acc, false, "PROFILI", "zzz");
   EXPECT_EQ(registratore.eventi.back(), BOX_SLU);
-  EXPECT_EQ(insDati.Acc.scelta, 0);                  // no overlap: 0
+  EXPECT_EQ(insDati.Acc.scelta, 0);  // no overlap: 0
 }
 
 // The two lines are joined by a carriage return alone.
@@ -83,29 +85,29 @@ TEST_F(Combo62, TheTwoLinesOfTheBox) {
 
 TEST_F(Combo62, AlternativeByMethodAndRole) {
   RiempiComboMateriali(insDati.Acc, false, "PROFILI", "S 450 N");
-  EXPECT_EQ(insDati.Acc.scelta, 3);                  // "S 450", entry 4, which has no allowable stress
+  EXPECT_EQ(insDati.Acc.scelta, 3);  // "S 450", entry 4, which has no allowable stress
   materiali.AcciaiBase[1].Nome = "S 355 A";
   materiali.AcciaiBase[2].Nome = "S 355 B";
-  materiali.AcciaiBase[1].Ftk = 0;                   // no anchor steel by limit states
+  materiali.AcciaiBase[1].Ftk = 0;  // no anchor steel by limit states
   RiempiComboMateriali(insDati.Cviti, false, "BULLONI", "S 355");
-  EXPECT_EQ(insDati.Cviti.scelta, 1);                // entry 2 less 1
+  EXPECT_EQ(insDati.Cviti.scelta, 1);  // entry 2 less 1
   RiempiComboMateriali(insDati.Acc, false, "PROFILI", "S 355");
-  EXPECT_EQ(insDati.Acc.scelta, 0);                  // entry 1 serves a column
+  EXPECT_EQ(insDati.Acc.scelta, 0);  // entry 1 serves a column
 }
 
 TEST_F(Combo62, AlternativeCountsTableEntriesNotItems) {
-  materiali.AcciaiBase[1].SAmm = 0;                  // the combo loses its first item
+  materiali.AcciaiBase[1].SAmm = 0;  // the combo loses its first item
   RiempiComboMateriali(insDati.Acc, true, "PROFILI", "S 275");
-  EXPECT_EQ(insDati.Acc.scelta, 1);                  // table entry 2 less 1: the second item, which is entry 3
+  EXPECT_EQ(insDati.Acc.scelta, 1);  // table entry 2 less 1: the second item, which is entry 3
   EXPECT_EQ(insDati.Acc.voci[1], "S 355 (FE 510)");
-  EXPECT_EQ(nodo.MatAcc.Nome, "S 275 (FE 430)");     // and the record of position + 1
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 275 (FE 430)");  // and the record of position + 1
 }
 
 TEST_F(Combo62, AlternativeBeyondTheComboSelectsNothing) {
   for (int n = 1; n <= 3; n++) materiali.AcciaiBase[n].SAmm = 0;
   materiali.AcciaiBase[5].Nome = "S 185 W";
   const std::string prima = nodo.MatAcc.Nome;
-  RiempiComboMateriali(insDati.Acc, true, "PROFILI", "S 185");     // entry 5 less 1 = 4, one item
+  RiempiComboMateriali(insDati.Acc, true, "PROFILI", "S 185");  // entry 5 less 1 = 4, one item
   EXPECT_EQ(insDati.Acc.voci, (Testi{"S 185 W"}));
   EXPECT_EQ(insDati.Acc.scelta, -1);
   EXPECT_EQ(nodo.MatAcc.Nome, prima);
@@ -124,19 +126,19 @@ TEST_F(Combo62, ACountBeyondTheTableIsSafe) {
   materiali.NumAcciai = 60;
   for (int n = 6; n <= 50; n++) materiali.AcciaiBase[n] = materiali.AcciaiBase[1];
   RiempiComboMateriali(insDati.Acc, true, "PROFILI", "");
-  EXPECT_EQ(insDati.Acc.voci.size(), 49u);           // 50 entries without "S 450"
+  EXPECT_EQ(insDati.Acc.voci.size(), 49u);  // 50 entries without "S 450"
   materiali.NumAcciai = -3;
   RiempiComboMateriali(insDati.Acc, true, "PROFILI", "");
   EXPECT_TRUE(insDati.Acc.voci.empty());
 }
 
 TEST_F(Combo62, MemoriesOfBothMethods) {
-  Scegli(insDati.Acc, 1);                            // TA: S 275, anchors S 355
+  Scegli(insDati.Acc, 1);  // TA: S 275, anchors S 355
   Scegli(insDati.Cviti, 2);
-  Metodo(1);                                         // first use: the same grades
+  Metodo(1);  // first use: the same grades
   EXPECT_EQ(nodo.MatAcc.Nome, "S 275 (FE 430)");
   EXPECT_EQ(nodo.MatTir.Nome, "S 355 (FE 510)");
-  Scegli(insDati.Acc, 0);                            // SLU: S 235 and anchors S 275
+  Scegli(insDati.Acc, 0);  // SLU: S 235 and anchors S 275
   Scegli(insDati.Cviti, 1);
   Metodo(0);
   EXPECT_EQ(nodo.MatAcc.Nome, "S 275 (FE 430)");
@@ -144,8 +146,8 @@ TEST_F(Combo62, MemoriesOfBothMethods) {
   Metodo(1);
   EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");
   EXPECT_EQ(nodo.MatTir.Nome, "S 275 (FE 430)");
-  const char* attese[] = {"S 275 (FE 430)", "S 235 (FE 360)", "S 355 (FE 510)", "S 275 (FE 430)"};   // column TA, SLU, anchors TA, SLU
-  const double fyk[] = {2750, 2350, 3550, 2750};     // whole records are kept
+  const char* attese[] = {"S 275 (FE 430)", "S 235 (FE 360)", "S 355 (FE 510)", "S 275 (FE 430)"};  // column TA, SLU, anchors TA, SLU
+  const double fyk[] = {2750, 2350, 3550, 2750};                                                    // whole records are kept
   for (int i = 0; i < 4; i++) {
     EXPECT_EQ(materiali.MemoriaMateriali[i].Nome, attese[i]);
     EXPECT_EQ(materiali.MemoriaMateriali[i].Fyk, fyk[i]) << i;
@@ -155,22 +157,22 @@ TEST_F(Combo62, MemoriesOfBothMethods) {
 
 TEST_F(Combo62, AGradeOfTheOtherMethodIsReplacedAndRemembered) {
   Metodo(1);
-  materiali.MemoriaMateriali[0] = {};                // no memory of allowable stresses yet
-  nodo.MatAcc = materiali.AcciaiBase[4];             // S 450: no allowable stress
+  materiali.MemoriaMateriali[0] = {};     // no memory of allowable stresses yet
+  nodo.MatAcc = materiali.AcciaiBase[4];  // S 450: no allowable stress
   Metodo(0);
   EXPECT_EQ(registratore.eventi, (Testi{BOX_TA}));
-  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");     // nothing overlaps: position 0
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");  // nothing overlaps: position 0
   Metodo(1);
-  EXPECT_EQ(nodo.MatAcc.Nome, "S 450");              // and position 3 of the limit states is entry 4
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 450");  // and position 3 of the limit states is entry 4
   Metodo(0);
-  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");     // remembered: no second box
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");  // remembered: no second box
   EXPECT_EQ(registratore.eventi.size(), 1u);
 }
 
 TEST_F(Combo62, SelectionTakesTheEntryOfItsPositionAlsoWhenFiltered) {
   materiali.AcciaiBase[1].SAmm = 0;
   RiempiComboMateriali(insDati.Acc, true, "PROFILI", "");
-  Scegli(insDati.Acc, 1);                            // shows "S 355 (FE 510)", table entry 2 is S 275
+  Scegli(insDati.Acc, 1);  // shows "S 355 (FE 510)", table entry 2 is S 275
   EXPECT_EQ(insDati.Acc.voci[1], "S 355 (FE 510)");
   EXPECT_EQ(nodo.MatAcc.Nome, "S 275 (FE 430)");
   EXPECT_EQ(insDati.LabNormaProf.testo, "norma 2");
@@ -186,10 +188,10 @@ TEST_F(Combo62, SelectionEvents) {
   materiali.ClsBase[2].GammaC = 1.6;
   Scegli(insDati.ComboCalcestruzzo, 1);
   EXPECT_EQ(nodo.MatCls.Nome, "C25/30");
-  EXPECT_EQ(nodo.MatCls.GammaC, 1.6);                // the whole record
-  EXPECT_NEAR(nodo.EcCls, 312201.85778, 1e-5);       // 5700 sqrt(300 / 10) 10 daN/cm2
+  EXPECT_EQ(nodo.MatCls.GammaC, 1.6);           // the whole record
+  EXPECT_NEAR(nodo.EcCls, 312201.85778, 1e-5);  // 5700 sqrt(300 / 10) 10 daN/cm2
   Scegli(insDati.ComboCalcestruzzo, 0);
-  EXPECT_DOUBLE_EQ(nodo.EcCls, 285000);              // 5700 * 5 * 10
+  EXPECT_DOUBLE_EQ(nodo.EcCls, 285000);  // 5700 * 5 * 10
 }
 
 TEST_F(Combo62, ANegativeClassIsAFaultAndKeepsTheModulus) {
@@ -203,7 +205,7 @@ TEST_F(Combo62, ANegativeClassIsAFaultAndKeepsTheModulus) {
 // ---- the job's materials ----
 
 TEST_F(Combo62, JobMaterialsComeFromTheTables) {
-  materiali.MatBaseAcc1.Nome = "S 275 (FE 430)";     // the job's file writes upper case
+  materiali.MatBaseAcc1.Nome = "S 275 (FE 430)";  // the job's file writes upper case
   materiali.MatBaseAcc1.Fyk = 1;
   materiali.MatBaseCls.Nome = "C25/30";
   InsDati_CheckMatBase(0);
@@ -247,11 +249,11 @@ TEST_F(Combo62, JobSteelReplacedByMethodAndRole) {
   materiali.MatBaseCls.Nome = "C25/30";
   materiali.MatBaseAcc1.Nome = "S 450 N";
   InsDati_CheckMatBase(0);
-  EXPECT_EQ(nodo.MatAcc.Nome, "S 450");              // contained; allowable stresses do not have it
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 450");  // contained; allowable stresses do not have it
   EXPECT_EQ(insDati.Acc.scelta, 3);
-  materiali.AcciaiBase[4].Fyk = 0;                   // an anchor steel only
+  materiali.AcciaiBase[4].Fyk = 0;  // an anchor steel only
   InsDati_CheckMatBase(0);
-  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");     // nothing overlaps: entry 1
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");  // nothing overlaps: entry 1
 }
 
 TEST_F(Combo62, JobConcreteThatTheComboLacksKeepsTheCopy) {
@@ -286,7 +288,7 @@ TEST_F(Nomi62, KnownNamesPassBlanksAside) {
   ControllaMateriali();
   EXPECT_TRUE(registratore.eventi.empty());
   EXPECT_EQ(nodo.MatAcc.Nome, "S 275 (FE 430)");
-  nodo.MatAcc.Nome = "S 185";                        // the last entry
+  nodo.MatAcc.Nome = "S 185";  // the last entry
   nodo.MatTir.Nome = " S 235 (FE 360) ";
   materiali.UsaViti = true;
   materiali.NumViti = 2;
@@ -294,7 +296,7 @@ TEST_F(Nomi62, KnownNamesPassBlanksAside) {
   ControllaMateriali();
   EXPECT_TRUE(registratore.eventi.empty());
   EXPECT_EQ(nodo.MatVit.Nome, "10.9");
-  nodo.MatAcc.Nome = "s 275 (FE 430)";               // case counts
+  nodo.MatAcc.Nome = "s 275 (FE 430)";  // case counts
   ControllaMateriali();
   EXPECT_EQ(registratore.eventi.size(), 1u);
 }
@@ -305,7 +307,7 @@ TEST_F(Nomi62, UnknownNamesAreToldAndReplacedByNameOnly) {
   nodo.MatTir.Nome = "zz";
   nodo.MatCls.Nome = "C1";
   nodo.MatCls.Rck = 88;
-  nodo.MatPiastra.Nome = "ignota";                   // switched off
+  nodo.MatPiastra.Nome = "ignota";  // switched off
   nodo.MatVit.Nome = "ignota";
   ControllaMateriali();
   EXPECT_EQ(registratore.eventi,
@@ -315,7 +317,7 @@ TEST_F(Nomi62, UnknownNamesAreToldAndReplacedByNameOnly) {
                    "un acciaio dalla tendina dei  materiali",
                    "[messaggio] nessuna | NODO COLONNA - PLINTO | Attenzione: classe calcestruzzo non accettabile (C1). Scegliere una "
                    "classe dalla tendina dei calcestruzzi"}));
-  EXPECT_EQ(nodo.MatTir.Nome, "S 235 (FE 360)");     // no overlap: entry 1
+  EXPECT_EQ(nodo.MatTir.Nome, "S 235 (FE 360)");  // no overlap: entry 1
   EXPECT_EQ(nodo.MatCls.Nome, "C20/25");
   EXPECT_EQ(nodo.MatCls.Rck, 88);
   EXPECT_EQ(nodo.MatAcc.Fyk, 77);
@@ -329,7 +331,7 @@ TEST_F(Nomi62, ReplacementOverlapsTheName) {
 }
 
 TEST_F(Nomi62, ReplacementFollowsTheMethod) {
-  nodo.MatAcc.Nome = "S 185 bis";                    // TA: "S 185" is usable and contained; SLU: it is not
+  nodo.MatAcc.Nome = "S 185 bis";  // TA: "S 185" is usable and contained; SLU: it is not
   ControllaMateriali();
   EXPECT_EQ(nodo.MatAcc.Nome, "S 185");
   Metodo(1);
@@ -342,9 +344,9 @@ TEST_F(Nomi62, ReplacementFollowsTheMethod) {
 TEST_F(Nomi62, ReplacementFollowsTheRole) {
   Metodo(1);
   materiali.AcciaiBase[1].Nome = "S 355 A";
-  materiali.AcciaiBase[1].Ftk = 0;                   // by limit states a column's steel only
+  materiali.AcciaiBase[1].Ftk = 0;  // by limit states a column's steel only
   materiali.AcciaiBase[2].Nome = "S 355 B";
-  materiali.AcciaiBase[2].Fyk = 0;                   // an anchor's only
+  materiali.AcciaiBase[2].Fyk = 0;  // an anchor's only
   nodo.MatAcc.Nome = nodo.MatTir.Nome = "S 355";
   ControllaMateriali();
   EXPECT_EQ(nodo.MatAcc.Nome, "S 355 A");
@@ -366,7 +368,7 @@ TEST_F(Nomi62, RowsThatAreSwitchedOffToday) {
                    "tendina delle viti"}));
   EXPECT_EQ(nodo.MatPiastra.Nome, "S 235 (FE 360)");
   EXPECT_EQ(nodo.MatVit.Nome, "8.8");
-  EXPECT_EQ(nodo.MatVit.Ft, 99);                     // by name only
+  EXPECT_EQ(nodo.MatVit.Ft, 99);  // by name only
   EXPECT_EQ(nodo.MatTir.Nome, "ignoti");
 }
 
@@ -375,11 +377,11 @@ TEST_F(Nomi62, ClosedSectionsHaveTheirOwnTable) {
   materiali.NumAcciaiChiusi = 1;
   materiali.AcciaiChiusiBase[1] = materiali.AcciaiBase[3];
   materiali.AcciaiChiusiBase[1].Nome = "S 355 H";
-  materiali.AcciaiChiusiBase[2].Nome = nodo.MatAcc.Nome;   // beyond the table's own count
-  ControllaMateriali();                              // S 275 is not in it
+  materiali.AcciaiChiusiBase[2].Nome = nodo.MatAcc.Nome;  // beyond the table's own count
+  ControllaMateriali();                                   // S 275 is not in it
   EXPECT_EQ(registratore.eventi.size(), 1u);
   EXPECT_EQ(nodo.MatAcc.Nome, "S 355 H");
-  materiali.NumAcciaiChiusi = 2;                     // its own count and its own order
+  materiali.NumAcciaiChiusi = 2;  // its own count and its own order
   materiali.NumAcciai = 1;
   materiali.AcciaiChiusiBase[2] = materiali.AcciaiBase[1];
   materiali.AcciaiChiusiBase[2].Nome = "S 235 H";
@@ -389,7 +391,7 @@ TEST_F(Nomi62, ClosedSectionsHaveTheirOwnTable) {
   EXPECT_EQ(registratore.eventi.size(), 1u);
   nodo.MatAcc.Nome = "S 235";
   ControllaMateriali();
-  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 H");            // entry 2 of its table, where the other holds S 235 first
+  EXPECT_EQ(nodo.MatAcc.Nome, "S 235 H");  // entry 2 of its table, where the other holds S 235 first
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 
 namespace {
 
-int Coord(double x, double y) {               // appended without a look-up
+int Coord(double x, double y) {  // appended without a look-up
   disegno.CoordX[disegno.NumCoord] = x;
   disegno.CoordY[disegno.NumCoord] = y;
   return disegno.NumCoord++;
@@ -71,7 +71,7 @@ TEST_F(Compatta, ToleranzaDelCoperto) {
   Linea(2, 0, 8, 0, 4, 0);
   Linea(0, 50, 10, 50, 1, 0);
   Linea(2, 50, 10.00006, 50, 3, 1);
-  Linea(-0.00004, 0, 5, 0, 5, 4);             // and before its beginning
+  Linea(-0.00004, 0, 5, 0, 5, 4);  // and before its beginning
   CompattaDisegno();
   ASSERT_EQ(disegno.NumLinee, 4);
   EXPECT_EQ(disegno.LinCol[1], 4);
@@ -106,8 +106,8 @@ TEST_F(Compatta, DiDueNascosteUgualiRestaLaSeconda) {
 
 TEST_F(Compatta, SporgenteOFuoriLineaRestano) {
   Linea(0, 0, 10, 0, 1, 0);
-  Linea(2, 0, 11, 0, 2, 4);                   // sticks out
-  Linea(2, 0.1, 8, 0.1, 2, 4);                // beside: the way over it is longer by some 2 h h / L = 0.002 and more
+  Linea(2, 0, 11, 0, 2, 4);     // sticks out
+  Linea(2, 0.1, 8, 0.1, 2, 4);  // beside: the way over it is longer by some 2 h h / L = 0.002 and more
   CompattaDisegno();
   EXPECT_EQ(disegno.NumLinee, 3);
 }
@@ -115,8 +115,8 @@ TEST_F(Compatta, SporgenteOFuoriLineaRestano) {
 // One end on the other line is not enough, whichever it is.
 TEST_F(Compatta, UnCapoSoloNonBasta) {
   Linea(0, 0, 10, 0, 1, 0);
-  Linea(5, 0, 5, 1, 2, 4);                    // the first end lies on it
-  Linea(5.2, 1, 5.2, 0, 2, 4);                // the second
+  Linea(5, 0, 5, 1, 2, 4);      // the first end lies on it
+  Linea(5.2, 1, 5.2, 0, 2, 4);  // the second
   CompattaDisegno();
   EXPECT_EQ(disegno.NumLinee, 3);
 }
@@ -135,7 +135,7 @@ TEST_F(Compatta, AccantoAUnaLineaLunga) {
 
 TEST_F(Compatta, ColoreZeroNonSiToccaENegativoVia) {
   Linea(0, 0, 10, 0, 1, 0);
-  Linea(2, 0, 8, 0, 0, 4);                    // colour not positive: stays
+  Linea(2, 0, 8, 0, 0, 4);  // colour not positive: stays
   Linea(50, 0, 58, 0, -1, 0);
   Linea(60, 0, 68, 0, 1, -1);
   CompattaDisegno();
@@ -178,7 +178,7 @@ TEST_F(Compatta, TestiVuoti) {
   Testo(1, 12, 14, "b");
   Testo(2, 10, 0, "c");
   Testo(3, -5, 10, "d");
-  Testo(1, 1, 1, "e");                        // a tenth is a size
+  Testo(1, 1, 1, "e");  // a tenth is a size
   disegno.TesCol[1] = 5;
   disegno.TesAllin[1] = 2;
   CompattaDisegno();
@@ -228,7 +228,7 @@ TEST_F(Compatta, LEstremoDellArcoTieneIlSuo) {
   Arco(centro, b, centro, b);
   CompattaDisegno();
   EXPECT_EQ(disegno.ArcIni[0], 0);
-  EXPECT_EQ(disegno.ArcFin[0], 2);            // its coordinate stays in the file
+  EXPECT_EQ(disegno.ArcFin[0], 2);  // its coordinate stays in the file
   EXPECT_EQ(disegno.NumCoord, 3);
   EXPECT_EQ(disegno.CoordX[2], 10.00005);
 }
@@ -280,7 +280,9 @@ double Dist(int a, int b) {
   return std::sqrt((d.CoordX[a] - d.CoordX[b]) * (d.CoordX[a] - d.CoordX[b]) + (d.CoordY[a] - d.CoordY[b]) * (d.CoordY[a] - d.CoordY[b]));
 }
 
-bool Giace(int p, int j) { return Dist(p, disegno.LinIni[j]) + Dist(p, disegno.LinFin[j]) - Dist(disegno.LinIni[j], disegno.LinFin[j]) < 0.0001; }
+bool Giace(int p, int j) {
+  return Dist(p, disegno.LinIni[j]) + Dist(p, disegno.LinFin[j]) - Dist(disegno.LinIni[j], disegno.LinFin[j]) < 0.0001;
+}
 
 void Passo1() {
   Disegno& d = disegno;
@@ -389,8 +391,10 @@ void Passo5() {
 
 void CompattaPerEsteso() {
   Passo1();
-  while (UnArcoDoppio()) {}
-  while (UnTestoVuoto()) {}
+  while (UnArcoDoppio()) {
+  }
+  while (UnTestoVuoto()) {
+  }
   Passo4();
   Passo5();
 }
@@ -403,13 +407,16 @@ void ConfrontaCon(const Disegno& a) {
   ASSERT_EQ(d.NumTesti, a.NumTesti);
   for (int i = 0; i < d.NumCoord; ++i) ASSERT_TRUE(d.CoordX[i] == a.CoordX[i] && d.CoordY[i] == a.CoordY[i]) << i;
   for (int i = 0; i < d.NumLinee; ++i)
-    ASSERT_TRUE(d.LinIni[i] == a.LinIni[i] && d.LinFin[i] == a.LinFin[i] && d.LinCol[i] == a.LinCol[i] && d.LinTipo[i] == a.LinTipo[i]) << i;
+    ASSERT_TRUE(d.LinIni[i] == a.LinIni[i] && d.LinFin[i] == a.LinFin[i] && d.LinCol[i] == a.LinCol[i] && d.LinTipo[i] == a.LinTipo[i])
+      << i;
   for (int i = 0; i < d.NumArchi; ++i)
     ASSERT_TRUE(d.ArcCen[i] == a.ArcCen[i] && d.ArcIni[i] == a.ArcIni[i] && d.ArcCen2[i] == a.ArcCen2[i] && d.ArcFin[i] == a.ArcFin[i] &&
-                d.ArcCol[i] == a.ArcCol[i] && d.ArcTipo[i] == a.ArcTipo[i]) << i;
+                d.ArcCol[i] == a.ArcCol[i] && d.ArcTipo[i] == a.ArcTipo[i])
+      << i;
   for (int i = 0; i < d.NumTesti; ++i)
-    ASSERT_TRUE(d.TesPos[i] == a.TesPos[i] && d.TesAng[i] == a.TesAng[i] && d.TesLarg[i] == a.TesLarg[i] && d.TesAlt[i] == a.TesAlt[i] && d.TesCol[i] == a.TesCol[i] &&
-                d.TesStr[static_cast<std::size_t>(i)] == a.TesStr[static_cast<std::size_t>(i)]) << i;
+    ASSERT_TRUE(d.TesPos[i] == a.TesPos[i] && d.TesAng[i] == a.TesAng[i] && d.TesLarg[i] == a.TesLarg[i] && d.TesAlt[i] == a.TesAlt[i] &&
+                d.TesCol[i] == a.TesCol[i] && d.TesStr[static_cast<std::size_t>(i)] == a.TesStr[static_cast<std::size_t>(i)])
+      << i;
 }
 
 using Caso = std::mt19937;
@@ -424,10 +431,11 @@ void RiempiACaso(Caso& c, int numCoord, int numLinee, double scala) {
     if (i > 0 && come == 0) {
       const int k = Intero(c, 0, i - 1);
       Coord(disegno.CoordX[k] + Reale(c, -0.00015, 0.00015), disegno.CoordY[k] + Reale(c, -0.00015, 0.00015));
-    } else if (i > 1 && come == 1) {          // on the line between two others, or just beside
+    } else if (i > 1 && come == 1) {  // on the line between two others, or just beside
       const int a = Intero(c, 0, i - 1), b = Intero(c, 0, i - 1);
       const double t = Reale(c, -0.1, 1.1), s = Intero(c, 0, 1) * Reale(c, -0.1, 0.1);
-      Coord(disegno.CoordX[a] + t * (disegno.CoordX[b] - disegno.CoordX[a]) + s, disegno.CoordY[a] + t * (disegno.CoordY[b] - disegno.CoordY[a]));
+      Coord(disegno.CoordX[a] + t * (disegno.CoordX[b] - disegno.CoordX[a]) + s,
+            disegno.CoordY[a] + t * (disegno.CoordY[b] - disegno.CoordY[a]));
     } else if (come <= 3) {
       Coord(Intero(c, 0, 6) * scala, Intero(c, 0, 6) * scala);
     } else {
@@ -437,7 +445,8 @@ void RiempiACaso(Caso& c, int numCoord, int numLinee, double scala) {
   const auto indice = [&] { return Intero(c, 0, numCoord - 1); };
   for (int i = 0; i < numLinee; ++i) {
     const int tipi[] = {0, 0, 1, 4, 4, -1};
-    LineaTra(indice(), indice(), Intero(c, -1, 7) / (Intero(c, 0, 9) ? 1 : 8) + (Intero(c, 0, 5) ? 1 : 0), tipi[Intero(c, 0, 4 + (Intero(c, 0, 20) == 0))]);
+    LineaTra(indice(), indice(), Intero(c, -1, 7) / (Intero(c, 0, 9) ? 1 : 8) + (Intero(c, 0, 5) ? 1 : 0),
+             tipi[Intero(c, 0, 4 + (Intero(c, 0, 20) == 0))]);
   }
   for (int i = 0; i < numLinee / 4; ++i) Arco(Intero(c, 0, 2), Intero(c, 3, 5), Intero(c, 0, 1), indice() % 6, Intero(c, 1, 2), 0);
   for (int i = 0; i < numLinee / 4; ++i) Testo(indice(), Intero(c, -1, 3), Intero(c, 0, 4), std::to_string(i));

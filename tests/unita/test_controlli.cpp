@@ -15,7 +15,7 @@ struct StatoFinto {
   bool aperto = false, caricato = false;
   std::string titolo;
   Controllo Schede, Fuori, Dentro, Campo, Serie[3], Comando, Muto, Spunta, Voce[3], Lista, Barra, Figura;
-  std::vector<std::string> fatti;              // handlers that ran, with their index
+  std::vector<std::string> fatti;  // handlers that ran, with their index
 };
 StatoFinto finto;
 
@@ -39,18 +39,18 @@ void Mostrato() { finto.fatti.push_back("mostrato"); }
 constexpr const char* NOMI[] = {"zero", "uno", "due"};
 constexpr const char* AIUTI[] = {"aiuto 4", "aiuto 5", "aiuto 6"};
 const RigaPannello RIGHE[] = {
-    {"Schede", Genere::Schede, &finto.Schede, 0, 0, false, "", NOMI},
-    {"Fuori", Genere::Cornice, &finto.Fuori, 0, 0, false, "Schede/1", "[mm]"},
-    {"Dentro", Genere::Cornice, &finto.Dentro, 0, 0, false, "Fuori"},
-    {"Campo", Genere::Campo, &finto.Campo, 0, 0, false, "Dentro", {}, "scrivere", nullptr, Cambia, Entra, Raddoppia},
-    {"Serie", Genere::Campo, finto.Serie, 4, 6, true, "", {}, AIUTI, nullptr, Cambia},
-    {"Comando", Genere::Comando, &finto.Comando, 0, 0, false, "", "Fai", {}, nullptr, Guarda},
-    {"Muto", Genere::Comando, &finto.Muto, 0, 0, false, "", "Niente"},
-    {"Spunta", Genere::Spunta, &finto.Spunta, 0, 0, false, "", {}, {}, nullptr, Cambia},
-    {"Voce", Genere::Scelta, finto.Voce, 0, 2, true, "", NOMI, {}, StatoDi, Cambia},
-    {"Lista", Genere::Lista, &finto.Lista, 0, 0, false, "", {}, {}, nullptr, Cambia},
-    {"Barra", Genere::Barra, &finto.Barra, 0, 0, false, "", {}, {}, nullptr, Cambia},
-    {"Figura", Genere::Immagine, &finto.Figura, 0, 0, false, "", {}, {}, nullptr, Guasta, nullptr, Esaurisce},
+  {"Schede", Genere::Schede, &finto.Schede, 0, 0, false, "", NOMI},
+  {"Fuori", Genere::Cornice, &finto.Fuori, 0, 0, false, "Schede/1", "[mm]"},
+  {"Dentro", Genere::Cornice, &finto.Dentro, 0, 0, false, "Fuori"},
+  {"Campo", Genere::Campo, &finto.Campo, 0, 0, false, "Dentro", {}, "scrivere", nullptr, Cambia, Entra, Raddoppia},
+  {"Serie", Genere::Campo, finto.Serie, 4, 6, true, "", {}, AIUTI, nullptr, Cambia},
+  {"Comando", Genere::Comando, &finto.Comando, 0, 0, false, "", "Fai", {}, nullptr, Guarda},
+  {"Muto", Genere::Comando, &finto.Muto, 0, 0, false, "", "Niente"},
+  {"Spunta", Genere::Spunta, &finto.Spunta, 0, 0, false, "", {}, {}, nullptr, Cambia},
+  {"Voce", Genere::Scelta, finto.Voce, 0, 2, true, "", NOMI, {}, StatoDi, Cambia},
+  {"Lista", Genere::Lista, &finto.Lista, 0, 0, false, "", {}, {}, nullptr, Cambia},
+  {"Barra", Genere::Barra, &finto.Barra, 0, 0, false, "", {}, {}, nullptr, Cambia},
+  {"Figura", Genere::Immagine, &finto.Figura, 0, 0, false, "", {}, {}, nullptr, Guasta, nullptr, Esaurisce},
 };
 const Pannello FINTO = {"Finto", RIGHE, false, &finto.titolo, Carica, Mostrato, Passa, &finto.aperto, &finto.caricato};
 
@@ -91,13 +91,13 @@ TEST_F(Controlli, FindsByNameAndIndexOfTheRow) {
   EXPECT_EQ(TrovaControllo(FINTO, "Serie", SENZA_INDICE), nullptr);
   EXPECT_EQ(TrovaControllo(FINTO, "Campo", SENZA_INDICE), &finto.Campo);
   EXPECT_EQ(TrovaControllo(FINTO, "Campo", 1), nullptr);
-  EXPECT_EQ(TrovaControllo(FINTO, "Voce", SENZA_INDICE), &finto.Voce[0]);   // stands for the whole choice
+  EXPECT_EQ(TrovaControllo(FINTO, "Voce", SENZA_INDICE), &finto.Voce[0]);  // stands for the whole choice
   EXPECT_EQ(TrovaControllo(FINTO, "campo", SENZA_INDICE), nullptr);
   EXPECT_EQ(TrovaRiga(FINTO, "Nessuno"), nullptr);
 }
 
 TEST_F(Controlli, FramesHideAndDisableWhatTheyHold) {
-  MostraScelta(finto.Schede, 2);                     // another tab on top does not hide
+  MostraScelta(finto.Schede, 2);  // another tab on top does not hide
   EXPECT_TRUE(Visibile(FINTO, finto.Campo));
   MostraVisibile(finto.Fuori, false);
   EXPECT_FALSE(Visibile(FINTO, finto.Campo));
@@ -158,7 +158,7 @@ TEST_F(Controlli, BarClipsAndTickTakesAnyNumberButZero) {
   MostraMassimo(finto.Barra, 7);
   EXPECT_EQ(finto.Barra.scelta, 7);
   MostraMassimo(finto.Barra, 0);
-  EXPECT_EQ(finto.Barra.massimo, 3);                 // never below the minimum
+  EXPECT_EQ(finto.Barra.massimo, 3);  // never below the minimum
   ImpostaScelta(finto.Spunta, 7);
   EXPECT_EQ(finto.Spunta.scelta, 1);
   ImpostaScelta(finto.Spunta, 0);
@@ -179,11 +179,11 @@ TEST_F(Controlli, ExclusiveChoiceHasOneEntry) {
 TEST_F(Controlli, ListByTextIgnoresCaseAndKeepsBlanks) {
   EXPECT_TRUE(ImpostaVoce(finto.Lista, "BETA "));
   EXPECT_EQ(finto.Lista.scelta, 1);
-  EXPECT_FALSE(ImpostaVoce(finto.Lista, "beta"));    // the entry has a trailing blank
+  EXPECT_FALSE(ImpostaVoce(finto.Lista, "beta"));  // the entry has a trailing blank
   EXPECT_EQ(finto.Lista.scelta, 1);
   EXPECT_TRUE(ImpostaVoce(finto.Lista, "alfa"));
-  EXPECT_EQ(finto.Lista.scelta, 0);                  // the first that is equal
-  EXPECT_FALSE(passi.fallito);                       // a refused text is an expected answer
+  EXPECT_EQ(finto.Lista.scelta, 0);  // the first that is equal
+  EXPECT_FALSE(passi.fallito);       // a refused text is an expected answer
   EXPECT_EQ(finto.fatti.size(), 2u);
 }
 
@@ -208,7 +208,8 @@ TEST_F(Controlli, AHandlerWithoutMemoryEndsWithItsBox) {
 
 TEST_F(Controlli, AFaultOfAHandlerShowsItsBox) {
   Scatena(FINTO, finto.Figura, Evento::Cambio);
-  EXPECT_EQ(registratore.eventi, (Fatti{"[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: il comando non può continuare."}));
+  EXPECT_EQ(registratore.eventi,
+            (Fatti{"[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: il comando non può continuare."}));
   EXPECT_FALSE(FaultAritmetico());
 }
 
@@ -216,8 +217,8 @@ TEST_F(Controlli, WhatHasNoHandlerIsNotCarriedOut) {
   EXPECT_FALSE(Scatena(FINTO, finto.Muto, Evento::Cambio));
   EXPECT_FALSE(Scatena(FINTO, finto.Muto, Evento::Doppio));
   EXPECT_FALSE(Scatena(FINTO, finto.Muto, Evento::Invio));
-  EXPECT_TRUE(Scatena(FINTO, finto.Serie[0], Evento::Invio));      // Enter in a field always goes
-  EXPECT_TRUE(UtenteSceglie(FINTO, finto.Schede, 1));              // a page turns without a handler
+  EXPECT_TRUE(Scatena(FINTO, finto.Serie[0], Evento::Invio));  // Enter in a field always goes
+  EXPECT_TRUE(UtenteSceglie(FINTO, finto.Schede, 1));          // a page turns without a handler
   EXPECT_EQ(finto.Schede.scelta, 1);
 }
 
@@ -241,8 +242,8 @@ TEST_F(Controlli, PointerTellsTextsAndFramesClearThem) {
   Scatena(FINTO, finto.Campo, Evento::Passa);
   Scatena(FINTO, finto.Serie[1], Evento::Passa);
   Scatena(FINTO, finto.Voce[1], Evento::Passa);
-  Scatena(FINTO, finto.Voce[2], Evento::Passa);      // no text just now: nothing
-  Scatena(FINTO, finto.Comando, Evento::Passa);      // no text: nothing
+  Scatena(FINTO, finto.Voce[2], Evento::Passa);  // no text just now: nothing
+  Scatena(FINTO, finto.Comando, Evento::Passa);  // no text: nothing
   Scatena(FINTO, finto.Fuori, Evento::Passa);
   PassaSulPannello(FINTO);
   EXPECT_EQ(finto.fatti, (Fatti{"passa:scrivere", "passa:aiuto 5", "passa:uno", "passa:", "passa:"}));

@@ -22,7 +22,7 @@ class Copione : public testing::Test {
     copione = {};
     ASSERT_TRUE(AvviaSuite(radice));
   }
-  std::string Stampa(const char* riga) {     // what the line prints; "!" in front when it was refused
+  std::string Stampa(const char* riga) {  // what the line prints; "!" in front when it was refused
     testing::internal::CaptureStdout();
     const bool riuscita = EseguiRiga(riga);
     return (riuscita ? "" : "!") + testing::internal::GetCapturedStdout();
@@ -66,7 +66,7 @@ TEST_F(Copione, RigheRifiutate) {
     "spunta InsDati.ChSI",
     "spunta InsDati.ChSI 2",
     "spunta InsDati.ChSI -1",
-    "spunta InsDati.CheckMatBase 0",        // ticking is pressing; there is nothing to untick
+    "spunta InsDati.CheckMatBase 0",  // ticking is pressing; there is nothing to untick
     "spunta InsDati.CasCar(0) 1",
     "spunta InsDati.Verifica 1",
     "scorri InsDati.ScrollSa 3",
@@ -130,10 +130,10 @@ TEST_F(Copione, CodeDelleRisposteEDeiFile) {
   ASSERT_EQ(ospite.file.size(), 4u);
   EXPECT_FALSE(ospite.file[0].scelto);
   EXPECT_EQ(ospite.file[1].percorso, "/a b/c.qb7");
-  EXPECT_EQ(ospite.file[1].filtro, 1);                  // no filter named: the first
+  EXPECT_EQ(ospite.file[1].filtro, 1);  // no filter named: the first
   EXPECT_EQ(ospite.file[2].percorso, "c:\\x y.dxf");
   EXPECT_EQ(ospite.file[2].filtro, 3);
-  EXPECT_EQ(ospite.file[3].percorso, "7");              // a number alone is a path
+  EXPECT_EQ(ospite.file[3].percorso, "7");  // a number alone is a path
 }
 
 // A picture: strokes of each colour as red green blue (0xBBGGRR in the model), in rising order.

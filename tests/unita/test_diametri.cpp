@@ -73,10 +73,10 @@ TEST_F(Diametri, FilePiuCortoLasciaRigheInterneDietro) {
   EXPECT_EQ(suite.DiamNome[0], "T1");
   EXPECT_EQ(suite.DiamVal[0], 12.5);
   EXPECT_EQ(suite.DiamArea[0], 100.25);
-  EXPECT_EQ(suite.DiamNome[1], " T2 ");      // the name as it stands
-  EXPECT_EQ(suite.DiamVal[1], 14);           // always the point: a comma ends the number
+  EXPECT_EQ(suite.DiamNome[1], " T2 ");  // the name as it stands
+  EXPECT_EQ(suite.DiamVal[1], 14);       // always the point: a comma ends the number
   EXPECT_EQ(suite.DiamArea[2], 100);
-  EXPECT_EQ(suite.DiamNome[3], "M14");       // built-in rows behind the count
+  EXPECT_EQ(suite.DiamNome[3], "M14");  // built-in rows behind the count
   EXPECT_EQ(suite.DiamVal[3], 14);
   EXPECT_EQ(suite.DiamArea[3], 115);
   EXPECT_EQ(suite.DiamNome[21], "M68");
@@ -87,7 +87,7 @@ TEST_F(Diametri, FilePiuCortoLasciaRigheInterneDietro) {
 TEST_F(Diametri, RemESenzaBarraSaltate) {
   Leggi("rem|1|2|\r\nREMO|3|4|\r\nReM x|5|6|\r\nnulla\r\n\r\n rem|7|8|\r\nM9|9|50|");
   EXPECT_EQ(suite.NumDiam, 2);
-  EXPECT_EQ(suite.DiamNome[0], " rem");      // blanks before it: a row
+  EXPECT_EQ(suite.DiamNome[0], " rem");  // blanks before it: a row
   EXPECT_EQ(suite.DiamVal[0], 7);
   EXPECT_EQ(suite.DiamNome[1], "M9");
 }
@@ -139,7 +139,7 @@ TEST_F(Diametri, FileVuotoTabellaVuota) {
 
 TEST_F(Diametri, AreaDelleRigheSenzaSegnali) {
   LeggiDiametri();
-  for (int i = 0; i < 22; ++i) EXPECT_DOUBLE_EQ(AreaResistente(suite.DiamVal[i]), suite.DiamArea[i]) << i;   // ends included
+  for (int i = 0; i < 22; ++i) EXPECT_DOUBLE_EQ(AreaResistente(suite.DiamVal[i]), suite.DiamArea[i]) << i;  // ends included
   EXPECT_FALSE(origine.estrapolata);
   EXPECT_FALSE(origine.interpolata);
 }
@@ -167,14 +167,14 @@ TEST_F(Diametri, AreaFuoriTabella) {
 
 TEST_F(Diametri, UnaRigaSola) {
   Leggi("T|20|245|\r\n");
-  EXPECT_EQ(AreaResistente(20), 0);          // no pair of rows
+  EXPECT_EQ(AreaResistente(20), 0);  // no pair of rows
   EXPECT_FALSE(origine.estrapolata);
   EXPECT_EQ(AreaResistente(21), 0);
   EXPECT_TRUE(origine.estrapolata);
 }
 
 TEST_F(Diametri, DueRigheBastanoFuoriTabella) {
-  Leggi("A|10|100|\r\nB|20|400|\r\n");                // 1 mm2 for each mm2 of d^2
+  Leggi("A|10|100|\r\nB|20|400|\r\n");  // 1 mm2 for each mm2 of d^2
   EXPECT_NEAR(AreaResistente(8), 64, 1e-12);
   EXPECT_NEAR(AreaResistente(25), 625, 1e-12);
   EXPECT_TRUE(origine.estrapolata);
@@ -185,7 +185,7 @@ TEST_F(Diametri, DiametriFuoriOrdineIlPrimoIntervallo) {
   // 16: above the first, below the last; only 8..30 holds it
   EXPECT_NEAR(AreaResistente(16), (256. - 64) * 220 / (900 - 64) + 80, 1e-10);
   Leggi("A|10|100|\r\nB|30|80|\r\nC|5|50|\r\nD|20|200|\r\n");
-  EXPECT_NEAR(AreaResistente(15), (225. - 100) * -20 / 800 + 100, 1e-10);      // the first interval wins
+  EXPECT_NEAR(AreaResistente(15), (225. - 100) * -20 / 800 + 100, 1e-10);  // the first interval wins
 }
 
 TEST_F(Diametri, RigheDiUgualeDiametroSonoUnaDivisionePerZero) {

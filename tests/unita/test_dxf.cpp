@@ -17,7 +17,7 @@ const std::string TABELLE =
   " 0|SECTION| 2|TABLES| 0|TABLE| 2|LAYER| 70|1| 0|LAYER| 2|0| 70|0| 62|7| 6|CONTINUOUS| 0|ENDTAB| 0|ENDSEC| 0|SECTION| 2|ENTITIES|";
 const std::string CODA = " 0|ENDSEC| 0|EOF|";
 
-std::string Righe(const std::string& barre) {           // a bar for each line end
+std::string Righe(const std::string& barre) {  // a bar for each line end
   std::string t;
   for (const char c : barre) t += c == '|' ? std::string("\r\n") : std::string(1, c);
   return t;
@@ -36,7 +36,7 @@ class Dxf : public ::testing::Test {
   }
   void TearDown() override { AzzeraFault(); }
   std::string File() { return LeggiByte(cartella + "/prova.dxf"); }
-  std::string Entita() {                                // what stands between the head and the end
+  std::string Entita() {  // what stands between the head and the end
     const std::string t = File();
     const std::size_t inizio = t.find(" 2\r\nENTITIES\r\n") + 14, fine = t.rfind(" 0\r\nENDSEC");
     return t.substr(inizio, fine - inizio);
@@ -47,10 +47,10 @@ class Dxf : public ::testing::Test {
 TEST_F(Dxf, FileIntero) {
   DisLinea(nullptr, 0, 0, 100, 50.25, std::int16_t{3});
   EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 0));
-  EXPECT_EQ(File(), Righe(" 0|SECTION| 2|HEADER| 9|$EXTMIN| 10|-5| 20|-5| 30|0.0| 9|$EXTMAX| 10|105| 20|55.25| 30|0.0| 0|ENDSEC|" + TABELLE +
-                          " 0|LINE| 8|0| 10|0| 20|0| 30|0.0| 11|100| 21|50.25| 31|0.0| 62|1|" + CODA));
+  EXPECT_EQ(File(), Righe(" 0|SECTION| 2|HEADER| 9|$EXTMIN| 10|-5| 20|-5| 30|0.0| 9|$EXTMAX| 10|105| 20|55.25| 30|0.0| 0|ENDSEC|" +
+                          TABELLE + " 0|LINE| 8|0| 10|0| 20|0| 30|0.0| 11|100| 21|50.25| 31|0.0| 62|1|" + CODA));
   EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] nessuna | SALVA FILE DXF | File " + nome + " salvato."});
-  EXPECT_EQ(disegno.EstXMin, 0);                        // the margin stays in the header
+  EXPECT_EQ(disegno.EstXMin, 0);  // the margin stays in the header
   EXPECT_EQ(disegno.EstYMax, 50.25);
 }
 
@@ -63,7 +63,8 @@ TEST_F(Dxf, MargineDelLatoAlto) {
 
 TEST_F(Dxf, VuotoMaValido) {
   EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
-  EXPECT_EQ(File(), Righe(" 0|SECTION| 2|HEADER| 9|$EXTMIN| 10|0| 20|0| 30|0.0| 9|$EXTMAX| 10|0| 20|0| 30|0.0| 0|ENDSEC|" + TABELLE + CODA));
+  EXPECT_EQ(File(),
+            Righe(" 0|SECTION| 2|HEADER| 9|$EXTMIN| 10|0| 20|0| 30|0.0| 9|$EXTMAX| 10|0| 20|0| 30|0.0| 0|ENDSEC|" + TABELLE + CODA));
 }
 
 // The extents start from coordinate 0, also where the table is empty.
@@ -80,7 +81,7 @@ TEST_F(Dxf, ColoriETipi) {
   for (int c = 0; c <= 8; ++c) {
     EXPECT_EQ(ColoreDxf(c, 0), attesi[c]);
     EXPECT_EQ(ColoreDxf(c, 1), 7);
-    EXPECT_EQ(ColoreDxf(c, 2), attesi[c]);              // 1 alone
+    EXPECT_EQ(ColoreDxf(c, 2), attesi[c]);  // 1 alone
   }
   EXPECT_EQ(ColoreDxf(-1, 0), 7);
   const char* const tipi[] = {"CONTINUOUS", "CENTER", "DASHED", "DIVIDE", "DASHED2", "CONTINUOUS"};
@@ -116,7 +117,7 @@ TEST_F(Dxf, Testi) {
   EXPECT_EQ(Entita(), Righe(" 0|TEXT| 8|0| 10|1| 20|2| 30|0.0| 40|20| 1|a%%cb]| 50|-90| 41|.5| 62|8|"
                             " 0|TEXT| 8|0| 10|1| 20|2| 30|0.0| 40|20| 1|%%c| 50|0| 41|.75|"));
   AzzeraDisegno();
-  DisTesto("t", 1, 2, 0, 2, 2.5, std::int16_t{1});      // 20 and 25 tenths
+  DisTesto("t", 1, 2, 0, 2, 2.5, std::int16_t{1});  // 20 and 25 tenths
   DisTesto("u", 1, 2, 0, 0.2, 0.1, std::int16_t{1});
   EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
   EXPECT_EQ(Entita(), Righe(" 0|TEXT| 8|0| 10|1| 20|2| 30|0.0| 40|2.5| 1|t| 50|0| 41|.8|"
@@ -141,7 +142,7 @@ TEST_F(Dxf, ArchiECerchi) {
   disegno.ArcFin[i] = disegno.NumCoord++;
   disegno.ArcCol[i] = 4;
   disegno.ArcTipo[i] = 1;
-  disegno.ArcCen[i + 1] = disegno.ArcIni[i + 1] = 0;    // no radius: skipped
+  disegno.ArcCen[i + 1] = disegno.ArcIni[i + 1] = 0;  // no radius: skipped
   disegno.ArcFin[i + 1] = 1;
   disegno.NumArchi = i + 2;
   EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
@@ -163,8 +164,8 @@ TEST_F(Dxf, ArchiAlLimiteDellaTolleranza) {
   const std::string t = Entita();
   EXPECT_EQ(t.find(Righe(" 0|CIRCLE| 8|0| 10|0| 20|0| 30|0.0| 40|.0001| 0|ARC|")), 0u) << t;
   disegno.ArcIni[0] = disegno.ArcIni[1] = 2;
-  disegno.ArcFin[0] = 4;                                // two coordinates, 0.00009 from each other
-  disegno.ArcFin[1] = 5;                                // that much on both axes: 0.00013 by distance
+  disegno.ArcFin[0] = 4;  // two coordinates, 0.00009 from each other
+  disegno.ArcFin[1] = 5;  // that much on both axes: 0.00013 by distance
   EXPECT_TRUE(SalvaDxf(nome, 0, 0, 0, 0, 1));
   EXPECT_EQ(Entita().find(Righe(" 0|CIRCLE| 8|0| 10|0| 20|0| 30|0.0| 40|5| 0|ARC|")), 0u) << Entita();
 }
@@ -184,14 +185,14 @@ TEST_F(Dxf, Angoli) {
   EXPECT_EQ(AngoloArco(0, 5, 0, 0), 90);
   EXPECT_EQ(AngoloArco(0.00009, -5, 0, 0), 270);
   EXPECT_EQ(AngoloArco(0, 0, 0, 0), 270);
-  EXPECT_LT(AngoloArco(0.0001, 5, 0, 0), 90);           // at the tolerance it is no upright
+  EXPECT_LT(AngoloArco(0.0001, 5, 0, 0), 90);  // at the tolerance it is no upright
   EXPECT_EQ(AngoloArco(5, 0, 0, 0), 0);
   EXPECT_EQ(AngoloArco(-5, 0, 0, 0), 180);
   EXPECT_NEAR(AngoloArco(5, 5, 0, 0), 45.00000936, 1e-8);
   EXPECT_NEAR(AngoloArco(-5, 5, 0, 0), 180 - 45.00000936, 1e-8);
   EXPECT_NEAR(AngoloArco(-5, -5, 0, 0), 180 + 45.00000936, 1e-8);
   EXPECT_NEAR(AngoloArco(5, -5, 0, 0), 360 - 45.00000936, 1e-8);
-  EXPECT_EQ(AngoloArco(5, -1e-320, 0, 0), 0);           // 360 wraps
+  EXPECT_EQ(AngoloArco(5, -1e-320, 0, 0), 0);  // 360 wraps
 }
 
 TEST_F(Dxf, TestiComeLinee) {
@@ -227,7 +228,8 @@ TEST_F(Dxf, ApertoSoloSeSiPuo) {
   const std::string assente = cartella + "\\manca\\prova.dxf";
   disegno.EstXMax = 77;
   EXPECT_FALSE(SalvaDxf(assente, 0, 0, 0, 0, 0));
-  EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] esclamazione | NODO COLONNA - PLINTO | ERRORE: non riesco ad aprire il file " + assente});
+  EXPECT_EQ(registratore.eventi,
+            std::vector<std::string>{"[messaggio] esclamazione | NODO COLONNA - PLINTO | ERRORE: non riesco ad aprire il file " + assente});
   EXPECT_EQ(disegno.EstXMax, 77);
 }
 
@@ -242,9 +244,10 @@ TEST_F(Dxf, ModiConUnoSolo) {
 class Tratteggio : public Dxf {
  protected:
   // Type 4: 3 full, 2 gap; type 1: 6 full, 1 gap, 1 full, 1 gap.
-  const std::string modello = "Rem SETTAGGIO\r\n0                   | TipoLinea 1\r\n4                   | TipoLinea 2\r\n    6\r\n    1\r\n    1\r\n    1\r\n"
-                              "2                   | TipoLinea 3\r\n    1.5\r\n    1.5\r\n6                   | TipoLinea 4\r\n    1\r\n    1\r\n    1\r\n    1\r\n    1\r\n    1\r\n"
-                              "2                   | TipoLinea 5\r\n    3\r\n    2\r\n";
+  const std::string modello =
+    "Rem SETTAGGIO\r\n0                   | TipoLinea 1\r\n4                   | TipoLinea 2\r\n    6\r\n    1\r\n    1\r\n    1\r\n"
+    "2                   | TipoLinea 3\r\n    1.5\r\n    1.5\r\n6                   | TipoLinea 4\r\n    1\r\n    1\r\n    1\r\n    1\r\n    1\r\n    1\r\n"
+    "2                   | TipoLinea 5\r\n    3\r\n    2\r\n";
   void Modello(const std::string& t) { ScriviByte(cartella + "/tipilinea.txt", t); }
 };
 
@@ -253,7 +256,7 @@ TEST_F(Tratteggio, Lettura) {
   EXPECT_TRUE(LeggiTipiLinea());
   EXPECT_EQ(tipiLinea.TipiNTratti[0], 0);
   EXPECT_EQ(tipiLinea.TipiNTratti[1], 4);
-  EXPECT_EQ(tipiLinea.TipiTratto[1][0], 60);            // tenths of mm
+  EXPECT_EQ(tipiLinea.TipiTratto[1][0], 60);  // tenths of mm
   EXPECT_EQ(tipiLinea.TipiLungh[1], 90);
   EXPECT_EQ(tipiLinea.TipiTratto[2][1], 15);
   EXPECT_EQ(tipiLinea.TipiLungh[4], 50);
@@ -261,7 +264,7 @@ TEST_F(Tratteggio, Lettura) {
   EXPECT_FALSE(LeggiTipiLinea());
   EXPECT_EQ(tipiLinea.TipiLungh[3], 60);
   EXPECT_EQ(tipiLinea.TipiLungh[4], 0);
-  EXPECT_FALSE(passi.fallito);                          // no matter to the command that looks for it
+  EXPECT_FALSE(passi.fallito);  // no matter to the command that looks for it
   Modello("12\r\n");
   EXPECT_FALSE(LeggiTipiLinea());
 }
@@ -295,7 +298,7 @@ TEST_F(Tratteggio, VuotoFinaleEScala) {
   LeggiTipiLinea();
   StatoTratteggio stato;
   std::vector<TrattoLinea> t;
-  ASSERT_TRUE(SpezzaLinea(0, 0, 40, 0, 4, stato, true, 10, t));      // 30 full, gap of 20 cut at 40 and drawn
+  ASSERT_TRUE(SpezzaLinea(0, 0, 40, 0, 4, stato, true, 10, t));  // 30 full, gap of 20 cut at 40 and drawn
   ASSERT_EQ(t.size(), 2u);
   EXPECT_EQ(t[0].x2, 30);
   EXPECT_EQ(t[1].x1, 30);
@@ -311,8 +314,8 @@ TEST_F(Tratteggio, InteraDaDuemilaRipetizioni) {
   EXPECT_EQ(t.size(), 2000u);
   EXPECT_FALSE(SpezzaLinea(0, 0, 10000, 0, 4, stato, false, 1, t));
   EXPECT_FALSE(SpezzaLinea(0, 0, 0.00009, 0, 4, stato, false, 1, t));
-  EXPECT_FALSE(SpezzaLinea(0, 0, 10, 0, 0, stato, false, 1, t));     // continuous: no pattern
-  EXPECT_FALSE(SpezzaLinea(0, 0, 10, 0, 5, stato, false, 1, t));     // no such type
+  EXPECT_FALSE(SpezzaLinea(0, 0, 10, 0, 0, stato, false, 1, t));  // continuous: no pattern
+  EXPECT_FALSE(SpezzaLinea(0, 0, 10, 0, 5, stato, false, 1, t));  // no such type
   EXPECT_FALSE(SpezzaLinea(0, 0, 10, 0, -1, stato, false, 1, t));
 }
 
@@ -321,10 +324,11 @@ TEST_F(Tratteggio, TroppiTratti) {
   LeggiTipiLinea();
   StatoTratteggio stato;
   std::vector<TrattoLinea> t;
-  EXPECT_TRUE(SpezzaLinea(0, 0, 11000, 0, 1, stato, false, 1, t));   // 6 strokes of 1 a repeat: 11000 full ones
-  EXPECT_EQ(registratore.eventi, std::vector<std::string>{
-    "[messaggio] esclamazione | NODO COLONNA - PLINTO | Superato il numero massimo di tratti per le linee tratteggiate."});
-  EXPECT_EQ(t.size(), 1000u);                                       // the count restarts
+  EXPECT_TRUE(SpezzaLinea(0, 0, 11000, 0, 1, stato, false, 1, t));  // 6 strokes of 1 a repeat: 11000 full ones
+  EXPECT_EQ(registratore.eventi,
+            std::vector<std::string>{
+              "[messaggio] esclamazione | NODO COLONNA - PLINTO | Superato il numero massimo di tratti per le linee tratteggiate."});
+  EXPECT_EQ(t.size(), 1000u);  // the count restarts
 }
 
 TEST_F(Tratteggio, NelFileConMessaggio) {
@@ -336,8 +340,10 @@ TEST_F(Tratteggio, NelFileConMessaggio) {
   EXPECT_TRUE(SalvaDxf(nome, 0, 0, 10, 1, 0));
   EXPECT_EQ(Entita(), Righe(" 0|LINE| 8|0| 10|0| 20|0| 30|0.0| 11|30| 21|0| 31|0.0| 62|1|"
                             " 0|LINE| 8|0| 10|0| 20|0| 30|0.0| 11|0| 21|5| 31|0.0|"));
-  EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] nessuna | SALVA FILE DXF | Le linee tratteggiate sono state disgregate "
-    "ipotizzando una scala di plottaggio 1:10\\nFile " + nome + " salvato."});
+  EXPECT_EQ(registratore.eventi,
+            std::vector<std::string>{"[messaggio] nessuna | SALVA FILE DXF | Le linee tratteggiate sono state disgregate "
+                                     "ipotizzando una scala di plottaggio 1:10\\nFile " +
+                                     nome + " salvato."});
 }
 
 // Without a scale the pattern's own lengths, and no line about it in the box; with 2 the lines stay whole.

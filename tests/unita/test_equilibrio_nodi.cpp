@@ -4,9 +4,9 @@
 
 #include <filesystem>
 
+#include "core/aritmetica.h"
 #include "corredo/banco_nodo.h"
 #include "corredo/equilibrio.h"
-#include "core/aritmetica.h"
 #include "model/node_model.h"
 #include "model/stato.h"
 
@@ -23,7 +23,7 @@ TEST(EquilibrioNodi, OgniSestetto) {
     for (int s = 1; s <= nodo.NumSoll; ++s) {
       double scarto[3] = {};
       EXPECT_TRUE(EquilibrioSestetto(s, scarto))
-          << voce.path().filename() << " sestetto " << s << ": N " << scarto[0] << " My " << scarto[1] << " Mz " << scarto[2];
+        << voce.path().filename() << " sestetto " << s << ": N " << scarto[0] << " My " << scarto[1] << " Mz " << scarto[2];
       ++sestetti;
     }
     EXPECT_TRUE(registratore.eventi.empty()) << voce.path();

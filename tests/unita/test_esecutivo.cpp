@@ -32,7 +32,7 @@ TEST_F(FoglioDisegno, PostoDelleViste) {
   // Schedule: 588 + 90, 400; first cell's text: "Prof." in a column of "HEX 200" + 2 = 9 characters.
   TestoA(TrovaTesto("Prof."), 678 + 45 - 25, 400 - 22.5 + 3.75, 0, 1);
   EXPECT_EQ(disegno.ColCorr, 2);
-  OX = 678, OY = 400;                          // its lines in their own colour
+  OX = 678, OY = 400;  // its lines in their own colour
   Linea(0, 0, 0, -45, 1);
 }
 
@@ -94,14 +94,14 @@ TEST_F(FoglioDisegno, SenzaQuoteLeVisteSiAvvicinano) {
   EXPECT_DOUBLE_EQ(esecutivo.BoxBYMin, -627);
   TestoA(TrovaTesto("SEZIONE C-C"), -11 * 9, -627 - 350 - 187.5 + 460, 0, 7);
   TestoA(TrovaTesto("Prof."), 540 + 45 - 25, 400 - 22.5 + 3.75, 0, 1);
-  EXPECT_LT(TrovaTesto("280"), 0);             // between the anchors: a measure of a chain
+  EXPECT_LT(TrovaTesto("280"), 0);  // between the anchors: a measure of a chain
   // the detail's four stay: width, hole, rising length, total
   for (const char* t : {"20", "100", "570", "620"}) {
     const int i = TrovaTesto(t);
     ASSERT_GE(i, 0) << t;
     EXPECT_EQ(disegno.TesCol[i], 6) << t;
   }
-  suite.ParNodo[15] = 2;                       // only 1 draws chains
+  suite.ParNodo[15] = 2;  // only 1 draws chains
   Disegna();
   EXPECT_DOUBLE_EQ(esecutivo.BoxBXMax, 450);
   EXPECT_DOUBLE_EQ(esecutivo.BoxAXMax, -1010 + 500);
@@ -117,26 +117,27 @@ TEST_F(FoglioDisegno, SenzaDistinta) {
   ASSERT_LT(disegno.NumLinee, con->NumLinee);
   EXPECT_EQ(disegno.NumArchi, con->NumArchi);
   for (int i = 0; i < disegno.NumLinee; ++i) ASSERT_TRUE(disegno.LinIni[i] == con->LinIni[i] && disegno.LinFin[i] == con->LinFin[i]);
-  for (int i = 0; i < disegno.NumTesti; ++i) ASSERT_EQ(disegno.TesStr[static_cast<std::size_t>(i)], con->TesStr[static_cast<std::size_t>(i)]);
+  for (int i = 0; i < disegno.NumTesti; ++i)
+    ASSERT_EQ(disegno.TesStr[static_cast<std::size_t>(i)], con->TesStr[static_cast<std::size_t>(i)]);
   EXPECT_EQ(con->TesStr[static_cast<std::size_t>(disegno.NumTesti)], "Prof.");
-  suite.ParNodo[18] = 2;                       // only 1 draws it
+  suite.ParNodo[18] = 2;  // only 1 draws it
   Disegna();
   EXPECT_LT(TrovaTesto("Prof."), 0);
 }
 
 TEST_F(FoglioDisegno, NomiDelleSaldature) {
   Disegna();
-  for (int w = 1; w <= 8; ++w) EXPECT_EQ(ContaTesti("S" + std::to_string(w)), 2) << w;       // plan and schedule
+  for (int w = 1; w <= 8; ++w) EXPECT_EQ(ContaTesti("S" + std::to_string(w)), 2) << w;  // plan and schedule
   EXPECT_EQ(ContaTesti("S19"), 0);
   nodo.SaldInt = 1;
   Disegna();
-  EXPECT_EQ(ContaTesti("S19"), 3);             // both sides carry it
+  EXPECT_EQ(ContaTesti("S19"), 3);  // both sides carry it
   OY = -1409.5;
   for (const int s : {-1, 1}) {
-    Linea(s * 83, -85, s * 83, 85, 9);         // inside the flanges, without strokes at the ends
+    Linea(s * 83, -85, s * 83, 85, 9);  // inside the flanges, without strokes at the ends
     Manca(s * 90, -85, s * 83, -85);
     Manca(s * 90, 85, s * 83, 85);
-    Linea(s * 90, -85, s * 90, 85, 2);         // and the line itself
+    Linea(s * 90, -85, s * 90, 85, 2);  // and the line itself
   }
   EXPECT_EQ(ContaTesti("S9"), 1);
 }
@@ -174,7 +175,7 @@ TEST_F(FoglioDisegno, PartePulito) {
   EXPECT_EQ(nodo.NervZ, 30);
   EXPECT_EQ(nodo.NervY, 50);
   EXPECT_EQ(lavoro.NumSaldature, 40);
-  EXPECT_EQ(ContaTesti("S21"), 1);             // in the schedule; the ribs of the plan carry no names
+  EXPECT_EQ(ContaTesti("S21"), 1);  // in the schedule; the ribs of the plan carry no names
 }
 
 // Ribs of 300 show 450 of the column; a column of 900 is larger than the plan: A-A at -450 - 0.8 x 900, C-C at -872 - 450 - 187.5, where
@@ -209,7 +210,7 @@ TEST_F(FoglioDisegno, SaldaturaInternaSoloUno) {
 
 TEST_F(FoglioDisegno, GolaNullaSenzaMarchi) {
   nodo.Gola = 0;
-  nodo.TipoTirafondo = 2;                      // no weld of the anchor plate
+  nodo.TipoTirafondo = 2;  // no weld of the anchor plate
   suite.ParNodo[18] = 0;
   Prepara();
   VistaBB();
@@ -217,7 +218,7 @@ TEST_F(FoglioDisegno, GolaNullaSenzaMarchi) {
   VistaCC();
   for (int i = 0; i < disegno.NumLinee; ++i) ASSERT_NE(disegno.LinCol[i], 9) << i;
   EXPECT_EQ(ContaTesti("S1"), 0);
-  Disegna();                                   // names that were never built leave their cells empty
+  Disegna();  // names that were never built leave their cells empty
   EXPECT_EQ(ContaTesti("S1"), 0);
 }
 

@@ -7,7 +7,7 @@
 
 TEST(Eventi, UnaRigaPerTesto) {
   EXPECT_EQ(SuUnaRiga("uno\rdue\ntre\r\nquattro\n\n"), "uno\\ndue\\ntre\\nquattro\\n\\n");
-  EXPECT_EQ(SuUnaRiga("c:\\suite\\nodo"), "c:\\suite\\nodo");       // a backslash stays as it is
+  EXPECT_EQ(SuUnaRiga("c:\\suite\\nodo"), "c:\\suite\\nodo");  // a backslash stays as it is
   EXPECT_EQ(SuUnaRiga("\r"), "\\n");
 }
 
@@ -32,7 +32,8 @@ TEST(Eventi, QuattroIcone) {
 }
 
 TEST(Eventi, DomandaConLaRisposta) {
-  EXPECT_EQ(RigaDomanda("Continuare?", "ATTENZIONE!", Icona::Informazione, true), "[domanda] informazione | ATTENZIONE! | Continuare? -> OK");
+  EXPECT_EQ(RigaDomanda("Continuare?", "ATTENZIONE!", Icona::Informazione, true),
+            "[domanda] informazione | ATTENZIONE! | Continuare? -> OK");
   EXPECT_EQ(RigaDomanda("Continuare?", "ATTENZIONE!", Icona::Esclamazione, false),
             "[domanda] esclamazione | ATTENZIONE! | Continuare? -> Annulla");
 }
@@ -62,7 +63,7 @@ TEST(Eventi, ProgrammiETasti) {
 TEST(Eventi, EstensioneSoloSenzaPunto) {
   RichiestaFile r;
   r.estensione = "qb7";
-  EXPECT_EQ(ConEstensione(r, "/cart.ella/nodo"), "/cart.ella/nodo.qb7");     // only the last component counts
+  EXPECT_EQ(ConEstensione(r, "/cart.ella/nodo"), "/cart.ella/nodo.qb7");  // only the last component counts
   EXPECT_EQ(ConEstensione(r, "c:\\cart.ella\\nodo"), "c:\\cart.ella\\nodo.qb7");
   EXPECT_EQ(ConEstensione(r, "nodo.v2"), "nodo.v2");
   EXPECT_EQ(ConEstensione(r, "nodo."), "nodo.");

@@ -61,7 +61,7 @@ TEST_F(File, ScrivereSuUnNomeUgualeLoSostituisce) {
   ASSERT_TRUE(ChiudiScrittura(f));
   EXPECT_EQ(LeggiByte(radice + "/Relazione.TXT"), "n\xB0 1\r\n");
   EXPECT_FALSE(fs::exists(radice + "/relazione.txt"));
-  EXPECT_FALSE(ChiudiScrittura(f));                       // not open any more
+  EXPECT_FALSE(ChiudiScrittura(f));  // not open any more
 }
 
 TEST_F(File, CartellaOFileAssenteNonSiApre) {
@@ -84,7 +84,7 @@ TEST_F(File, RigheConOgniFine) {
     EXPECT_EQ(r, attesa);
   }
   EXPECT_FALSE(LeggiRiga(f, r));
-  EXPECT_EQ(r, "cinque");                                 // a failed step keeps the variable
+  EXPECT_EQ(r, "cinque");  // a failed step keeps the variable
   EXPECT_TRUE(passi.fallito);
 }
 
@@ -142,7 +142,7 @@ TEST_F(File, UnNumeroFuoriCampoSiConsumaESiSalta) {
   EXPECT_FALSE(LeggiValore(f, n));
   EXPECT_EQ(n, 3);
   EXPECT_TRUE(LeggiValore(f, n));
-  EXPECT_EQ(n, 2);                                        // ties to even
+  EXPECT_EQ(n, 2);  // ties to even
   EXPECT_TRUE(LeggiValore(f, n));
   EXPECT_EQ(n, 12);
 }
@@ -169,7 +169,7 @@ TEST_F(File, SostituireLasciaInteroIlFileDiPrimaSeFallisce) {
   EXPECT_FALSE(SostituisciFile(radice + "\\d", "x"));
   EXPECT_FALSE(SostituisciFile("", "x"));
   EXPECT_FALSE(SostituisciFile(std::string("a\0b", 3), "x"));
-  EXPECT_EQ(Voci("/d"), std::set<std::string>{"nodo.qb7"});        // nothing stays aside
+  EXPECT_EQ(Voci("/d"), std::set<std::string>{"nodo.qb7"});  // nothing stays aside
 }
 
 // An output gathers its text: until it is closed nothing on the disk changes, and what was given up never was.
@@ -211,7 +211,11 @@ TEST_F(File, NomiOccupatiAccantoNonDisturbano) {
 TEST_F(File, SoloUnFileSiSostituisce) {
   const std::string p = radice + "/d/x", dietro = radice + "/vero";
   fs::create_directory(radice + "/d");
-  struct Caso { const char* nome; int (*fai)(const char*); std::errc errore; };
+  struct Caso {
+    const char* nome;
+    int (*fai)(const char*);
+    std::errc errore;
+  };
   const Caso CASI[] = {
     {"FIFO", [](const char* n) { return mkfifo(n, 0600); }, std::errc::not_supported},
     {"device", [](const char* n) { return MettiDispositivo(n) ? 0 : mkfifo(n, 0600); }, std::errc::not_supported},
@@ -249,7 +253,7 @@ TEST_F(File, PermessiDiPrimaENomiLunghi) {
   EXPECT_TRUE(SostituisciFile(radice + "\\d\\nuovo.qb7", "x"));
   umask(maschera);
   EXPECT_EQ(modo(radice + "/d/nuovo.qb7"), 0640u);
-  const std::string lungo(251, 'n');                     // with the extension, 255 bytes
+  const std::string lungo(251, 'n');  // with the extension, 255 bytes
   EXPECT_TRUE(SostituisciFile(radice + "\\d\\" + lungo + ".qb7", "x"));
   EXPECT_EQ(LeggiByte(radice + "/d/" + lungo + ".qb7"), "x");
   FileScrittura f;
@@ -271,7 +275,8 @@ TEST_F(File, UnFileDiSolaLetturaNonSiSostituisce) {
 }
 
 TEST_F(File, IlMotivoInItaliano) {
-  EXPECT_EQ(TestoNonScritto("c:\\l\\r.txt", std::errc::no_space_on_device), "Impossibile scrivere il file c:\\l\\r.txt: spazio su disco esaurito.");
+  EXPECT_EQ(TestoNonScritto("c:\\l\\r.txt", std::errc::no_space_on_device),
+            "Impossibile scrivere il file c:\\l\\r.txt: spazio su disco esaurito.");
   EXPECT_EQ(TestoNonScritto("r", std::errc::read_only_file_system), "Impossibile scrivere il file r: disco di sola lettura.");
   EXPECT_EQ(TestoNonScritto("r", static_cast<std::errc>(9999)), "Impossibile scrivere il file r: errore 9999 del sistema.");
 }

@@ -12,11 +12,11 @@
 namespace {
 
 constexpr const char* PERSONALIZZATO_CLS =
-    "[messaggio] esclamazione | NODO COLONNA - PLINTO | Non è possibile utilizzare una classe personalizzata per il calcestruzzo. Impostare "
-    "una classe standard";
+  "[messaggio] esclamazione | NODO COLONNA - PLINTO | Non è possibile utilizzare una classe personalizzata per il calcestruzzo. Impostare "
+  "una classe standard";
 constexpr const char* PERSONALIZZATO_ACC =
-    "[messaggio] esclamazione | NODO COLONNA - PLINTO | Non è possibile utilizzare una tipo di acciaio personalizzato. Impostare un tipo "
-    "standard";
+  "[messaggio] esclamazione | NODO COLONNA - PLINTO | Non è possibile utilizzare una tipo di acciaio personalizzato. Impostare un tipo "
+  "standard";
 
 struct FileMateriali : testing::Test {
   std::string cartella;
@@ -56,9 +56,9 @@ TEST_F(FileMateriali, CatalogoMancante) {
   std::string errore;
   LeggiMaterialiCatalogo("c:\\suite\\custom\\MaterialiNTC08.tx1", errore);
   EXPECT_EQ(errore, "File materiali (c:\\suite\\custom\\MaterialiNTC08.tx1) non trovato o non valido");
-  EXPECT_TRUE(registratore.eventi.empty());                // the box is the caller's
+  EXPECT_TRUE(registratore.eventi.empty());  // the box is the caller's
   errore.clear();
-  LeggiMaterialiCatalogo(cartella, errore);                // a folder
+  LeggiMaterialiCatalogo(cartella, errore);  // a folder
   EXPECT_EQ(errore, "File materiali (" + cartella + ") non trovato o non valido");
 }
 
@@ -71,12 +71,12 @@ TEST_F(FileMateriali, SezioniDelCatalogo) {
            "ACCIAIO_DA_CA\r\n1\r\n B450C \r\n41 42 43 44\r\n");
   EXPECT_EQ(materiali.NumAcciai, 2);
   const MatAcciaio& a = materiali.AcciaiBase[1];
-  EXPECT_EQ(a.Nome, " S 235 ");                            // as it stands
+  EXPECT_EQ(a.Nome, " S 235 ");  // as it stands
   EXPECT_EQ(a.Norma, " EN  10025 ");
   EXPECT_EQ(a.SAmm, 1);
   EXPECT_EQ(a.SAmm40, 2);
   EXPECT_EQ(a.Fyk, 3);
-  EXPECT_EQ(a.Ftk, 4);                                     // Ftk stands before Fyk40
+  EXPECT_EQ(a.Ftk, 4);  // Ftk stands before Fyk40
   EXPECT_EQ(a.Fyk40, 5);
   EXPECT_EQ(a.Ftk40, 6);
   EXPECT_EQ(a.GammaM, 7.5);
@@ -90,7 +90,7 @@ TEST_F(FileMateriali, SezioniDelCatalogo) {
   EXPECT_EQ(materiali.AcciaiChiusiBase[1].Fyk40, 25);
   EXPECT_EQ(materiali.NumViti, 1);
   const MatViti& v = materiali.VitiBase[1];
-  EXPECT_EQ(v.Nome, "8.8");                                // trimmed
+  EXPECT_EQ(v.Nome, "8.8");  // trimmed
   EXPECT_EQ(v.SAmm, 31);
   EXPECT_EQ(v.TauAmm, 32);
   EXPECT_EQ(v.Fy, 33);
@@ -117,7 +117,7 @@ TEST_F(FileMateriali, NumeriSecondoLaLingua) {
   Catalogo(t);
   EXPECT_EQ(materiali.ClsBase[1].Rck, 1250.5);
   EXPECT_EQ(materiali.ClsBase[1].GammaC, 1.5);
-  EXPECT_EQ(materiali.ClsBase[2].GammaC, 15);              // the point parts thousands and is dropped
+  EXPECT_EQ(materiali.ClsBase[2].GammaC, 15);  // the point parts thousands and is dropped
   suite.Decimale = '.';
   Catalogo(t);
   EXPECT_EQ(materiali.ClsBase[1].GammaC, 15);
@@ -131,9 +131,9 @@ TEST_F(FileMateriali, OltreCinquantaVoci) {
   EXPECT_EQ(materiali.NumAcciai, 60);
   EXPECT_EQ(materiali.AcciaiBase[50].Nome, "A50");
   EXPECT_EQ(materiali.AcciaiBase[50].SAmm, 50);
-  EXPECT_EQ(materiali.AcciaiChiusiBase[0].Nome, "");       // what lies behind the table was not touched
-  EXPECT_EQ(materiali.AcciaiBase[0].Nome, "");             // nor its free entry
-  EXPECT_EQ(materiali.NumViti, 1);                         // all 60 entries were consumed
+  EXPECT_EQ(materiali.AcciaiChiusiBase[0].Nome, "");  // what lies behind the table was not touched
+  EXPECT_EQ(materiali.AcciaiBase[0].Nome, "");        // nor its free entry
+  EXPECT_EQ(materiali.NumViti, 1);                    // all 60 entries were consumed
   EXPECT_EQ(materiali.VitiBase[1].GammaM2, 6);
 }
 
@@ -147,24 +147,24 @@ TEST_F(FileMateriali, NumeriSbagliatiRestanoComErano) {
   EXPECT_EQ(v.Ft, 4);
   EXPECT_EQ(v.NonUsato, 5);
   EXPECT_EQ(v.GammaM2, 60);
-  EXPECT_EQ(materiali.ClsBase[1].GammaC, 0);               // missing
+  EXPECT_EQ(materiali.ClsBase[1].GammaC, 0);  // missing
   EXPECT_FALSE(FaultAritmetico());
 }
 
 TEST_F(FileMateriali, ConteggioMancanteOSbagliato) {
-  Catalogo("ACCIAIO_DA_CARPENTERIA_SEZIONI_APERTE\r\nS 235\r\nnorma\r\n1 2 3 4 5 6 7 8\r\n"     // takes the word S: no number
-           "VITI\r\n99999\r\n8.8\r\n1 2 3 4 5 6\r\n"       // beyond 16 bits
+  Catalogo("ACCIAIO_DA_CARPENTERIA_SEZIONI_APERTE\r\nS 235\r\nnorma\r\n1 2 3 4 5 6 7 8\r\n"  // takes the word S: no number
+           "VITI\r\n99999\r\n8.8\r\n1 2 3 4 5 6\r\n"                                         // beyond 16 bits
            "CALCESTRUZZI\r\n-3\r\nC\r\n300 1.5\r\n"
            "ACCIAIO_DA_CA\r\n1\r\nB450C\r\n1 2 3 4\r\n");
   EXPECT_EQ(materiali.NumAcciai, 0);
   EXPECT_EQ(materiali.AcciaiBase[1].Nome, "");
   EXPECT_EQ(materiali.NumViti, 0);
-  EXPECT_EQ(materiali.NumCls, -3);                         // as read; every loop over it runs not at all
+  EXPECT_EQ(materiali.NumCls, -3);  // as read; every loop over it runs not at all
   EXPECT_EQ(materiali.NumAcciaiCA, 1);
 }
 
 TEST_F(FileMateriali, RigaDelConteggioAssentePrendeLaParolaCheSegue) {
-  Catalogo("CALCESTRUZZI\r\n2 xyz\r\n300 1.5\r\n7\r\nB\r\n");    // the first entry's name is taken for the count
+  Catalogo("CALCESTRUZZI\r\n2 xyz\r\n300 1.5\r\n7\r\nB\r\n");  // the first entry's name is taken for the count
   EXPECT_EQ(materiali.NumCls, 2);
   EXPECT_EQ(materiali.ClsBase[1].Nome, "300 1.5");
   EXPECT_EQ(materiali.ClsBase[1].Rck, 7);
@@ -213,7 +213,7 @@ TEST_F(FileMateriali, UnaParolaCheContieneVitiApreLaSezione) {
   EXPECT_EQ(materiali.VitiBase[1].Nome, "10.9");
 }
 
-TEST_F(FileMateriali, Interruttori) {                      // what the panel's load relies on
+TEST_F(FileMateriali, Interruttori) {  // what the panel's load relies on
   EXPECT_FALSE(materiali.UsaViti);
   EXPECT_TRUE(materiali.UsaTirafondi);
   EXPECT_TRUE(materiali.UsaCls);
@@ -227,7 +227,8 @@ TEST_F(FileMateriali, LavoroMancante) {
   materiali.MatDaBase = true;
   EXPECT_TRUE(LeggiMaterialiBase());
   EXPECT_FALSE(materiali.MatDaBase);
-  AttesoSolo("[messaggio] esclamazione | NODO COLONNA - PLINTO | Materiali Base non impostati, specificare un materiale nell'apposita sezione");
+  AttesoSolo(
+    "[messaggio] esclamazione | NODO COLONNA - PLINTO | Materiali Base non impostati, specificare un materiale nell'apposita sezione");
 }
 
 TEST_F(FileMateriali, LavoroDiAltroRilascio) {
@@ -236,14 +237,15 @@ TEST_F(FileMateriali, LavoroDiAltroRilascio) {
     suite.DirLavoro = cartella;
     EXPECT_TRUE(Lavoro(std::string(prima) + (*prima == '\0' ? "" : "\r\n300 [ValoreCalcolato_Cls_Rck]\r\n")));
     EXPECT_FALSE(materiali.MatDaBase) << prima;
-    EXPECT_EQ(materiali.MatBaseCls.Rck, 0);                // none of its lines is read
-    AttesoSolo("[messaggio] esclamazione | ATTENZIONE! | Materiali base non corretti. Aprire 'Materiali base' dal pannello principale di Vestra e "
-               "salvarli");
+    EXPECT_EQ(materiali.MatBaseCls.Rck, 0);  // none of its lines is read
+    AttesoSolo(
+      "[messaggio] esclamazione | ATTENZIONE! | Materiali base non corretti. Aprire 'Materiali base' dal pannello principale di Vestra e "
+      "salvarli");
   }
 }
 
 TEST_F(FileMateriali, OgniChiaveIlSuoCampo) {
-  suite.Decimale = ',';                                    // always the point here
+  suite.Decimale = ',';  // always the point here
   // clang-format off
   const char* chiavi[] = {"Cls_Classe", "ValoreCalcolato_Cls_Rck", "Cls_Coefficiente_GammaC", "ValoreCalcolato_Cls_Fck", "ValoreCalcolato_Cls_AlfaCC",
       "ValoreCalcolato_Cls_Fcd", "ValoreCalcolato_Cls_Ecm", "ValoreCalcolato_Cls_SAmm", "Acc_Carp_1_Tipo", "Acc_Carp_ModuloDiElasticita_E",
@@ -255,7 +257,7 @@ TEST_F(FileMateriali, OgniChiaveIlSuoCampo) {
   // clang-format on
   std::string t = "x [ReleaseQuestoFile=3] y\r\nsenza chiave\r\n1 [Ignota]\r\n";
   int n = 0;
-  for (const char* c : chiavi) t += " " + std::to_string(++n) + ".5 [" + c + "]  \r\n";     // line k holds k.5
+  for (const char* c : chiavi) t += " " + std::to_string(++n) + ".5 [" + c + "]  \r\n";  // line k holds k.5
   ASSERT_TRUE(Lavoro(t));
   EXPECT_TRUE(materiali.MatDaBase);
   EXPECT_TRUE(registratore.eventi.empty());
@@ -269,7 +271,7 @@ TEST_F(FileMateriali, OgniChiaveIlSuoCampo) {
   EXPECT_EQ(c.Ecm, 7.5);
   EXPECT_EQ(c.SAmm, 8.5);
   EXPECT_EQ(materiali.MatBaseAcc1.Nome, "9.5");
-  EXPECT_EQ(materiali.ModuloEBase, 1.05);                  // 10.5 / 10
+  EXPECT_EQ(materiali.ModuloEBase, 1.05);  // 10.5 / 10
   EXPECT_EQ(materiali.GammaMBase[1], 11.5);
   EXPECT_EQ(materiali.GammaMBase[4], 12.5);
   EXPECT_EQ(materiali.GammaMBase[2], 0);
@@ -303,7 +305,7 @@ TEST_F(FileMateriali, TestoSenzaNumeroValeZero) {
   EXPECT_EQ(materiali.MatBaseCls.Rck, 0);
   materiali.MatBaseCls.Rck = 5;
   EXPECT_TRUE(DecifraRigaMatBase("1e400 [VALORECALCOLATO_CLS_RCK]"));
-  EXPECT_EQ(materiali.MatBaseCls.Rck, 5);                  // overflow: a step that is skipped
+  EXPECT_EQ(materiali.MatBaseCls.Rck, 5);  // overflow: a step that is skipped
   EXPECT_TRUE(DecifraRigaMatBase("12abc [VALORECALCOLATO_CLS_RCK]"));
   EXPECT_EQ(materiali.MatBaseCls.Rck, 12);
 }
@@ -358,8 +360,8 @@ TEST_F(FileMateriali, CercaUnaChiave) {
   EXPECT_EQ(CercaChiave("  Valore Uno  [Chiave 3 -4.9\t5.9  x 7z ] 8", "CHIAVE", v, k), 1);
   EXPECT_EQ(v, "Valore Uno");
   EXPECT_EQ(k[0], 3);
-  EXPECT_EQ(k[1], -4);                                     // towards zero
-  EXPECT_EQ(k[2], 5);                                      // cut, not rounded
+  EXPECT_EQ(k[1], -4);  // towards zero
+  EXPECT_EQ(k[2], 5);   // cut, not rounded
   EXPECT_EQ(k[3], 0);
   EXPECT_EQ(k[4], 7);
   EXPECT_EQ(CercaChiave("1 [chiave]", "Chiave", v, k), 1);
@@ -367,9 +369,9 @@ TEST_F(FileMateriali, CercaUnaChiave) {
   EXPECT_EQ(CercaChiave("[chiave ]", "chiave", v, k), 1);
   EXPECT_EQ(v, "");
   EXPECT_EQ(CercaChiave("a [chiave 1] b [chiave 2]", "chiave", v, k), 1);
-  EXPECT_EQ(v, "a");                                       // the first place counts,
+  EXPECT_EQ(v, "a");  // the first place counts,
   EXPECT_EQ(k[0], 1);
-  EXPECT_EQ(CercaChiave("a [chiavetta] b [chiave]", "chiave", v, k), 0);   // also where it fails
+  EXPECT_EQ(CercaChiave("a [chiavetta] b [chiave]", "chiave", v, k), 0);  // also where it fails
   EXPECT_EQ(CercaChiave("1 [chiavetta]", "chiave", v, k), 0);
   EXPECT_EQ(CercaChiave("1 [chiave_2]", "chiave", v, k), 0);
   EXPECT_EQ(CercaChiave("1 [chiave", "chiave", v, k), 0);
@@ -384,24 +386,25 @@ TEST_F(FileMateriali, ChiavePiuLungaENonChiusa) {
   materiali.MatBaseCls.Nome = "prima";
   EXPECT_TRUE(DecifraRigaMatBase("C25/30 [CLS_CLASSE_2]"));
   EXPECT_TRUE(DecifraRigaMatBase("C25/30 [CLS_CLASSE"));
-  EXPECT_TRUE(DecifraRigaMatBase("C25/30 [CLS_CLASSE 1 2 3 4 5 6 7"));     // not closed: its integers do not count
+  EXPECT_TRUE(DecifraRigaMatBase("C25/30 [CLS_CLASSE 1 2 3 4 5 6 7"));  // not closed: its integers do not count
   EXPECT_EQ(materiali.MatBaseCls.Nome, "prima");
 }
 
 TEST_F(FileMateriali, GuastiDelleParentesi) {
-  for (const char* riga : {"1 [ACC_CARP_COEFFICIENTE_GAMMAM 0]", "1 [ACC_CARP_COEFFICIENTE_GAMMAM 5]", "1 [ACC_CARP_COEFFICIENTE_GAMMAM]",
-                           "1 [ACC_CARP_COEFFICIENTE_GAMMAM -1]", "1 [ACC_CARP_COEFFICIENTE_GAMMAM 40000]", "1 [ACC_CARP_COEFFICIENTE_GAMMAM x]",
-                           "1 [CLS_CLASSE 1 2 3 4 5 6]", "1 [CLS_CLASSE 1 2 3 4 5 6 7 8 9 10 11 12 13]", "1 [CLS_CLASSE 40000]", "1 [CLS_CLASSE 1e400]"}) {
+  for (const char* riga :
+       {"1 [ACC_CARP_COEFFICIENTE_GAMMAM 0]", "1 [ACC_CARP_COEFFICIENTE_GAMMAM 5]", "1 [ACC_CARP_COEFFICIENTE_GAMMAM]",
+        "1 [ACC_CARP_COEFFICIENTE_GAMMAM -1]", "1 [ACC_CARP_COEFFICIENTE_GAMMAM 40000]", "1 [ACC_CARP_COEFFICIENTE_GAMMAM x]",
+        "1 [CLS_CLASSE 1 2 3 4 5 6]", "1 [CLS_CLASSE 1 2 3 4 5 6 7 8 9 10 11 12 13]", "1 [CLS_CLASSE 40000]", "1 [CLS_CLASSE 1e400]"}) {
     AzzeraFault();
     EXPECT_FALSE(DecifraRigaMatBase(riga)) << riga;
     EXPECT_TRUE(FaultAritmetico()) << riga;
   }
   AzzeraFault();
-  EXPECT_TRUE(DecifraRigaMatBase("1 [IGNOTA 1 2 3 4 5 6 7]"));             // only a known key
+  EXPECT_TRUE(DecifraRigaMatBase("1 [IGNOTA 1 2 3 4 5 6 7]"));  // only a known key
   EXPECT_TRUE(DecifraRigaMatBase("1 [CLS_CLASSE 1 2 3 4 5]"));
   EXPECT_FALSE(FaultAritmetico());
   EXPECT_FALSE(Lavoro("[ReleaseQuestoFile=3]\r\n2 [VALORECALCOLATO_CLS_RCK]\r\n1 [ACC_CARP_COEFFICIENTE_GAMMAM 9]\r\n"));
   EXPECT_TRUE(FaultAritmetico());
   EXPECT_EQ(materiali.MatBaseCls.Rck, 2);
-  EXPECT_TRUE(registratore.eventi.empty());                // its box is the caller's
+  EXPECT_TRUE(registratore.eventi.empty());  // its box is the caller's
 }

@@ -24,11 +24,48 @@ TEST_F(FileNodo, SalvaIlNodoNuovo) {
   EXPECT_EQ(registratore.richiesta.titolo, "");
   EXPECT_FALSE(esitoFile.annullato || esitoFile.fallito);
   // Plate 300 + 200 by 350 + 200; edge distances a quarter of what stands out, 50; the defaults of a new joint.
-  EXPECT_EQ(LeggiByte(lavoro + "primo.qb7"),
-            Unisci({"VERNTC", "HEA360            ", " 350 ", " 300 ", " 10 ", " 17.5 ", " 500 ", " 550 ", " 10 ", " 2 ", "0",
-                    " 6 ", " 150 ", " 0 ", " 7 ", " 4 ", " 50 ", " 50 ", " 450 ", " 50 ", " 50 ", " 500 ", " 450 ", " 500 ",
-                    " 70 ", " 500 ", " 450 ", " 120 ", " 7 ", " 10 ", " 100 ", " 50 ", " 0 ", " 200 ", " 0 ",
-                    "S 275 (FE 430)", "S 235 (FE 360)", "C25/30", " 1 ", " 0 ", " 0 ", "0"}));
+  EXPECT_EQ(LeggiByte(lavoro + "primo.qb7"), Unisci({"VERNTC",
+                                                     "HEA360            ",
+                                                     " 350 ",
+                                                     " 300 ",
+                                                     " 10 ",
+                                                     " 17.5 ",
+                                                     " 500 ",
+                                                     " 550 ",
+                                                     " 10 ",
+                                                     " 2 ",
+                                                     "0",
+                                                     " 6 ",
+                                                     " 150 ",
+                                                     " 0 ",
+                                                     " 7 ",
+                                                     " 4 ",
+                                                     " 50 ",
+                                                     " 50 ",
+                                                     " 450 ",
+                                                     " 50 ",
+                                                     " 50 ",
+                                                     " 500 ",
+                                                     " 450 ",
+                                                     " 500 ",
+                                                     " 70 ",
+                                                     " 500 ",
+                                                     " 450 ",
+                                                     " 120 ",
+                                                     " 7 ",
+                                                     " 10 ",
+                                                     " 100 ",
+                                                     " 50 ",
+                                                     " 0 ",
+                                                     " 200 ",
+                                                     " 0 ",
+                                                     "S 275 (FE 430)",
+                                                     "S 235 (FE 360)",
+                                                     "C25/30",
+                                                     " 1 ",
+                                                     " 0 ",
+                                                     " 0 ",
+                                                     "0"}));
 }
 
 TEST_F(FileNodo, SalvaInWindows1252) {
@@ -44,7 +81,7 @@ TEST_F(FileNodo, NomeTitoloECartella) {
   EXPECT_EQ(registratore.richiesta.cartella, suite.DirLavoro);
   EXPECT_EQ(nodo.NomeNodo, "Pilastro");
   EXPECT_EQ(insDati.titolo, "NODO COLONNA - PLINTO - Lavoro: Pilastro");
-  Carica(lavoro + "pilastro_A1");                  // the default extension is added
+  Carica(lavoro + "pilastro_A1");  // the default extension is added
   EXPECT_EQ(registratore.richiesta.cartella, "") << "later dialogs open where the last one ended";
   EXPECT_FALSE(registratore.richiesta.salva);
   EXPECT_EQ(registratore.eventi.back(), std::string("[file] apri |  | ") + FILTRO + " |  -> " + lavoro + "pilastro_A1.qb7");
@@ -113,7 +150,7 @@ TEST_F(FileNodo, CaricaTutto) {
   EXPECT_EQ(insDati.ChSI.scelta, 1);
   EXPECT_EQ(nodo.SaldInt, 1);
   EXPECT_EQ(insDati.GolaTxt.testo, "6");
-  EXPECT_DOUBLE_EQ(nodo.GolaCalc, 4.242640687119285);        // 6 / sqrt 2
+  EXPECT_DOUBLE_EQ(nodo.GolaCalc, 4.242640687119285);  // 6 / sqrt 2
   // anchors: fields 1, 2, 3, 4 from anchors 1, 2, 1, 3
   EXPECT_EQ(insDati.DTf[1].testo, "50");
   EXPECT_EQ(insDati.DTf[2].testo, "60");
@@ -180,7 +217,7 @@ TEST_F(FileNodo, RisultatiDelNodoDiPrima) {
   ris.SigmaTir[1][1] = ris.SMaxCls[1] = ris.SNerv[200][8] = ris.FvEd[1][1] = ris.Saldature[3].SEq1[1] = 9;
   ris.SPiastraTir[1][1][5] = ris.Saldature[9].Lung = 7;
   ::lavoro.NumSaldature = 44;
-  ::lavoro.usato = true;                                 // as after a verification
+  ::lavoro.usato = true;  // as after a verification
   Carica(lavoro + "pilastro_A1.qb7");
   EXPECT_EQ(ris.SigmaTir[1][1], 0);
   EXPECT_EQ(ris.SMaxCls[1], 0);
@@ -195,21 +232,21 @@ TEST_F(FileNodo, RisultatiDelNodoDiPrima) {
 
 TEST_F(FileNodo, SezioneDiLibreriaEForestiera) {
   Righe r = Buono();
-  r[1] = "HEA200";                                 // no padding: equal all the same
-  r[2] = " 999 ";                                  // the library's own dimensions count
+  r[1] = "HEA200";  // no padding: equal all the same
+  r[2] = " 999 ";   // the library's own dimensions count
   CaricaByte(lavoro + "x.qb7", Unisci(r));
   EXPECT_EQ(nodo.Sezione.H, 190);
   EXPECT_EQ(nodo.Sezione.R, 18);
-  r[1] = "hea200";                                 // case counts: foreign
+  r[1] = "hea200";  // case counts: foreign
   CaricaByte(lavoro + "x.qb7", Unisci(r));
   EXPECT_EQ(nodo.Sezione.H, 999);
-  for (const int k : {1, static_cast<int>(suite.NumProfili)}) {   // the library's ends
+  for (const int k : {1, static_cast<int>(suite.NumProfili)}) {  // the library's ends
     r[1] = suite.ProfiliLib[k].Nome;
     CaricaByte(lavoro + "x.qb7", Unisci(r));
     EXPECT_EQ(insDati.TraveP.scelta, k - 1);
     EXPECT_EQ(nodo.Sezione.H, suite.ProfiliLib[k].H);
   }
-  suite.ProfiliLib[40] = suite.ProfiliLib[32];     // the last of two equal names wins
+  suite.ProfiliLib[40] = suite.ProfiliLib[32];  // the last of two equal names wins
   suite.ProfiliLib[40].H = 352;
   r[1] = suite.ProfiliLib[32].Nome;
   CaricaByte(lavoro + "x.qb7", Unisci(r));
@@ -223,7 +260,7 @@ TEST_F(FileNodo, SezioneDiLibreriaEForestiera) {
   EXPECT_EQ(nodo.Sezione.Nome, "SALDATA 300       ");
   EXPECT_EQ(nodo.Sezione.H, 999);
   EXPECT_EQ(nodo.Sezione.R, 18) << "the radius of the node before";
-  EXPECT_EQ(insDati.LatoTxt[3].testo, "-249.5");   // (500 - 999) / 2
+  EXPECT_EQ(insDati.LatoTxt[3].testo, "-249.5");  // (500 - 999) / 2
 }
 
 TEST_F(FileNodo, SenzaNervatureRestanoQuelleDiPrima) {
@@ -243,7 +280,7 @@ TEST_F(FileNodo, SenzaNervatureRestanoQuelleDiPrima) {
   EXPECT_EQ(nodo.SaldInt, 1);
   EXPECT_EQ(insDati.ChSI.scelta, 1);
   EXPECT_EQ(insDati.GolaTxt.testo, "6");
-  r[9] = " 3 ";                                    // another typology has no rib lines either and ends as 1
+  r[9] = " 3 ";  // another typology has no rib lines either and ends as 1
   CaricaByte(lavoro + "x.qb7", Unisci(r));
   EXPECT_FALSE(esitoFile.fallito);
   EXPECT_EQ(nodo.TipoNodo, 1);
@@ -284,14 +321,14 @@ TEST_F(FileNodo, MotiviEPosizioni) {
       EXPECT_EQ(nodo.TfZ[i], i <= c.scritti ? 100 + i : 0) << c.cifra << " " << i;
       EXPECT_EQ(nodo.TfY[i], i <= c.scritti ? 200 + i : 0) << c.cifra << " " << i;
     }
-    const char* distanze[] = {"101", "298", "201", "297"};     // of anchors 1, 2, 1, 3: 400 - 102, 500 - 203
+    const char* distanze[] = {"101", "298", "201", "297"};  // of anchors 1, 2, 1, 3: 400 - 102, 500 - 203
     for (int i = 1; i <= 4; ++i) EXPECT_EQ(insDati.DTf[i].testo, distanze[i - 1]) << i;
   }
 }
 
 TEST_F(FileNodo, CifraDelMotivoFuoriPosto) {
   for (const char* cifra : {"4", "9", "-1", "x", "", "12"}) {
-    SelezionaVoce(insDati.OptionNTir[0], 2);       // six "Vert."
+    SelezionaVoce(insDati.OptionNTir[0], 2);  // six "Vert."
     Righe r = Buono();
     Motivo(r, cifra, 6);
     CaricaByte(lavoro + "x.qb7", Unisci(r));
@@ -335,7 +372,7 @@ TEST_F(FileNodo, IGradiDelFileVinconoSullaMemoria) {
 
 TEST_F(FileNodo, MaterialiSconosciuti) {
   Righe r = Buono();
-  r[35] = "  S 275 (FE 430)  ";                    // blanks at both ends do not count
+  r[35] = "  S 275 (FE 430)  ";  // blanks at both ends do not count
   r[36] = "Ferro vecchio";
   r[37] = "C99/99";
   r.back() = "0";
@@ -347,19 +384,19 @@ TEST_F(FileNodo, MaterialiSconosciuti) {
   EXPECT_EQ(registratore.eventi[2], "[messaggio] nessuna | NODO COLONNA - PLINTO | Attenzione: classe calcestruzzo non accettabile "
                                     "(C99/99). Scegliere una classe dalla tendina dei calcestruzzi");
   EXPECT_EQ(nodo.MatAcc.SAmm, 1900);
-  EXPECT_EQ(nodo.MatTir.Nome, "S 235 (FE 360)");   // no name overlaps: entry 1
+  EXPECT_EQ(nodo.MatTir.Nome, "S 235 (FE 360)");  // no name overlaps: entry 1
   EXPECT_EQ(nodo.MatTir.SAmm, 1600);
-  EXPECT_EQ(nodo.MatCls.Nome, "C16/20");           // entry 1
+  EXPECT_EQ(nodo.MatCls.Nome, "C16/20");  // entry 1
   EXPECT_EQ(nodo.MatCls.Rck, 200);
 }
 
 TEST_F(FileNodo, UltimaRigaUguale) {
-  materiali.ClsBase[6] = materiali.ClsBase[4];     // C28/35 again
+  materiali.ClsBase[6] = materiali.ClsBase[4];  // C28/35 again
   materiali.ClsBase[6].Rck = 351;
   CaricaByte(lavoro + "x.qb7", Unisci(Buono()));
   EXPECT_EQ(insDati.ComboCalcestruzzo.scelta, 5);
   EXPECT_EQ(nodo.MatCls.Rck, 351);
-  materiali.ClsBase[6].Nome = "c28/35";            // case counts
+  materiali.ClsBase[6].Nome = "c28/35";  // case counts
   CaricaByte(lavoro + "x.qb7", Unisci(Buono()));
   EXPECT_EQ(insDati.ComboCalcestruzzo.scelta, 3);
   EXPECT_EQ(nodo.MatCls.Rck, 350);
@@ -398,11 +435,12 @@ TEST_F(FileNodo, LAltroMetodoParteDaiGradiDelFile) {
   EXPECT_EQ(nodo.MatTir.Nome, "Barra classe 8.8");
   EXPECT_EQ(registratore.eventi.size(), 1u);
   ASSERT_TRUE(AvviaSuite(radice));
-  Carica(lavoro + "colonna_H1.qb7");               // S 460 M
+  Carica(lavoro + "colonna_H1.qb7");  // S 460 M
   EXPECT_EQ(registratore.eventi.size(), 1u);
   SelezionaVoce(insDati.TipoVer[0], 0);
   ASSERT_EQ(registratore.eventi.size(), 2u);
-  EXPECT_EQ(registratore.eventi[1].find("[messaggio] esclamazione | ATTENZIONE! | Materiale non possibile per verifiche alle tensioni"), 0u);
+  EXPECT_EQ(registratore.eventi[1].find("[messaggio] esclamazione | ATTENZIONE! | Materiale non possibile per verifiche alle tensioni"),
+            0u);
 }
 
 // Every sample loads in a run of its own without a failed step or a box and saves back to the same bytes.

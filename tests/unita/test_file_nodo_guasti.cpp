@@ -17,7 +17,7 @@
 using FileNodoGuasti = FileNodo;
 
 TEST_F(FileNodoGuasti, SalvataggioFallito) {
-  Salva(lavoro + "manca/altro.qb7");               // no such folder
+  Salva(lavoro + "manca/altro.qb7");  // no such folder
   EXPECT_EQ(Box(SALVATAGGIO), 1);
   EXPECT_TRUE(esitoFile.fallito);
   EXPECT_EQ(nodo.NomeNodo, "altro") << "name and caption change before the writing";
@@ -30,18 +30,29 @@ TEST_F(FileNodoGuasti, SalvataggioFallito) {
   }
   EXPECT_EQ(Box(SALVATAGGIO), 2);
   EXPECT_EQ(LeggiByte(percorso), prima);
-  nodo.LatoZ = HUGE_VAL;                           // a value that no file can hold
+  nodo.LatoZ = HUGE_VAL;  // a value that no file can hold
   Salva(percorso);
   EXPECT_EQ(Box(SALVATAGGIO), 3);
   EXPECT_EQ(LeggiByte(percorso), prima);
 }
 
 TEST_F(FileNodoGuasti, RigaDelDiametro) {
-  struct Caso { const char* testo; int idx; double Fi; bool fallito; };
-  for (const Caso& c : {Caso{" 1 ", 1, 8, false}, {" 22 ", 22, 68, false}, {" 100 ", 100, 0, false}, {" 0 ", 3, 99, true},
-                        {"-1 ", 3, 99, true}, {" 101 ", 3, 99, true}, {" 32767 ", 3, 99, true}, {" 99999 ", 3, 99, true}}) {
+  struct Caso {
+    const char* testo;
+    int idx;
+    double Fi;
+    bool fallito;
+  };
+  for (const Caso& c : {Caso{" 1 ", 1, 8, false},
+                        {" 22 ", 22, 68, false},
+                        {" 100 ", 100, 0, false},
+                        {" 0 ", 3, 99, true},
+                        {"-1 ", 3, 99, true},
+                        {" 101 ", 3, 99, true},
+                        {" 32767 ", 3, 99, true},
+                        {" 99999 ", 3, 99, true}}) {
     nodo.TfDiamIdx = 3;
-    nodo.TfFi = 99;                                // the two may differ after the anchor chooser
+    nodo.TfFi = 99;  // the two may differ after the anchor chooser
     Righe r = Buono();
     r[28] = c.testo;
     CaricaByte(lavoro + "x.qb7", Unisci(r));
@@ -66,14 +77,14 @@ TEST_F(FileNodoGuasti, EsposizioneEMetodoFuoriPosto) {
     Righe r = Buono();
     r.back() = testo;
     CaricaByte(lavoro + "x.qb7", Unisci(r));
-    EXPECT_EQ(nodo.TipoVer, 1) << testo;           // as the loads before left it
+    EXPECT_EQ(nodo.TipoVer, 1) << testo;  // as the loads before left it
     EXPECT_EQ(Box(CARICAMENTO), 1) << testo;
   }
 }
 
 TEST_F(FileNodoGuasti, PosizioneOltreLaTendinaFiltrata) {
   Righe r = Buono();
-  r[35] = "S 355 W";                               // row 19; under allowable stresses the list holds 8
+  r[35] = "S 355 W";  // row 19; under allowable stresses the list holds 8
   r.back() = "0";
   CaricaByte(lavoro + "x.qb7", Unisci(r));
   EXPECT_EQ(Box(CARICAMENTO), 1);
@@ -92,7 +103,7 @@ TEST_F(FileNodoGuasti, FileMancante) {
   EXPECT_EQ(nodo.Sezione.Nome, suite.ProfiliLib[32].Nome);
   EXPECT_EQ(nodo.LatoZ, 500) << "the values stay as they were";
   EXPECT_EQ(nodo.TfDiamIdx, 7);
-  Carica(radice + "/lavori");                      // a folder
+  Carica(radice + "/lavori");  // a folder
   EXPECT_EQ(Box(CARICAMENTO), 2);
 }
 
@@ -148,13 +159,13 @@ TEST_F(FileNodoGuasti, ConteggiOstili) {
 
 TEST_F(FileNodoGuasti, InteroSbagliato) {
   Righe r = Buono();
-  r[9] = "99999";                                  // TipoNodo
+  r[9] = "99999";  // TipoNodo
   CaricaByte(lavoro + "x.qb7", Unisci(r));
   EXPECT_EQ(Box(CARICAMENTO), 1);
   EXPECT_EQ(nodo.TipoNodo, 2) << "the value of before";
   EXPECT_EQ(nodo.HNerv, 120) << "its text was consumed";
   r = Buono();
-  r[13] = " 7 ";                                   // SaldInt: ticked if not 0, the tick's event makes it 1
+  r[13] = " 7 ";  // SaldInt: ticked if not 0, the tick's event makes it 1
   CaricaByte(lavoro + "x.qb7", Unisci(r));
   EXPECT_EQ(Box(CARICAMENTO), 0);
   EXPECT_EQ(nodo.SaldInt, 1);
@@ -176,7 +187,7 @@ TEST_F(FileNodoGuasti, NumeriSmisurati) {
 
 // A fault in a handler is a failed step of the load, not the end of the command: the other combos are positioned.
 TEST_F(FileNodoGuasti, FaultInUnGestore) {
-  materiali.ClsBase[4].Rck = -350;                 // the modulus takes its root
+  materiali.ClsBase[4].Rck = -350;  // the modulus takes its root
   const double EcCls = nodo.EcCls;
   CaricaByte(lavoro + "x.qb7", Unisci(Buono()));
   EXPECT_EQ(registratore.eventi.size(), 2u);
@@ -188,7 +199,7 @@ TEST_F(FileNodoGuasti, FaultInUnGestore) {
 
 // Changed bytes in the samples, old generation too: whatever comes, the bounds hold and the next good load is a good load.
 TEST_F(FileNodoGuasti, ByteCambiati) {
-  std::mt19937 caso(5061995);                      // fixed
+  std::mt19937 caso(5061995);  // fixed
   const std::string_view CARATTERI = "0123456789-,\"\r\n eE.";
   const std::string buoni[] = {Unisci(Buono()), LeggiByte(lavoro + "esistente_1998.qb7"), LeggiByte(lavoro + "portale_F1.qb7")};
   const std::string atteso = buoni[0];

@@ -28,7 +28,7 @@ void OstileDiametri(const std::string& cartella) {
   for (int i = 0; i <= MaxDiam; ++i) Finiti({suite.DiamVal[i], suite.DiamArea[i]});
   SenzaFault();
   for (const double d : {-1., 0., 8., 9., 20., 1000.}) (void)AreaResistente(suite, d);
-  AzzeraFault();                   // hostile rows may overflow there: a fault of the verification
+  AzzeraFault();  // hostile rows may overflow there: a fault of the verification
 }
 
 void OstileOpzioni(const std::string& cartella) {
@@ -44,7 +44,8 @@ void OstileUnita(const std::string& cartella) {
   EXPECT_EQ(riuscita, !FaultAritmetico());
   AzzeraFault();
   if (riuscita)
-    Finiti({suite.AccelG, suite.NordGeo, suite.FattLung, suite.FattForze, suite.FattMomenti, suite.FattTensioni, suite.FattSezioni, suite.FattCarichi});
+    Finiti({suite.AccelG, suite.NordGeo, suite.FattLung, suite.FattForze, suite.FattMomenti, suite.FattTensioni, suite.FattSezioni,
+            suite.FattCarichi});
 }
 
 void OstileProfili(const std::string& cartella) {
@@ -80,7 +81,8 @@ void OstileMatLavoro(const std::string& cartella) {
   EXPECT_EQ(riuscita, !FaultAritmetico());
   AzzeraFault();
   FinitiAcciai(&materiali.AcciaiBase[0]);
-  Finiti({materiali.MatBaseAcc1.Fyk, materiali.MatBaseAcc1.Fyd40, materiali.MatBaseCls.Rck, materiali.MatBaseCls.Ecm, materiali.ModuloEBase});
+  Finiti(
+    {materiali.MatBaseAcc1.Fyk, materiali.MatBaseAcc1.Fyd40, materiali.MatBaseCls.Rck, materiali.MatBaseCls.Ecm, materiali.ModuloEBase});
   for (const double g : materiali.GammaMBase) Finiti({g});
 }
 

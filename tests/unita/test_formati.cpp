@@ -76,7 +76,7 @@ TEST_F(Dis, FileIntero) {
             " 0             2             3             4 \r\n"
             " 1 \r\n"
             " 3             1             90 \r\n"
-            " 1.2           2             6 \r\n"        // 12.5 tenths go to the even 12
+            " 1.2           2             6 \r\n"  // 12.5 tenths go to the even 12
             "Citt\xE0 ] 12\r\n"
             " 1 \r\n"
             " 4             5             4             5 \r\n"
@@ -86,11 +86,11 @@ TEST_F(Dis, FileIntero) {
 
 TEST_F(Dis, EstensioniPrimaDellaPulizia) {
   DisLinea(nullptr, 10, 10, 20, 20);
-  IndiceCoord(500, -300);                      // of nothing: goes in the clean-up
+  IndiceCoord(500, -300);  // of nothing: goes in the clean-up
   EXPECT_TRUE(SalvaDis(nome, 1));
   EXPECT_NE(File().find("\r\n 10            500 \r\n-300           20 \r\n"), std::string::npos);
   EXPECT_EQ(disegno.NumCoord, 2);
-  EXPECT_EQ(disegno.EstXMax, 500);             // they outlive the file
+  EXPECT_EQ(disegno.EstXMax, 500);  // they outlive the file
 }
 
 // From coordinate 0, not from the origin.
@@ -120,11 +120,13 @@ TEST_F(Dis, BoxSecondoSilenzioso) {
     EXPECT_EQ(registratore.eventi.size(), silenzioso <= 0 ? 1u : 0u) << silenzioso;
   }
   const std::string assente = cartella + "\\manca\\prova.dis";
-  for (const int silenzioso : {0, 1, 2, 3}) {             // 2 alone leaves the box of a failure out
+  for (const int silenzioso : {0, 1, 2, 3}) {  // 2 alone leaves the box of a failure out
     registratore.eventi.clear();
     EXPECT_FALSE(SalvaDis(assente, silenzioso));
     if (silenzioso == 2) EXPECT_TRUE(registratore.eventi.empty());
-    else EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] nessuna | ERRORE | Errore durante la scrittura sul file" + assente});
+    else
+      EXPECT_EQ(registratore.eventi,
+                std::vector<std::string>{"[messaggio] nessuna | ERRORE | Errore durante la scrittura sul file" + assente});
   }
 }
 
@@ -152,7 +154,10 @@ TEST_F(Dis, Dispositivo) {
   const std::string scrittura = "[messaggio] nessuna | ERRORE | Errore durante la scrittura sul file" + nome;
   const std::string apertura = "[messaggio] esclamazione | NODO COLONNA - PLINTO | ERRORE: non riesco ad aprire il file " + nome;
   const auto dxf = [](const std::string& n, int silenzioso) { return SalvaDxf(n, 0, 0, 0, 0, silenzioso); };
-  struct Caso { bool (*scrivi)(const std::string&, int);  const std::string& box; };
+  struct Caso {
+    bool (*scrivi)(const std::string&, int);
+    const std::string& box;
+  };
   for (const Caso& c : {Caso{SalvaDis, scrittura}, Caso{+dxf, apertura}, Caso{ScriviGrb, scrittura}, Caso{SalvaSvg, scrittura}}) {
     registratore.eventi.clear();
     EXPECT_FALSE(c.scrivi(nome, 0));
@@ -185,7 +190,8 @@ TEST_F(Dis, Figura) {
   EXPECT_NE(f.find("<path d=\"M60 -20A10 10 0 0 0 50 -30\" stroke=\"#008000\"/>"), std::string::npos);
   EXPECT_NE(f.find("<circle cx=\"50\" cy=\"-20\" r=\"5\" stroke=\"#008000\"/>"), std::string::npos);
   // font size 20 / 0.73 = 27.397; stretch 10 / (0.602 x 27.397) = 0.606
-  EXPECT_NE(f.find("<text transform=\"translate(0 0) rotate(-90) scale(.606 1)\" font-size=\"27.397\" fill=\"#000000\">a&lt;b \xD8</text>"), std::string::npos);
+  EXPECT_NE(f.find("<text transform=\"translate(0 0) rotate(-90) scale(.606 1)\" font-size=\"27.397\" fill=\"#000000\">a&lt;b \xD8</text>"),
+            std::string::npos);
   EXPECT_TRUE(registratore.eventi.empty());
 }
 

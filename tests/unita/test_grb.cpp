@@ -64,7 +64,7 @@ TEST_F(Grb, TestiPerAllineamento) {
   EXPECT_EQ(TY(1), 30);
   EXPECT_EQ(TX(2), 100);
   EXPECT_EQ(TX(3), 100);
-  EXPECT_EQ(disegno.TesAng[0], 12);            // ties to even
+  EXPECT_EQ(disegno.TesAng[0], 12);  // ties to even
   EXPECT_EQ(disegno.TesAng[1], 14);
   EXPECT_EQ(disegno.TesCol[0], 4);
   EXPECT_EQ(disegno.TesAllin[1], 2);
@@ -76,13 +76,14 @@ TEST_F(Grb, LimiteDeiTesti) {
   TestoGrb("a", 0, 0, 1, 0, 0, 1, 1);
   EXPECT_TRUE(registratore.eventi.empty());
   TestoGrb("b", 0, 0, 1, 0, 0, 1, 1);
-  EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] esclamazione | NODO COLONNA - PLINTO | Superato il numero massimo di testi"});
+  EXPECT_EQ(registratore.eventi,
+            std::vector<std::string>{"[messaggio] esclamazione | NODO COLONNA - PLINTO | Superato il numero massimo di testi"});
   EXPECT_EQ(disegno.NumTesti, 15000);
   TestoGrb("c", 0, 0, 1, 0, 0, 1, 1);
   EXPECT_EQ(disegno.NumTesti, 15000);
   EXPECT_EQ(registratore.eventi.size(), 1u);
   disegno.NumTesti = 0;
-  disegno.NumCoord = 50000;                    // no room for its place: taken back
+  disegno.NumCoord = 50000;  // no room for its place: taken back
   TestoGrb("d", 777, 0, 778, 0, 0, 1, 1);
   EXPECT_EQ(disegno.NumTesti, 0);
 }
@@ -93,7 +94,7 @@ TEST_F(Grb, Quote) {
   QuotaGrb("", 0, 0, 100, 0.00009, 3.5, 7);
   QuotaGrb("  12 ", 0, 0, 0.00009, 100, 0, 7);
   QuotaGrb("   ", 0, 0, 100, 100, 0, 7);
-  QuotaGrb("x", 5, 5, 5.00009, 5.00009, 0, 7);               // no extent: nothing
+  QuotaGrb("x", 5, 5, 5.00009, 5.00009, 0, 7);  // no extent: nothing
   ASSERT_EQ(disegno.NumQuote, 3);
   EXPECT_EQ(disegno.QuoTipo[0], 'H');
   EXPECT_EQ(disegno.QuoTipo[1], 'V');
@@ -135,9 +136,11 @@ TEST_F(Grb, LimiteDelleQuote) {
 }
 
 TEST_F(Grb, Riga4) {
-  EXPECT_EQ(Riga4("12", "345", "-1", "H"), std::string(18, ' ') + "12" + std::string(17, ' ') + "345" + std::string(18, ' ') + "-1" + std::string(19, ' ') + "H");
-  EXPECT_EQ(Riga4("123456789012345678901", "a", "b", " "), "12345678901234567890 " + std::string(18, ' ') + "a " + std::string(18, ' ') + "b");
-  const std::string lungo = "12345678901234567890x", campo = "1234567890123456789";      // the other fields hold 19
+  EXPECT_EQ(Riga4("12", "345", "-1", "H"),
+            std::string(18, ' ') + "12" + std::string(17, ' ') + "345" + std::string(18, ' ') + "-1" + std::string(19, ' ') + "H");
+  EXPECT_EQ(Riga4("123456789012345678901", "a", "b", " "),
+            "12345678901234567890 " + std::string(18, ' ') + "a " + std::string(18, ' ') + "b");
+  const std::string lungo = "12345678901234567890x", campo = "1234567890123456789";  // the other fields hold 19
   EXPECT_EQ(Riga4(lungo, lungo, lungo, lungo), "12345678901234567890 " + campo + " " + campo + " " + campo);
 }
 
@@ -151,38 +154,39 @@ TEST_F(Grb, FileIntero) {
   disegno.EstXMax = 7.5;
   EXPECT_TRUE(ScriviGrb(nome, 0));
   const std::string zero = "                   0\r\n";
-  EXPECT_EQ(File(),
-            "                   4\r\n"
-            "                   5                   2                   0\r\n" + zero + zero + zero + zero + zero + zero +
-            "-1             7.5 \r\n"
-            " 0             0 \r\n"
-            " 5 \r\n"
-            " 0             0 \r\n"
-            " 10            0 \r\n"
-            " 10            5 \r\n"
-            " 12            5 \r\n"
-            " 5             0 \r\n"
-            "0\r\n"
-            " 1 \r\n"
-            " 0             1 \r\n"
-            " 3             0             0 \r\n"
-            " 1 \r\n"
-            " 2             3             3 \r\n"
-            " 4             0             0 \r\n"
-            " 1 \r\n"
-            " 4             1             0             0             1 \r\n"
-            "titolo\r\n" + zero + zero +
-            " 1 \r\n"
-            "                   0                   1                  -1                   H\r\n"
-            " 2             2.5          0\r\n"
-            "Stringa_di_default\r\n"
-            " 0 \r\n");
+  EXPECT_EQ(File(), "                   4\r\n"
+                    "                   5                   2                   0\r\n" +
+                      zero + zero + zero + zero + zero + zero +
+                      "-1             7.5 \r\n"
+                      " 0             0 \r\n"
+                      " 5 \r\n"
+                      " 0             0 \r\n"
+                      " 10            0 \r\n"
+                      " 10            5 \r\n"
+                      " 12            5 \r\n"
+                      " 5             0 \r\n"
+                      "0\r\n"
+                      " 1 \r\n"
+                      " 0             1 \r\n"
+                      " 3             0             0 \r\n"
+                      " 1 \r\n"
+                      " 2             3             3 \r\n"
+                      " 4             0             0 \r\n"
+                      " 1 \r\n"
+                      " 4             1             0             0             1 \r\n"
+                      "titolo\r\n" +
+                      zero + zero +
+                      " 1 \r\n"
+                      "                   0                   1                  -1                   H\r\n"
+                      " 2             2.5          0\r\n"
+                      "Stringa_di_default\r\n"
+                      " 0 \r\n");
 }
 
 TEST_F(Grb, StileFuoriTabella) {
   Edizione e;
   EXPECT_TRUE(EdizioneGrb(e));
-  suite.ParNodo[26] = 3.9;                     // cut, not rounded
+  suite.ParNodo[26] = 3.9;  // cut, not rounded
   EXPECT_TRUE(EdizioneGrb(e));
   for (const double stile : {0.9, 4.0, -1.0, 1e9}) {
     suite.ParNodo[27] = stile;
@@ -191,7 +195,7 @@ TEST_F(Grb, StileFuoriTabella) {
     EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] esclamazione | NODO COLONNA - PLINTO | Scrittura GRB annullata"});
   }
   suite.ParNodo[27] = 100;
-  stiliGrb = {};                               // no template: any style, sizes 0
+  stiliGrb = {};  // no template: any style, sizes 0
   EXPECT_TRUE(EdizioneGrb(e));
   EXPECT_EQ(e.AltTesti, 0);
   suite.ParNodo[27] = 101;
@@ -209,7 +213,7 @@ TEST_F(Grb, DifferenzeDelleViste) {
   // the plan drops by 20 ParNodo(7) more
   const int c = TrovaTesto("SEZIONE C-C");
   EXPECT_DOUBLE_EQ(TY(c), -627 - 350 - 7.5 * alto - 20 * P7 + 385 + 3 * alto);
-  EXPECT_DOUBLE_EQ(TX(c), 0);                  // centred by its alignment
+  EXPECT_DOUBLE_EQ(TX(c), 0);  // centred by its alignment
   EXPECT_EQ(disegno.TesAllin[c], 1);
   EXPECT_EQ(disegno.TesCol[c], 1);
   const int b = TrovaTesto("SEZIONE B-B");
@@ -225,14 +229,14 @@ TEST_F(Grb, DifferenzeDelleViste) {
   EXPECT_DOUBLE_EQ(TY(p), 400 - 48 + 12);
   EXPECT_EQ(disegno.TesCol[p], 1);
   const int q = TrovaTesto("N. piastre");
-  EXPECT_DOUBLE_EQ(TX(q), 450 + 5 * largo + 6 * largo);      // 12 characters, fixed
+  EXPECT_DOUBLE_EQ(TX(q), 450 + 5 * largo + 6 * largo);  // 12 characters, fixed
   EXPECT_DOUBLE_EQ(TY(q), 400 - 4 * 48 + 12);
   // chains by style 2, detail by style 3, distance 0
   ASSERT_GT(disegno.NumQuote, 4);
   EXPECT_EQ(disegno.QuoStile[0], 2);
   EXPECT_EQ(disegno.QuoStile[disegno.NumQuote - 1], 3);
   for (int i = 0; i < disegno.NumQuote; ++i) EXPECT_EQ(disegno.QuoDist[i], 0);
-  for (int i = 0; i < disegno.NumLinee; ++i) ASSERT_NE(disegno.LinCol[i], 5);    // no dimension line
+  for (int i = 0; i < disegno.NumLinee; ++i) ASSERT_NE(disegno.LinCol[i], 5);  // no dimension line
   EXPECT_TRUE(registratore.eventi.empty());
 }
 
@@ -309,7 +313,7 @@ TEST_F(Grb, EstensioniDellUltimoDis) {
   ASSERT_TRUE(EsportaGrb(nome, 1));
   EXPECT_EQ(File().find("0\r\n 0             0 \r\n 0             0 \r\n"), std::string::npos);
   disegno.EstXMin = -1, disegno.EstXMax = 2, disegno.EstYMin = -3, disegno.EstYMax = 4;
-  ASSERT_TRUE(EsportaGrb(nome, 1));            // as they stand, whatever is drawn
+  ASSERT_TRUE(EsportaGrb(nome, 1));  // as they stand, whatever is drawn
   EXPECT_NE(File().find("0\r\n-1             2 \r\n-3             4 \r\n"), std::string::npos);
 }
 
@@ -344,9 +348,11 @@ TEST_F(Grb, BoxDelComando) {
   registratore.eventi.clear();
   EXPECT_TRUE(ComandoGrb(nome, 1));
   EXPECT_TRUE(registratore.eventi.empty());
-  const std::string assente = cartella + "\\manca\\a.grb", annullata = "[messaggio] esclamazione | NODO COLONNA - PLINTO | Scrittura GRB annullata";
+  const std::string assente = cartella + "\\manca\\a.grb",
+                    annullata = "[messaggio] esclamazione | NODO COLONNA - PLINTO | Scrittura GRB annullata";
   EXPECT_FALSE(ComandoGrb(assente, 0));
-  EXPECT_EQ(registratore.eventi, (std::vector<std::string>{"[messaggio] nessuna | ERRORE | Errore durante la scrittura sul file" + assente, annullata}));
+  EXPECT_EQ(registratore.eventi,
+            (std::vector<std::string>{"[messaggio] nessuna | ERRORE | Errore durante la scrittura sul file" + assente, annullata}));
   registratore.eventi.clear();
   EXPECT_FALSE(ComandoGrb(assente, 1));
   EXPECT_EQ(registratore.eventi, std::vector<std::string>{annullata});
@@ -397,10 +403,10 @@ TEST_F(GenDis, FormatoDelFiltro) {
     EXPECT_FALSE(esitoDisegno.fallito);
     EXPECT_EQ(File(nomi[filtro - 1]).find(inizi[filtro - 1]), 0u) << filtro;
   }
-  registratore.file.push_back({cartella + "/b.dis", 1});     // the filter decides, not the name
+  registratore.file.push_back({cartella + "/b.dis", 1});  // the filter decides, not the name
   insDati.CartellaDialogo = cartella;
   ScegliFileDisegno();
-  EXPECT_EQ(insDati.CartellaDialogo, "");                    // the next dialog opens where this one ended
+  EXPECT_EQ(insDati.CartellaDialogo, "");  // the next dialog opens where this one ended
   EXPECT_EQ(File("/b.dis").find(inizi[0]), 0u);
   EXPECT_FALSE(registratore.attesa);
   EXPECT_EQ(registratore.eventi[5], "[messaggio] nessuna | SALVA FILE DXF | File " + cartella + "/a.dxf salvato.");
@@ -436,7 +442,7 @@ TEST_F(GenDis, SenzaFiltroIlPrimo) {
 // With a file chosen the store is empty, whatever becomes of the drawing.
 TEST_F(GenDis, FileSceltoVuotaLArchivio) {
   DisLinea(nullptr, 0, 0, 1, 1);
-  suite.ParNodo[26] = 0;                       // no such style: nothing is drawn
+  suite.ParNodo[26] = 0;  // no such style: nothing is drawn
   registratore.file.push_back({nome, 1});
   ScegliFileDisegno();
   EXPECT_TRUE(esitoDisegno.fallito);
@@ -450,14 +456,15 @@ TEST_F(GenDis, DialogoFallitoConUnNome) {
     return false;
   };
   ScegliFileDisegno();
-  EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] critica | NODO COLONNA - PLINTO | Errore: creazione disegno fallita"});
+  EXPECT_EQ(registratore.eventi,
+            std::vector<std::string>{"[messaggio] critica | NODO COLONNA - PLINTO | Errore: creazione disegno fallita"});
   EXPECT_TRUE(esitoDisegno.fallito);
 }
 
 TEST_F(GenDis, TipoInOgniMaiuscola) {
-  EXPECT_TRUE(EsportaDisegno(cartella + "\\a.dxf", 2, "dXf"));          // its box comes all the same
+  EXPECT_TRUE(EsportaDisegno(cartella + "\\a.dxf", 2, "dXf"));  // its box comes all the same
   EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] nessuna | SALVA FILE DXF | File " + cartella + "\\a.dxf salvato."});
-  EXPECT_FALSE(EsportaDisegno(cartella + "\\a.grb", 2, "GRB"));          // has its own command
+  EXPECT_FALSE(EsportaDisegno(cartella + "\\a.grb", 2, "GRB"));  // has its own command
   EXPECT_FALSE(EsportaDisegno(cartella + "\\a.pdf", 2, "PDF"));
   EXPECT_TRUE(ScriviSvg(cartella + "\\a.svg"));
   EXPECT_NE(File("/a.svg").find("</svg>"), std::string::npos);
@@ -469,7 +476,8 @@ TEST_F(GenDis, DxfSenzaModi) {
   ScriviByte(cartella + "/tipilinea.txt", "0\r\n2\r\n3\r\n2\r\n0\r\n0\r\n2\r\n3\r\n2\r\n");
   ASSERT_TRUE(EsportaDisegno(cartella + "\\a.dxf", 0, "DXF"));
   const std::string t = File("/a.dxf");
-  for (const char* c : {" 0\r\nTEXT\r\n", " 6\r\nCENTER\r\n", " 6\r\nDASHED2\r\n", " 62\r\n5\r\n"}) EXPECT_NE(t.find(c), std::string::npos) << c;
+  for (const char* c : {" 0\r\nTEXT\r\n", " 6\r\nCENTER\r\n", " 6\r\nDASHED2\r\n", " 62\r\n5\r\n"})
+    EXPECT_NE(t.find(c), std::string::npos) << c;
 }
 
 TEST_F(GenDis, FaultSenzaFile) {

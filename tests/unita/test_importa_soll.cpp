@@ -11,9 +11,9 @@
 #include "corredo/modello_minimo.h"
 #include "corredo/registratore.h"
 #include "link/casi.h"
+#include "link/collegamento.h"
 #include "link/importa_soll.h"
 #include "link/liste.h"
-#include "link/collegamento.h"
 #include "model/stato.h"
 
 namespace {
@@ -63,8 +63,8 @@ std::string DaLista(const char* testo, int limite = 2000) {
 TEST_F(Importa, ListeValide) {
   EXPECT_EQ(DaLista("1,2,3-9"), "1 2 3 4 5 6 7 8 9");
   EXPECT_EQ(DaLista("  7 "), "7");
-  EXPECT_EQ(DaLista("9-3"), "");                          // a range downward adds none
-  EXPECT_EQ(DaLista("4,4,3-4"), "4 4 3 4");               // doubles stay
+  EXPECT_EQ(DaLista("9-3"), "");             // a range downward adds none
+  EXPECT_EQ(DaLista("4,4,3-4"), "4 4 3 4");  // doubles stay
   EXPECT_EQ(DaLista("0"), "0");
   EXPECT_EQ(DaLista("1-5", 3), "1 2 3 troppi");
   EXPECT_EQ(DaLista("32767"), "32767");
@@ -102,7 +102,7 @@ TEST_F(Importa, PrimaSezioneAlPrimoEstremo) {
   EXPECT_EQ(nodo.SollMy[2], 4);
   EXPECT_EQ(nodo.SollMz[2], 5);
   EXPECT_EQ(nodo.SollNome[2], "Caso 7 As. 5 Nd. 20");
-  EXPECT_EQ(nodo.SollCC[1], 0);                           // also the row that was there before
+  EXPECT_EQ(nodo.SollCC[1], 0);  // also the row that was there before
   EXPECT_EQ(c.Letti, 2);
   EXPECT_EQ(c.Presi, 2);
 }
@@ -114,9 +114,9 @@ TEST_F(Importa, UltimaSezioneAlSecondoEstremoConTyCambiatoDiSegno) {
   ImportaSollecitazioni(false);
   ASSERT_EQ(nodo.NumSoll, 1);
   EXPECT_EQ(nodo.SollN[1], 522);
-  EXPECT_EQ(nodo.SollTy[1], -10.3);                       // floor(102.5 + .5) / 10 = 10.3, then the sign
-  EXPECT_EQ(nodo.SollTz[1], -2.2);                        // floor(-22.5 + .5) / 10
-  EXPECT_EQ(nodo.SollMt[1], 0);                           // 0.5, 1.5, 2.5: ties to even
+  EXPECT_EQ(nodo.SollTy[1], -10.3);  // floor(102.5 + .5) / 10 = 10.3, then the sign
+  EXPECT_EQ(nodo.SollTz[1], -2.2);   // floor(-22.5 + .5) / 10
+  EXPECT_EQ(nodo.SollMt[1], 0);      // 0.5, 1.5, 2.5: ties to even
   EXPECT_EQ(nodo.SollMy[1], 2);
   EXPECT_EQ(nodo.SollMz[1], 2);
 }
@@ -142,12 +142,12 @@ TEST_F(Importa, IlPostoDelFileVinceSuQuelloDellaStruttura) {
 
 TEST_F(Importa, ElencoDiSestetti) {
   Scrivi("astec007.bin", FileRisultatiDi(2, 2, 2, OTTO));
-  c.SestettiStr[1] = 9;                                   // above the file's: none
+  c.SestettiStr[1] = 9;  // above the file's: none
   ImportaSollecitazioni(false);
   EXPECT_EQ(nodo.NumSoll, 0);
   c.SestettiStr[1] = 0;
   c.SestettiStr[2] = 0;
-  c.NumSestettiStr = 2;                                   // two zeros: each twice
+  c.NumSestettiStr = 2;  // two zeros: each twice
   ImportaSollecitazioni(false);
   EXPECT_EQ(nodo.NumSoll, 4);
 }
@@ -209,7 +209,7 @@ TEST_F(Importa, InviluppoDiMoltiSestetti) {
   EXPECT_EQ(nodo.SollMt[12], 0);
   EXPECT_EQ(c.Letti, 10000);
   EXPECT_EQ(c.Presi, 10000);
-  c.NumSestettiStr = 4;                                   // one and all, twice; two that are not beside each other; one above the file's
+  c.NumSestettiStr = 4;  // one and all, twice; two that are not beside each other; one above the file's
   const std::int16_t lista[] = {0, 4097, 0, 10001};
   std::copy(std::begin(lista), std::end(lista), c.SestettiStr + 1);
   ImportaSollecitazioni(true);
@@ -228,8 +228,10 @@ TEST_F(Importa, InviluppoDiMoltiSestetti) {
 // Sextets that stand alike beside one that cannot be rounded: each is judged by itself.
 TEST_F(Importa, InviluppoConRipetutiNonFiniti) {
   const double inf = std::numeric_limits<double>::infinity();
-  Scrivi("astec007.bin", FileRisultatiDi(1, 1, 5, {{5, 3, 0, 0, 0, 0, 0}, {5, inf, 0, 0, 0, 0, 0}, {5, inf, 0, 0, 0, 0, 0},
-                                                   {5, 3, 0, 0, 0, 0, 0}, {5, 3, 0, 0, 0, 0, 0}}));
+  Scrivi(
+    "astec007.bin",
+    FileRisultatiDi(
+      1, 1, 5, {{5, 3, 0, 0, 0, 0, 0}, {5, inf, 0, 0, 0, 0, 0}, {5, inf, 0, 0, 0, 0, 0}, {5, 3, 0, 0, 0, 0, 0}, {5, 3, 0, 0, 0, 0, 0}}));
   ImportaSollecitazioni(true);
   EXPECT_EQ(nodo.SollN[1], 3);
   EXPECT_EQ(c.Letti, 5);
@@ -239,7 +241,7 @@ TEST_F(Importa, InviluppoConRipetutiNonFiniti) {
 TEST_F(Importa, OgniRigaDellInviluppoHaLaSuaComponente) {
   // Sextets 1 to 12 in the order of the rows, each with one extreme, told apart by N's decimals or the name; a thirteenth beats none.
   std::vector<RecordRisultati> r;
-  double RecordRisultati::*const componenti[] = {&RecordRisultati::N, &RecordRisultati::Tz, &RecordRisultati::Ty,
+  double RecordRisultati::*const componenti[] = {&RecordRisultati::N,  &RecordRisultati::Tz, &RecordRisultati::Ty,
                                                  &RecordRisultati::My, &RecordRisultati::Mz, &RecordRisultati::Mt};
   for (int riga = 1; riga <= 12; ++riga) {
     RecordRisultati x{5, 0, 0, 0, 0, 0, 0};
@@ -261,11 +263,11 @@ TEST_F(Importa, IlLimiteSiProvaFilePerFileEContaLeAsteNegate) {
   Scrivi("astec007.bin", FileRisultatiDi(1, 1, 120, std::vector<RecordRisultati>(120, {5, 1, 0, 0, 0, 0, 0})));
   Scrivi("astec008.bin", FileRisultatiDi(1, 1, 81, std::vector<RecordRisultati>(81, {5, 1, 0, 0, 0, 0, 0})));
   c.CasiStr[++c.NumCasiStr] = 8;
-  c.SestettiStr[1] = 1;                                   // of each file one is taken
+  c.SestettiStr[1] = 1;  // of each file one is taken
   ImportaSollecitazioni(false);
-  EXPECT_EQ(nodo.NumSoll, 2);                             // 0 + 120, then 1 + 81
+  EXPECT_EQ(nodo.NumSoll, 2);  // 0 + 120, then 1 + 81
   EXPECT_TRUE(registratore.eventi.empty());
-  Asta(-6, 0, 1);                                         // skipped, and counted all the same: 2 + 2 * 120
+  Asta(-6, 0, 1);  // skipped, and counted all the same: 2 + 2 * 120
   ImportaSollecitazioni(false);
   EXPECT_EQ(nodo.NumSoll, 0);
   EXPECT_EQ(registratore.eventi.size(), 1u);
@@ -327,9 +329,10 @@ TEST_F(Importa, ValoreNonFinitoSiSalta) {
 }
 
 TEST_F(Importa, ValoreCheNonSiArrotondaSiSaltaSenzaFault) {
-  const double largo = std::numeric_limits<double>::max();       // ten times it overflows
-  std::string b = FileRisultatiDi(1, 1, 4, {{5, 1, largo, 0, 0, 0, 0}, {5, 2, 0, 0, 0, -largo, 0}, {5, 3, 0, 0, 1e300, 0, 0}, {5, 4, 0, 0, 0, 0, 0}});
-  const std::uint64_t segnale = 0x7FF0000000000001;              // a not-a-number whose comparison is a fault
+  const double largo = std::numeric_limits<double>::max();  // ten times it overflows
+  std::string b =
+    FileRisultatiDi(1, 1, 4, {{5, 1, largo, 0, 0, 0, 0}, {5, 2, 0, 0, 0, -largo, 0}, {5, 3, 0, 0, 1e300, 0, 0}, {5, 4, 0, 0, 0, 0, 0}});
+  const std::uint64_t segnale = 0x7FF0000000000001;  // a not-a-number whose comparison is a fault
   std::memcpy(&b[4 * 56 + 8], &segnale, 8);
   Scrivi("astec007.bin", b);
   AzzeraFault();
@@ -342,19 +345,19 @@ TEST_F(Importa, ValoreCheNonSiArrotondaSiSaltaSenzaFault) {
 
 // What counts is where a record lies, not what the header claims of the rest of the file.
 TEST_F(Importa, FileTroncatoDaIRecordCheHa) {
-  Scrivi("astec007.bin", FileRisultatiDi(2, 2, 3, OTTO).substr(0, 6 * 56));   // bar 5: records 1 to 5 of its six
+  Scrivi("astec007.bin", FileRisultatiDi(2, 2, 3, OTTO).substr(0, 6 * 56));  // bar 5: records 1 to 5 of its six
   ImportaSollecitazioni(false);
-  ASSERT_EQ(nodo.NumSoll, 3);                             // section 1 is whole
+  ASSERT_EQ(nodo.NumSoll, 3);  // section 1 is whole
   EXPECT_EQ(nodo.SollN[1], 511);
   EXPECT_EQ(nodo.SollN[3], 521);
   nodo.NumSoll = 0;
   c.LatoAsta[1] = 2;
   ImportaSollecitazioni(false);
-  ASSERT_EQ(nodo.NumSoll, 2);                             // of section 2 the first two sextets, records 4 and 5
+  ASSERT_EQ(nodo.NumSoll, 2);  // of section 2 the first two sextets, records 4 and 5
   EXPECT_EQ(nodo.SollN[1], 522);
   EXPECT_EQ(nodo.SollN[2], 611);
   nodo.NumSoll = 0;
-  c.AsteNodo[1] = 9;                                      // not in the file: its place 1 begins at record 7
+  c.AsteNodo[1] = 9;  // not in the file: its place 1 begins at record 7
   c.AstaNodo[1] = 1;
   ImportaSollecitazioni(false);
   EXPECT_EQ(nodo.NumSoll, 0);
@@ -392,9 +395,8 @@ TEST_F(Importa, FileTroncatiEByteCambiatiNonFannoDanno) {
 }
 
 TEST_F(Importa, TipiDeiCasi) {
-  Scrivi("combinaz.tot",
-         "3\r\n1\r\nnome\r\naltro\r\nx|TIPOVER=TENSAMM|y\r\n1\r\n1,2,3\r\n2\r\n1,2\r\n3,4\r\n"
-         "4\r\nn\r\na\r\nTIPOVER=SLU\r\n0\r\n0\r\n9\r\nn\r\na\r\nsenza tipo\r\n0\r\n0\r\n");
+  Scrivi("combinaz.tot", "3\r\n1\r\nnome\r\naltro\r\nx|TIPOVER=TENSAMM|y\r\n1\r\n1,2,3\r\n2\r\n1,2\r\n3,4\r\n"
+                         "4\r\nn\r\na\r\nTIPOVER=SLU\r\n0\r\n0\r\n9\r\nn\r\na\r\nsenza tipo\r\n0\r\n0\r\n");
   ASSERT_EQ(LeggiTipiCaso(), EsitoCasi::Letti);
   ASSERT_EQ(c.NumCasiStr, 3);
   EXPECT_EQ(c.CasiStr[2], 4);
@@ -410,6 +412,6 @@ TEST_F(Importa, CasiAssentiOTroppi) {
   EXPECT_EQ(LeggiTipiCaso(), EsitoCasi::Troppi);
   EXPECT_EQ(registratore.eventi.back(), "[messaggio] esclamazione | ERRORE | Errore: numero di combinazioni eccessivo");
   Scrivi("combinaz.tot", "200\r\n1\r\n");
-  EXPECT_EQ(LeggiTipiCaso(), EsitoCasi::Letti);           // truncated: what is there
+  EXPECT_EQ(LeggiTipiCaso(), EsitoCasi::Letti);  // truncated: what is there
   EXPECT_EQ(c.NumCasiStr, 1);
 }

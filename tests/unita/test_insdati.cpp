@@ -21,9 +21,11 @@ void AttendiTirafondi(const std::vector<double>& z, const std::vector<double>& y
 }
 
 TEST_F(Pannello71, TabsAndFrames) {
-  EXPECT_EQ(insDati.SSTab.voci, (Testi{"Profilo", "Nervature", "Piastra", "Tirafondi e Saldature", "Materiali", "Sollecitazioni", "Calcolo"}));
-  const std::pair<const char*, const char*> dove[] = {{"Colonna", "SSTab/0"}, {"Tipi", "SSTab/1"}, {"Piastra", "SSTab/2"},
-      {"Tirafondi", "SSTab/3"}, {"Sald", "SSTab/3"}, {"Materiali", "SSTab/4"}, {"Soll", "SSTab/5"}, {"Frame1", "SSTab/6"}};
+  EXPECT_EQ(insDati.SSTab.voci,
+            (Testi{"Profilo", "Nervature", "Piastra", "Tirafondi e Saldature", "Materiali", "Sollecitazioni", "Calcolo"}));
+  const std::pair<const char*, const char*> dove[] = {{"Colonna", "SSTab/0"},   {"Tipi", "SSTab/1"},  {"Piastra", "SSTab/2"},
+                                                      {"Tirafondi", "SSTab/3"}, {"Sald", "SSTab/3"},  {"Materiali", "SSTab/4"},
+                                                      {"Soll", "SSTab/5"},      {"Frame1", "SSTab/6"}};
   for (const auto& [cornice, scheda] : dove) EXPECT_STREQ(TrovaRiga(InsDati, cornice)->cornice, scheda);
   for (const char* n : {"Colonna", "Tipi", "Piastra"}) EXPECT_EQ(C(n).testo, "[mm]");
   EXPECT_EQ(insDati.Tirafondi.testo, "Tirafondi [mm]");
@@ -67,7 +69,7 @@ TEST_F(Pannello71, PlateFieldsStoreAtOnce) {
 TEST_F(Pannello71, NumericHeadOfTheText) {
   Scrivi("LatoTxt", 4, "12mm");
   EXPECT_EQ(nodo.SpessPiastra, 12);
-  Scrivi("LatoTxt", 4, "12,5");                      // the point is the mark
+  Scrivi("LatoTxt", 4, "12,5");  // the point is the mark
   EXPECT_EQ(nodo.SpessPiastra, 12);
   for (const char* vuoto : {"", "abc", "nan", "inf"}) {
     nodo.SpessPiastra = 9;
@@ -84,7 +86,7 @@ TEST_F(Pannello71, EmptyGeometryIsZero) {
   EXPECT_EQ(nodo.LatoY, 0);
   Scrivi("LatoTxt", 2, "");
   Scrivi("LatoTxt", 3, "");
-  EXPECT_EQ(nodo.LatoZ, 280);                        // a margin of 0: the section's sides
+  EXPECT_EQ(nodo.LatoZ, 280);  // a margin of 0: the section's sides
   EXPECT_EQ(nodo.LatoY, 300);
   for (int i = 1; i <= 4; i++) Scrivi("DTf", i, "");
   AttendiTirafondi({0, 280, 0, 280}, {0, 0, 300, 300});
@@ -107,20 +109,21 @@ TEST_F(Pannello71, AnOverflowIsAFailedStepAndKeepsTheValue) {
 }
 
 TEST_F(Pannello71, AResultThatOverflowsIsAFaultAndIsNotStored) {
-  Scrivi("LatoTxt", 2, "1e308");                     // 2 * 1e308 is no double
+  Scrivi("LatoTxt", 2, "1e308");  // 2 * 1e308 is no double
   EXPECT_EQ(nodo.LatoZ, 480);
-  EXPECT_EQ(registratore.eventi, (Testi{"[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: il comando non può continuare."}));
+  EXPECT_EQ(registratore.eventi,
+            (Testi{"[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: il comando non può continuare."}));
 }
 
 TEST_F(Pannello71, EnterUnderMarginsGivesTheSides) {
   Scrivi("LatoTxt", 2, "50");
   Invio("LatoTxt", 2);
-  EXPECT_EQ(insDati.LatoTxt[0].testo, "380");        // 2 * 50 + 280
+  EXPECT_EQ(insDati.LatoTxt[0].testo, "380");  // 2 * 50 + 280
   EXPECT_EQ(insDati.LatoTxt[1].testo, "500");
   EXPECT_EQ(nodo.LatoZ, 380);
   Scrivi("LatoTxt", 3, "30");
   Invio("LatoTxt", 3);
-  EXPECT_EQ(insDati.LatoTxt[1].testo, "360");        // 2 * 30 + 300
+  EXPECT_EQ(insDati.LatoTxt[1].testo, "360");  // 2 * 30 + 300
   EXPECT_EQ(nodo.LatoY, 360);
 }
 
@@ -128,7 +131,7 @@ TEST_F(Pannello71, EnterUnderSidesGivesTheMargins) {
   Scegli("GeoP", 0);
   Scrivi("LatoTxt", 0, "381");
   Invio("LatoTxt", 0);
-  EXPECT_EQ(insDati.LatoTxt[2].testo, "50.5");       // (381 - 280) / 2
+  EXPECT_EQ(insDati.LatoTxt[2].testo, "50.5");  // (381 - 280) / 2
   EXPECT_EQ(insDati.LatoTxt[3].testo, "100");
   EXPECT_EQ(nodo.LatoZ, 381);
 }
@@ -141,7 +144,7 @@ TEST_F(Pannello71, GeoPEnablesItsPairOfFields) {
       EXPECT_EQ(insDati.Label2[i].abilitato, attesi[i]) << i;
     }
   };
-  abilitati(false, false, true, true);               // after the reset: margins
+  abilitati(false, false, true, true);  // after the reset: margins
   Scegli("GeoP", 0);
   abilitati(true, true, false, false);
   Scegli("GeoP", 1);
@@ -151,17 +154,17 @@ TEST_F(Pannello71, GeoPEnablesItsPairOfFields) {
 
 TEST_F(Pannello71, SectionUnderSidesKeepsThePlate) {
   Scegli("GeoP", 0);
-  UtenteSceglie(InsDati, insDati.TraveP, 9);         // P10: H 110, B 60
+  UtenteSceglie(InsDati, insDati.TraveP, 9);  // P10: H 110, B 60
   EXPECT_EQ(nodo.LatoZ, 480);
   EXPECT_EQ(nodo.LatoY, 500);
-  EXPECT_EQ(insDati.LatoTxt[2].testo, "210");        // (480 - 60) / 2
-  EXPECT_EQ(insDati.LatoTxt[3].testo, "195");        // (500 - 110) / 2
+  EXPECT_EQ(insDati.LatoTxt[2].testo, "210");  // (480 - 60) / 2
+  EXPECT_EQ(insDati.LatoTxt[3].testo, "195");  // (500 - 110) / 2
 }
 
 TEST_F(Pannello71, SectionUnderMarginsMovesThePlate) {
   UtenteSceglie(InsDati, insDati.TraveP, 9);
-  EXPECT_EQ(nodo.LatoZ, 260);                        // 60 + 200
-  EXPECT_EQ(nodo.LatoY, 310);                        // 110 + 200
+  EXPECT_EQ(nodo.LatoZ, 260);  // 60 + 200
+  EXPECT_EQ(nodo.LatoY, 310);  // 110 + 200
   EXPECT_EQ(insDati.LatoTxt[0].testo, "260");
   EXPECT_EQ(insDati.LatoTxt[2].testo, "100");
 }
@@ -199,7 +202,8 @@ TEST_F(Pannello71, NoFieldOfTheFormerSectionStays) {
 
 TEST_F(Pannello71, TypologyEnablesExactlySixControls) {
   const auto sei = [](bool si) {
-    for (const Controllo* c : {&insDati.HFazzTxt[0], &insDati.HFazzTxt[1], &insDati.Label8[0], &insDati.Label8[1], &insDati.ChSI, &insDati.LSi})
+    for (const Controllo* c :
+         {&insDati.HFazzTxt[0], &insDati.HFazzTxt[1], &insDati.Label8[0], &insDati.Label8[1], &insDati.ChSI, &insDati.LSi})
       EXPECT_EQ(c->abilitato, si);
     for (const Controllo* c : {&insDati.GolaTxt, &insDati.Op_Tip[0], &insDati.Op_Tip[1], &insDati.Pic_Tipo[0], &insDati.Tipi})
       EXPECT_TRUE(c->abilitato);
@@ -209,7 +213,7 @@ TEST_F(Pannello71, TypologyEnablesExactlySixControls) {
   Scegli("Op_Tip", 0);
   EXPECT_EQ(nodo.TipoNodo, 1);
   sei(false);
-  EXPECT_EQ(nodo.HNerv, 150);                        // the rib values stay in the model
+  EXPECT_EQ(nodo.HNerv, 150);  // the rib values stay in the model
   EXPECT_EQ(nodo.SpNerv, 6);
   Scegli("Op_Tip", 1);
   EXPECT_EQ(nodo.TipoNodo, 2);
@@ -230,7 +234,7 @@ TEST_F(Pannello71, RibsAndInnerWelds) {
 TEST_F(Pannello71, WeldSideAndThroat) {
   Scrivi("GolaTxt", SENZA_INDICE, "10");
   EXPECT_EQ(nodo.Gola, 10);
-  EXPECT_DOUBLE_EQ(nodo.GolaCalc, 7.0710678118654755);   // 10 / sqrt 2
+  EXPECT_DOUBLE_EQ(nodo.GolaCalc, 7.0710678118654755);  // 10 / sqrt 2
 }
 
 TEST_F(Pannello71, FourAnchors) {
@@ -241,16 +245,16 @@ TEST_F(Pannello71, FourAnchors) {
   Scrivi("DTf", 3, "55");
   AttendiTirafondi({40, 435, 40, 435}, {55, 55, 450, 450});
   Scrivi("DTf", 4, "65");
-  AttendiTirafondi({40, 435, 40, 435}, {55, 55, 435, 435});   // 480 - 45, 500 - 65
+  AttendiTirafondi({40, 435, 40, 435}, {55, 55, 435, 435});  // 480 - 45, 500 - 65
 }
 
 TEST_F(Pannello71, PatternsOfEightAndSix) {
   const double z = 480.0 / 2, y = 500.0 / 2;
   Scegli("OptionNTir", 1);
   AttendiTirafondi({50, 430, 50, 430, 50, 430, z, z}, {50, 50, 450, 450, y, y, 450, 50});
-  Scegli("OptionNTir", 3);                           // 6 Orizz.
+  Scegli("OptionNTir", 3);  // 6 Orizz.
   AttendiTirafondi({50, 430, 50, 430, z, z}, {50, 50, 450, 450, 450, 50});
-  Scegli("OptionNTir", 2);                           // 6 Vert.
+  Scegli("OptionNTir", 2);  // 6 Vert.
   AttendiTirafondi({50, 430, 50, 430, 50, 430}, {50, 50, 450, 450, y, y});
   Scegli("OptionNTir", 0);
   AttendiTirafondi({50, 430, 50, 430}, {50, 50, 450, 450});
@@ -262,9 +266,9 @@ TEST_F(Pannello71, EightAnchorsStandAtMidSideWhateverTheDistances) {
   const char* distanze[] = {"90", "10", "30", "80"};
   for (int i = 1; i <= 4; i++) Scrivi("DTf", i, distanze[i - 1]);
   AttendiTirafondi({90, 470, 90, 470, 90, 470, 240, 240}, {30, 30, 420, 420, 250, 250, 420, 30});
-  Scegli("OptionNTir", 2);                           // 6 Vert.
+  Scegli("OptionNTir", 2);  // 6 Vert.
   AttendiTirafondi({90, 470, 90, 470, 90, 470}, {30, 30, 420, 420, 250, 250});
-  Scegli("OptionNTir", 3);                           // 6 Orizz.
+  Scegli("OptionNTir", 3);  // 6 Orizz.
   AttendiTirafondi({90, 470, 90, 470, 240, 240}, {30, 30, 420, 420, 420, 30});
   Scegli("OptionNTir", 1);
   Scrivi("LatoTxt", 0, "600");
@@ -275,25 +279,25 @@ TEST_F(Pannello71, EightAnchorsStandAtMidSideWhateverTheDistances) {
 TEST_F(Pannello71, ASideMovesTheAnchorsOfTheFarEdge) {
   Scrivi("LatoTxt", 0, "600");
   AttendiTirafondi({50, 550, 50, 550}, {50, 50, 450, 450});
-  EXPECT_EQ(insDati.DTf[2].testo, "50");             // Dz2 itself stays
+  EXPECT_EQ(insDati.DTf[2].testo, "50");  // Dz2 itself stays
   Scrivi("LatoTxt", 1, "700");
   AttendiTirafondi({50, 550, 50, 550}, {50, 50, 650, 650});
   EXPECT_EQ(insDati.DTf[4].testo, "50");
-  Scrivi("LatoTxt", 2, "60");                        // 2 * 60 + 280 = 400
+  Scrivi("LatoTxt", 2, "60");  // 2 * 60 + 280 = 400
   AttendiTirafondi({50, 350, 50, 350}, {50, 50, 650, 650});
-  Scrivi("LatoTxt", 3, "70");                        // 2 * 70 + 300 = 440
+  Scrivi("LatoTxt", 3, "70");  // 2 * 70 + 300 = 440
   AttendiTirafondi({50, 350, 50, 350}, {50, 50, 390, 390});
 }
 
 TEST_F(Pannello71, AnchorLabels) {
-  const char* attesi[] = {"120", "500", "70", "450", "10", "20"};   // LFt, L, R, L1, LF, Fi
+  const char* attesi[] = {"120", "500", "70", "450", "10", "20"};  // LFt, L, R, L1, LF, Fi
   for (int i = 0; i < 6; i++) EXPECT_EQ(insDati.TFLab[i].testo, attesi[i]);
 }
 
 TEST_F(Pannello71, MethodRemembersTheSteelOfEach) {
-  UtenteSceglie(InsDati, insDati.Acc, 0);            // TA: S 235
+  UtenteSceglie(InsDati, insDati.Acc, 0);  // TA: S 235
   Scegli("TipoVer", 1);
-  UtenteSceglie(InsDati, insDati.Acc, 2);            // SLU: S 355
+  UtenteSceglie(InsDati, insDati.Acc, 2);  // SLU: S 355
   Scegli("TipoVer", 0);
   EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");
   EXPECT_EQ(insDati.Acc.scelta, 0);
@@ -305,19 +309,19 @@ TEST_F(Pannello71, MethodRemembersTheSteelOfEach) {
 
 TEST_F(Pannello71, MethodActsOnARealChangeOnly) {
   materiali.MemoriaMateriali[0].Nome = "S 275 (FE 430)";
-  Scegli("TipoVer", 0);                              // already there
+  Scegli("TipoVer", 0);  // already there
   EXPECT_EQ(nodo.MatAcc.Nome, "S 235 (FE 360)");
   EXPECT_TRUE(materiali.MemoriaMateriali[1].Nome.empty());
   Scegli("TipoVer", 1);
   materiali.MemoriaMateriali[0] = materiali.AcciaiBase[5];
-  nodo.MatAcc.Fyk = 1;                               // a new fill would copy the table's record
+  nodo.MatAcc.Fyk = 1;  // a new fill would copy the table's record
   Scegli("TipoVer", 1);
   EXPECT_EQ(nodo.MatAcc.Fyk, 1);
   EXPECT_EQ(materiali.MemoriaMateriali[0].Nome, "S 185");
 }
 
 TEST_F(Pannello71, MethodShowsTheLoadClassesOfVisibleRows) {
-  for (int m : {1, 0}) {                             // the heading follows the method also over an empty list
+  for (int m : {1, 0}) {  // the heading follows the method also over an empty list
     Scegli("TipoVer", m);
     EXPECT_EQ(insDati.Label4.visibile, m == 0);
     EXPECT_FALSE(insDati.CasCar[0].visibile);
@@ -331,7 +335,7 @@ TEST_F(Pannello71, MethodShowsTheLoadClassesOfVisibleRows) {
   EXPECT_FALSE(insDati.Label4.visibile);
   for (int i = 0; i < 5; i++) EXPECT_FALSE(insDati.CasCar[i].visibile);
   EXPECT_TRUE(insDati.TxtSN[1].visibile);
-  EXPECT_EQ(nodo.SollCC[2], 1);                      // kept, though not shown
+  EXPECT_EQ(nodo.SollCC[2], 1);  // kept, though not shown
   EXPECT_EQ(nodo.NumSoll, 2);
   Scegli("TipoVer", 0);
   EXPECT_TRUE(insDati.Label4.visibile);
@@ -344,7 +348,8 @@ TEST_F(Pannello71, MethodShowsTheLoadClassesOfVisibleRows) {
 }
 
 TEST_F(Pannello71, ExposureIsAPosition) {
-  EXPECT_EQ(insDati.ComboEsposizione.voci, (Testi{"Esposto a fenomeni corrosivi", "Non esposto a fenomeni corrosivi", "Resistente alla corrosione"}));
+  EXPECT_EQ(insDati.ComboEsposizione.voci,
+            (Testi{"Esposto a fenomeni corrosivi", "Non esposto a fenomeni corrosivi", "Resistente alla corrosione"}));
   EXPECT_EQ(nodo.Esposizione, 0);
   UtenteSceglie(InsDati, insDati.ComboEsposizione, 2);
   EXPECT_EQ(nodo.Esposizione, 2);
@@ -359,7 +364,7 @@ TEST_F(Pannello71, StatusLineShowsAfterTheRest) {
   EXPECT_TRUE(insDati.Help.visibile);
   EXPECT_EQ(insDati.Help.testo, "Inserire il lato dei cordoni di saldatura");
   Scatena(InsDati, insDati.Verifica, Evento::Passa);
-  EXPECT_EQ(insDati.Help.testo, "Inserire il lato dei cordoni di saldatura");   // until the next rest
+  EXPECT_EQ(insDati.Help.testo, "Inserire il lato dei cordoni di saldatura");  // until the next rest
   PassaTempo(800);
   EXPECT_EQ(insDati.Help.testo, "Verifica tensionale del nodo");
   insDati.Help.visibile = false;
@@ -381,7 +386,7 @@ TEST_F(Pannello71, PanelAndFramesClearTheStatusLine) {
   }
   ImpostaStato("x");
   PassaTempo(800);
-  Scatena(InsDati, C("Label2", 0), Evento::Passa);   // a control without a text clears nothing
+  Scatena(InsDati, C("Label2", 0), Evento::Passa);  // a control without a text clears nothing
   EXPECT_TRUE(insDati.Help.visibile);
   EXPECT_EQ(insDati.Help.testo, "x");
   PassaSulPannello(InsDati);
@@ -427,7 +432,7 @@ TEST_F(Pannello71, StatusTexts) {
     Scatena(InsDati, C(a.nome, a.i), Evento::Passa);
     EXPECT_EQ(insDati.StatoTxt, a.testo) << a.nome << a.i;
   }
-  insDati.StatoTxt = "prima";                        // no text of their own: nothing
+  insDati.StatoTxt = "prima";  // no text of their own: nothing
   Scatena(InsDati, C("Label2", 0), Evento::Passa);
   for (const char* n : {"PropMatButton", "CheckMatBase", "Command1", "LegendaButt"}) Scatena(InsDati, C(n), Evento::Passa);
   EXPECT_EQ(insDati.StatoTxt, "prima");
@@ -460,7 +465,7 @@ TEST_F(Pannello71, HelpFileAndEnd) {
   Scatena(InsDati, insDati.LegendaButt, Evento::Cambio);
   EXPECT_EQ(aiuto, "c:\\suite\\help\\HelpQB07.pdf");
   Scatena(InsDati, insDati.Chiudi, Evento::Cambio);
-  EXPECT_EQ(registratore.eventi, (Testi{"[fine]"}));   // no question
+  EXPECT_EQ(registratore.eventi, (Testi{"[fine]"}));  // no question
   EXPECT_TRUE(registratore.attesa);
   EXPECT_TRUE(registratore.finito);
 }

@@ -14,7 +14,7 @@ using Testi = std::vector<std::string>;
 // ---- Verifica ----
 
 TEST_F(Pannello71, VerificaRefused) {
-  Scrivi("LatoTxt", 4, "0");                         // a plate without thickness
+  Scrivi("LatoTxt", 4, "0");  // a plate without thickness
   registratore.risposte = {false};
   Scatena(InsDati, insDati.Verifica, Evento::Cambio);
   EXPECT_EQ(registratore.eventi.back(), "[messaggio] esclamazione | NODO COLONNA - PLINTO | Verifica non possibile");
@@ -24,7 +24,7 @@ TEST_F(Pannello71, VerificaRefused) {
 }
 
 TEST_F(Pannello71, VerificaCancelledAtTheEdgeCheck) {
-  Scrivi("LatoTxt", 4, "5");                         // TA: edge distance 50 > 6 t = 30
+  Scrivi("LatoTxt", 4, "5");  // TA: edge distance 50 > 6 t = 30
   registratore.risposte = {false};
   Scatena(InsDati, insDati.Verifica, Evento::Cambio);
   EXPECT_EQ(registratore.eventi.back(), "[domanda] informazione | NODO COLONNA - PLINTO | Continuare la verifica? -> Annulla");
@@ -35,7 +35,7 @@ TEST_F(Pannello71, VerificaCancelledAtTheEdgeCheck) {
 
 TEST_F(Pannello71, VerificaAsksByTheMethod) {
   Scegli("TipoVer", 1);
-  Scrivi("DTf", 1, "20");                            // NTC: 1.2 * 20 = 24 > 20
+  Scrivi("DTf", 1, "20");  // NTC: 1.2 * 20 = 24 > 20
   registratore.risposte = {false};
   Scatena(InsDati, insDati.Verifica, Evento::Cambio);
   EXPECT_EQ(verificaPannello.esito, EsitoVerifica::Annullata);
@@ -43,8 +43,8 @@ TEST_F(Pannello71, VerificaAsksByTheMethod) {
 }
 
 TEST_F(Pannello71, VerificaStopsAtAFaultOfTheEdgeCheck) {
-  Scrivi("LatoTxt", 4, "1e308");                     // six times the thickness overflows
-  Scrivi("DTf", 1, "20");                            // and the distance is a breach: 2 * 20 = 40 > 20
+  Scrivi("LatoTxt", 4, "1e308");  // six times the thickness overflows
+  Scrivi("DTf", 1, "20");         // and the distance is a breach: 2 * 20 = 40 > 20
   Scatena(InsDati, insDati.Verifica, Evento::Cambio);
   EXPECT_EQ(registratore.eventi.back(), "[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: la verifica non può continuare.");
   for (const std::string& e : registratore.eventi) EXPECT_EQ(e.find("Continuare"), std::string::npos) << e;
@@ -53,11 +53,11 @@ TEST_F(Pannello71, VerificaStopsAtAFaultOfTheEdgeCheck) {
 
 TEST_F(Pannello71, VerificaDoneAndStopped) {
   suite.DirLavoro = CartellaProva("insdati_verifica");
-  Scatena(InsDati, insDati.Verifica, Evento::Cambio);    // no sextet: the report without combinations
+  Scatena(InsDati, insDati.Verifica, Evento::Cambio);  // no sextet: the report without combinations
   EXPECT_EQ(verificaPannello.esito, EsitoVerifica::Eseguita);
   EXPECT_TRUE(registratore.eventi.back().starts_with("[testo] "));
   registratore.eventi.clear();
-  suite.DirLavoro += "/manca";                       // the report cannot be opened
+  suite.DirLavoro += "/manca";  // the report cannot be opened
   Scatena(InsDati, insDati.Verifica, Evento::Cambio);
   EXPECT_EQ(verificaPannello.esito, EsitoVerifica::Interrotta);
   EXPECT_EQ(registratore.eventi, (Testi{"[messaggio] critica | NODO COLONNA - PLINTO | Impossibile scrivere il file " + suite.DirLavoro +
@@ -67,7 +67,7 @@ TEST_F(Pannello71, VerificaDoneAndStopped) {
 }
 
 TEST_F(Pannello71, VerificaRunsUnderTheWaitPointer) {
-  static bool sopra;                                 // was it there when the report was shown, before the focus came back?
+  static bool sopra;  // was it there when the report was shown, before the focus came back?
   sopra = false;
   suite.DirLavoro = CartellaProva("insdati_attesa");
   piattaforma.mostraTesto = [](const std::string&) { sopra = registratore.attesa && registratore.fuoco == nullptr; };
@@ -80,7 +80,7 @@ TEST_F(Pannello71, VerificaRunsUnderTheWaitPointer) {
 // ---- window ----
 
 TEST_F(Pannello71, FirstShowSetsColoursAndSearchTitle) {
-  EXPECT_EQ(insDati.SSTab.coloreSfondo, 0xFFFFD2);   // RGB(210, 255, 255), blue in the high byte
+  EXPECT_EQ(insDati.SSTab.coloreSfondo, 0xFFFFD2);  // RGB(210, 255, 255), blue in the high byte
   EXPECT_EQ(insDati.Versione.coloreSfondo, 0x6464FF);
   EXPECT_EQ(insDati.Versione.coloreTesto, 0xFFFFFF);
   EXPECT_EQ(insDati.TitoloCerca, "NODO COLONNA - PLINTO - IMPORTA SOLLECITAZIONI DA 3D - Cerca nodi");
@@ -91,7 +91,7 @@ TEST_F(Pannello71, FirstShowDrawsTheSketch) {
   const std::size_t tratti = insDati.telaNodo.tratti.size();
   EXPECT_GT(tratti, 0u);
   PulisciTela(insDati.telaNodo);
-  insDati.caricato = false;                          // as before its first show
+  insDati.caricato = false;  // as before its first show
   PannelloMostrato(InsDati, false);
   EXPECT_EQ(insDati.telaNodo.tratti.size(), tratti);
 }
@@ -111,12 +111,12 @@ TEST_F(Pannello71, Canvas) {
   EXPECT_EQ(t.dy, -4);
   PulisciTela(t);
   EXPECT_TRUE(t.tratti.empty());
-  EXPECT_EQ(t.dx, 3);                                // clearing keeps the scale
+  EXPECT_EQ(t.dx, 3);  // clearing keeps the scale
 }
 
 // The plan is drawn anew by Enter or a choice, not by each key.
 TEST_F(Pannello71, WhatRedrawsTheSketch) {
-  static bool dipinto;                               // the picture is painted with its new strokes
+  static bool dipinto;  // the picture is painted with its new strokes
   piattaforma.aggiorna = [](Controllo& c) { dipinto = dipinto || (&c == &insDati.Nodo && !insDati.telaNodo.tratti.empty()); };
   const auto ridisegna = [](const char* nome, int i, Evento e) {
     PulisciTela(insDati.telaNodo);
@@ -144,7 +144,7 @@ TEST_F(Pannello71, WhatRedrawsTheSketch) {
 TEST_F(Pannello71, PanelsOverTheMainOne) {
   static int davanti;
   davanti = 0;
-  nodo.MatAcc.GammaMT = 1.25;                        // the properties divide by it
+  nodo.MatAcc.GammaMT = 1.25;  // the properties divide by it
   for (const char* comando : {"DimTf", "PropMatButton", "ImpS3D"}) {
     registratore.dentro.push_back([] { davanti += Raggiungibile(InsDati) ? 0 : 1; });
     EXPECT_TRUE(Scatena(InsDati, C(comando), Evento::Cambio));

@@ -85,7 +85,7 @@ static void Modello() {
   nodo.SollCC[1] = 0;
   nodo.SollNome[1] = "Soll 1";
   nodo.SollCC[2] = 1;
-  nodo.SollNome[2] = "Caso 3\r\nasta \xC3\xA0\n7\r";       // UTF-8 inside
+  nodo.SollNome[2] = "Caso 3\r\nasta \xC3\xA0\n7\r";  // UTF-8 inside
   nodo.NumNodiStr = 3;
   nodo.NodiStr[1] = 11;
   nodo.NodiStr[2] = -1;
@@ -93,12 +93,68 @@ static void Modello() {
   nodo.TipoVer = 1;
 }
 static Righe RigheModello() {
-  return {"VERNTC", "HEA200            ", " 190 ", " 200 ", " 6.5 ", " 10 ", " 400 ", " 500.25 ", " 20 ", " 2 ", "0",
-          " .5 ", " 150 ", " 1 ", " 7 ", " 4 ", " 50 ", " 45 ", " 350 ", " 45 ", " 50 ", " 455.25 ", " 350 ", " 455.25 ",
-          " 70 ", " 500 ", " 450 ", " 120 ", " 7 ", " 10 ", " 100 ", " 50 ", " 0 ", " 200 ", " 1 ",
-          "S 235 (FE 360)", "S 355 (FE 510)", "C25/30", " 3 ", " 2 ",
-          "-12000.5 ", " 1E+20 ", " 1.5E-07 ", " .333333333333333 ", "-.25 ", " 1234567 ", " 0 ", "Soll 1",
-          " 0 ", " 0 ", " 0 ", " 0 ", " 0 ", " 0 ", " 1 ", "Caso 3 asta \xC3\xA0" "7 ", " 3 ", " 11 ", "-1 ", " 32767 ", "1"};
+  return {"VERNTC",
+          "HEA200            ",
+          " 190 ",
+          " 200 ",
+          " 6.5 ",
+          " 10 ",
+          " 400 ",
+          " 500.25 ",
+          " 20 ",
+          " 2 ",
+          "0",
+          " .5 ",
+          " 150 ",
+          " 1 ",
+          " 7 ",
+          " 4 ",
+          " 50 ",
+          " 45 ",
+          " 350 ",
+          " 45 ",
+          " 50 ",
+          " 455.25 ",
+          " 350 ",
+          " 455.25 ",
+          " 70 ",
+          " 500 ",
+          " 450 ",
+          " 120 ",
+          " 7 ",
+          " 10 ",
+          " 100 ",
+          " 50 ",
+          " 0 ",
+          " 200 ",
+          " 1 ",
+          "S 235 (FE 360)",
+          "S 355 (FE 510)",
+          "C25/30",
+          " 3 ",
+          " 2 ",
+          "-12000.5 ",
+          " 1E+20 ",
+          " 1.5E-07 ",
+          " .333333333333333 ",
+          "-.25 ",
+          " 1234567 ",
+          " 0 ",
+          "Soll 1",
+          " 0 ",
+          " 0 ",
+          " 0 ",
+          " 0 ",
+          " 0 ",
+          " 0 ",
+          " 1 ",
+          "Caso 3 asta \xC3\xA0"
+          "7 ",
+          " 3 ",
+          " 11 ",
+          "-1 ",
+          " 32767 ",
+          "1"};
 }
 
 TEST_F(LayoutNodo, ScriveOgniRigaNelSuoOrdine) {
@@ -109,9 +165,9 @@ TEST_F(LayoutNodo, ScriveOgniRigaNelSuoOrdine) {
 
 TEST_F(LayoutNodo, SenzaNervatureSenzaCarichiSenzaMotivo) {
   Modello();
-  nodo.TipoNodo = 1;                 // no rib lines
-  nodo.OptionNTir = -1;              // no pattern, no line 11
-  nodo.NumSoll = 0;                  // the structure's count follows directly
+  nodo.TipoNodo = 1;     // no rib lines
+  nodo.OptionNTir = -1;  // no pattern, no line 11
+  nodo.NumSoll = 0;      // the structure's count follows directly
   nodo.TipoVer = 0;
   Righe r = RigheModello();
   r.erase(r.begin() + 40, r.begin() + 56);
@@ -137,8 +193,8 @@ TEST_F(LayoutNodo, DuecentoCarichiERigaZeroLibera) {
   const std::string t = ComponiNodo();
   EXPECT_EQ(t.find("7777"), std::string::npos);
   EXPECT_EQ(t.find("riga zero"), std::string::npos);
-  EXPECT_NE(t.find("\r\n 200 \r\n 1 \r\n"), std::string::npos);      // the count, then group 1
-  EXPECT_NE(t.find("\r\nSoll 200\r\n 3 \r\n"), std::string::npos);   // group 200, then the structure's count
+  EXPECT_NE(t.find("\r\n 200 \r\n 1 \r\n"), std::string::npos);     // the count, then group 1
+  EXPECT_NE(t.find("\r\nSoll 200\r\n 3 \r\n"), std::string::npos);  // group 200, then the structure's count
   Leggi(t);
   EXPECT_EQ(nodo.SollN[200], 200);
   EXPECT_EQ(nodo.SollN[0], 777777);
@@ -172,10 +228,11 @@ static std::string Riletto() {
 TEST_F(LayoutNodo, RileggeQuelloCheHaScritto) {
   const Righe righe = RigheModello();
   std::string byte = Unisci(righe);
-  byte.replace(byte.find("\xC3\xA0"), 2, "\xE0");            // Windows-1252 in the file
+  byte.replace(byte.find("\xC3\xA0"), 2, "\xE0");  // Windows-1252 in the file
   Leggi(byte);
   EXPECT_FALSE(passi.fallito);
-  EXPECT_EQ(passiVisti, (std::vector{PassoNodo::Sezione, PassoNodo::Motivo, PassoNodo::Diametro, PassoNodo::Esposizione, PassoNodo::Metodo}));
+  EXPECT_EQ(passiVisti,
+            (std::vector{PassoNodo::Sezione, PassoNodo::Motivo, PassoNodo::Diametro, PassoNodo::Esposizione, PassoNodo::Metodo}));
   EXPECT_EQ(nodo.Sezione.Nome, "HEA200            ");
   EXPECT_EQ(nodo.SpNerv, .5);
   EXPECT_EQ(nodo.HNerv, 150);
@@ -189,7 +246,8 @@ TEST_F(LayoutNodo, RileggeQuelloCheHaScritto) {
   EXPECT_EQ(nodo.MatTir.Nome, "S 355 (FE 510)");
   EXPECT_EQ(scambio.Esposizione, 3);
   EXPECT_EQ(nodo.SollTy[1], 1e20);
-  EXPECT_EQ(nodo.SollNome[2], "Caso 3 asta \xC3\xA0" "7 ");
+  EXPECT_EQ(nodo.SollNome[2], "Caso 3 asta \xC3\xA0"
+                              "7 ");
   EXPECT_EQ(nodo.NodiStr[2], -1);
   EXPECT_EQ(scambio.metodo, "1");
   EXPECT_EQ(Riletto(), Unisci(righe));
@@ -211,29 +269,31 @@ TEST_F(LayoutNodo, PrendeINumeriComunqueScritti) {
 }
 
 TEST_F(LayoutNodo, NomeDellaSezione) {
-  Leggi("VERNTC\r\nHEA200,999\r\n");               // current: a value, to the comma
+  Leggi("VERNTC\r\nHEA200,999\r\n");  // current: a value, to the comma
   EXPECT_EQ(nodo.Sezione.Nome, "HEA200            ");
   EXPECT_EQ(nodo.Sezione.H, 999);
-  Leggi("VERNTC\r\n\"  HEA, 200\"\r\n5\r\n");      // quoted
+  Leggi("VERNTC\r\n\"  HEA, 200\"\r\n5\r\n");  // quoted
   EXPECT_EQ(nodo.Sezione.Nome, "  HEA, 200        ");
   EXPECT_EQ(nodo.Sezione.H, 5);
-  Leggi("   HEA,200 B  \r\n7\r\n");                // old: the whole line, trimmed
+  Leggi("   HEA,200 B  \r\n7\r\n");  // old: the whole line, trimmed
   EXPECT_EQ(nodo.Sezione.Nome, "HEA,200 B         ");
   EXPECT_EQ(nodo.Sezione.H, 7);
-  Leggi("verntc\r\n7\r\n");                        // the marker is in capitals
+  Leggi("verntc\r\n7\r\n");  // the marker is in capitals
   EXPECT_EQ(nodo.Sezione.Nome, "verntc            ");
   EXPECT_EQ(nodo.Sezione.H, 7);
   Leggi("1234567890123456789012345\r\n");
   EXPECT_EQ(nodo.Sezione.Nome, "123456789012345678");
-  Leggi("H\xC8" "A\r\n");                          // characters, not bytes, are counted
-  EXPECT_EQ(nodo.Sezione.Nome, "H\xC3\x88" "A               ");
+  Leggi("H\xC8"
+        "A\r\n");  // characters, not bytes, are counted
+  EXPECT_EQ(nodo.Sezione.Nome, "H\xC3\x88"
+                               "A               ");
 }
 
 TEST_F(LayoutNodo, VecchiaGenerazione) {
   Righe r = RigheModello();
   r.erase(r.begin());
   r[0] = "HEA200";
-  r.erase(r.begin() + 34, r.begin() + 38);         // three names and the exposure
+  r.erase(r.begin() + 34, r.begin() + 38);  // three names and the exposure
   const Righe otto = {"RCK 300", " 300 ", " 97.5 ", "FE 360", " 1600 ", " 1400 ", "FE 510", " 2400 "};
   r.insert(r.begin() + 34, otto.begin(), otto.end());
   std::string byte = Unisci(r);
@@ -284,7 +344,7 @@ TEST_F(LayoutNodo, SaldIntEVirgolette) {
   const std::string byte = ComponiNodo();
   EXPECT_NE(byte.find("\r\n\"tra\" virgolette\r\n"), std::string::npos);
   Leggi(byte);
-  EXPECT_EQ(nodo.SollNome[1], "tra");              // a name that begins with a quote ends at the next one
+  EXPECT_EQ(nodo.SollNome[1], "tra");  // a name that begins with a quote ends at the next one
 }
 
 // Lines 0 to n of the file: what was read counts, every later value stays, the status is failed but for the whole file.
@@ -312,13 +372,17 @@ TEST_F(LayoutNodo, TroncatoAOgniRiga) {
     if (fine == intero.size()) break;
     fine = intero.find("\r\n", fine) + 2;
   }
-  FileLettura chiuso;                              // a file that could not be opened: every step fails
+  FileLettura chiuso;  // a file that could not be opened: every step fails
   passi = {};
   LeggiNodo(chiuso, Annota);
   EXPECT_TRUE(passi.fallito);
 }
 
-struct Ostile { const char* testo; int NTir, NumSoll, NumNodiStr; bool fallito; };   // the counts kept; before: 4, 2, 3
+struct Ostile {
+  const char* testo;
+  int NTir, NumSoll, NumNodiStr;
+  bool fallito;
+};  // the counts kept; before: 4, 2, 3
 TEST_F(LayoutNodo, ConteggiOstili) {
   // clang-format off
   const Ostile casi[] = {
@@ -363,7 +427,7 @@ TEST_F(LayoutNodo, ValoriOltreIlLimiteScartati) {
   Righe r = RigheModello();
   r[15] = " 10 ";
   const Righe dodici(12, " 1 ");
-  r.insert(r.begin() + 24, dodici.begin(), dodici.end());   // pairs 5 to 10
+  r.insert(r.begin() + 24, dodici.begin(), dodici.end());  // pairs 5 to 10
   Leggi(Unisci(r));
   EXPECT_TRUE(passi.fallito);
   EXPECT_EQ(nodo.NTir, 8);
@@ -412,13 +476,14 @@ TEST_F(LayoutNodo, NumeroTroppoGrande) {
 // Random bytes in a good file, and random files: nothing outside the arrays is touched (the sanitizers look on), and the
 // counts stay within their bounds.
 TEST_F(LayoutNodo, ByteCambiati) {
-  std::mt19937 caso(20080114);                     // fixed: the same files every time
+  std::mt19937 caso(20080114);  // fixed: the same files every time
   const std::string_view CARATTERI = "0123456789-,\"\r\n eE.";
   Modello();
   const std::string buono = ComponiNodo();
   for (int prova = 0; prova < 4000; ++prova) {
     std::string byte = buono;
-    for (int k = 0; k < 1 + prova % 5; ++k) byte[caso() % byte.size()] = prova % 2 ? static_cast<char>(caso() % 256) : CARATTERI[caso() % CARATTERI.size()];
+    for (int k = 0; k < 1 + prova % 5; ++k)
+      byte[caso() % byte.size()] = prova % 2 ? static_cast<char>(caso() % 256) : CARATTERI[caso() % CARATTERI.size()];
     if (prova % 16 == 15) byte.resize(caso() % byte.size());
     Leggi(byte);
     ASSERT_GE(nodo.NTir, 0);
@@ -431,6 +496,6 @@ TEST_F(LayoutNodo, ByteCambiati) {
   std::string rumore(200000, '\0');
   for (char& c : rumore) c = static_cast<char>(caso() % 256);
   Leggi(rumore);
-  Leggi(std::string(3 << 20, 'x'));                // one line of 3 MiB
+  Leggi(std::string(3 << 20, 'x'));  // one line of 3 MiB
   EXPECT_TRUE(passi.fallito);
 }

@@ -36,7 +36,7 @@ void Riempi(int n) {
 
 TEST_F(Righe72, EveryFieldOfEveryRowStores) {
   Aggiungi(9);
-  UtenteSceglie(InsDati, insDati.ScrollSa, 5);       // rows show groups 3 to 7
+  UtenteSceglie(InsDati, insDati.ScrollSa, 5);  // rows show groups 3 to 7
   for (int i = 0; i < 5; i++) {
     for (int k = 0; k < 6; k++) Scrivi(CAMPI[k], i, std::to_string(100 * i + k + 1).c_str());
     Scrivi("Lsa", i, ("n" + std::to_string(i)).c_str());
@@ -132,13 +132,13 @@ TEST_F(Righe72, TheBarAfterARemoval) {
   Aggiungi(9);
   UtenteSceglie(InsDati, insDati.ScrollSa, 3);
   Scatena(InsDati, insDati.Lsa[1], Evento::Doppio);
-  EXPECT_EQ(insDati.ScrollSa.massimo, 6);            // 8 - 2
+  EXPECT_EQ(insDati.ScrollSa.massimo, 6);  // 8 - 2
   EXPECT_EQ(insDati.ScrollSa.scelta, 3);
   EXPECT_EQ(insDati.Lsa[1].testo, "Soll 3");
   Scatena(InsDati, insDati.RimuoviSA, Evento::Cambio);
   EXPECT_EQ(insDati.ScrollSa.massimo, 5);
   EXPECT_EQ(insDati.ScrollSa.scelta, 5);
-  EXPECT_EQ(insDati.Lsa[4].testo, "Soll 8");         // group 7
+  EXPECT_EQ(insDati.Lsa[4].testo, "Soll 8");  // group 7
 }
 
 TEST_F(Righe72, LimitStatesHideTheClass) {
@@ -182,7 +182,7 @@ TEST_F(Righe72, CaptionsAndStatusTexts) {
     Scatena(InsDati, *a.c, Evento::Passa);
     EXPECT_EQ(insDati.StatoTxt, a.stato);
   }
-  insDati.StatoTxt = "prima";                        // none of its own
+  insDati.StatoTxt = "prima";  // none of its own
   Scatena(InsDati, insDati.Label4, Evento::Passa);
   EXPECT_EQ(insDati.StatoTxt, "prima");
   EXPECT_EQ(insDati.Label4.testo, "C.c. II");
@@ -197,7 +197,7 @@ TEST_F(Righe72, NameTellsOfTheDoubleClickOnlyWhileNotEmpty) {
   Aggiungi(1);
   Scatena(InsDati, insDati.Lsa[0], Evento::Passa);
   EXPECT_EQ(insDati.StatoTxt, "Doppio click per rimuovere il gruppo di sollecitazioni");
-  Scrivi("Lsa", 0, "");                        // a visible row without a name
+  Scrivi("Lsa", 0, "");  // a visible row without a name
   insDati.StatoTxt = "prima";
   Scatena(InsDati, insDati.Lsa[0], Evento::Passa);
   EXPECT_EQ(insDati.StatoTxt, "prima");

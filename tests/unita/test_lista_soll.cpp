@@ -42,13 +42,15 @@ int RigheVisibili() {
   int n = 0;
   for (int i = 0; i < 5; i++) {
     if (!insDati.Lsa[i].visibile) {
-      for (const Controllo* c : {&insDati.TxtSN[i], &insDati.TxtTy[i], &insDati.TxtTz[i], &insDati.TxtMt[i], &insDati.TxtMy[i], &insDati.TxtMz[i], &insDati.CasCar[i]})
+      for (const Controllo* c : {&insDati.TxtSN[i], &insDati.TxtTy[i], &insDati.TxtTz[i], &insDati.TxtMt[i], &insDati.TxtMy[i],
+                                 &insDati.TxtMz[i], &insDati.CasCar[i]})
         EXPECT_FALSE(c->visibile) << i;
       continue;
     }
     EXPECT_EQ(n, i) << "visible rows come first";
     n++;
-    for (const Controllo* c : {&insDati.TxtSN[i], &insDati.TxtTy[i], &insDati.TxtTz[i], &insDati.TxtMt[i], &insDati.TxtMy[i], &insDati.TxtMz[i]})
+    for (const Controllo* c :
+         {&insDati.TxtSN[i], &insDati.TxtTy[i], &insDati.TxtTz[i], &insDati.TxtMt[i], &insDati.TxtMy[i], &insDati.TxtMz[i]})
       EXPECT_TRUE(c->visibile);
   }
   return n;
@@ -79,7 +81,7 @@ TEST_F(Lista72, SingoloNamesAndShows) {
   EXPECT_EQ(nodo.NumSoll, 1);
   EXPECT_EQ(nodo.SollNome[1], "Soll 1");
   EXPECT_EQ(insDati.Lsa[0].testo, "Soll 1");
-  EXPECT_EQ(insDati.TxtSN[0].testo, "");             // empty, not "0"
+  EXPECT_EQ(insDati.TxtSN[0].testo, "");  // empty, not "0"
   EXPECT_EQ(RigheVisibili(), 1);
   EXPECT_TRUE(insDati.CasCar[0].visibile);
   EXPECT_EQ(insDati.Soll.testo, "n° 1 [daN, daNcm]");
@@ -88,7 +90,7 @@ TEST_F(Lista72, SingoloNamesAndShows) {
   EXPECT_EQ(RigheVisibili(), 5);
   Barra(false, 3, 3);
   Aggiungi(1);
-  Barra(true, 4, 4);                                 // 6 - 2
+  Barra(true, 4, 4);  // 6 - 2
   EXPECT_EQ(Nomi(), (Testi{"Soll 2", "Soll 3", "Soll 4", "Soll 5", "Soll 6"}));
   EXPECT_EQ(insDati.TxtSN[4].testo, "0");
 }
@@ -109,7 +111,7 @@ TEST_F(Lista72, TheList201) {
   EXPECT_EQ(nodo.SollNome[200], "Soll 200");
   Barra(true, 198, 198);
   EXPECT_EQ(insDati.Soll.testo, "n° 200 [daN, daNcm]");
-  EXPECT_EQ(insDati.Lsa[4].testo, "Soll 200");       // the last row: 4 + 198 - 2
+  EXPECT_EQ(insDati.Lsa[4].testo, "Soll 200");  // the last row: 4 + 198 - 2
   UtenteScrive(InsDati, insDati.TxtSN[4], "12.5");
   EXPECT_EQ(nodo.SollN[200], 12.5);
   // The full list uses its last place: with a group gone from the middle the 200th moves up, and the place is empty.
@@ -125,20 +127,20 @@ TEST_F(Lista72, TheList201) {
 }
 
 TEST_F(Lista72, FieldsStoreAtOnceDividedByTheFactor) {
-  suite.FattForze = 0.01;                            // kN
-  suite.FattMomenti = 0.0001;                        // kN m
+  suite.FattForze = 0.01;      // kN
+  suite.FattMomenti = 0.0001;  // kN m
   Aggiungi(1);
   Controllo* campi[] = {&insDati.TxtSN[0], &insDati.TxtTy[0], &insDati.TxtTz[0], &insDati.TxtMt[0], &insDati.TxtMy[0], &insDati.TxtMz[0]};
   const char* valori[] = {"-12.5", "1", "2", "3", "4", "5"};
   for (int k = 0; k < 6; k++) Scrivi(*campi[k], valori[k]);
-  EXPECT_DOUBLE_EQ(nodo.SollN[1], -1250);            // -12.5 kN
+  EXPECT_DOUBLE_EQ(nodo.SollN[1], -1250);  // -12.5 kN
   EXPECT_DOUBLE_EQ(nodo.SollTy[1], 100);
   EXPECT_DOUBLE_EQ(nodo.SollTz[1], 200);
-  EXPECT_DOUBLE_EQ(nodo.SollMt[1], 30000);           // 3 kN m
+  EXPECT_DOUBLE_EQ(nodo.SollMt[1], 30000);  // 3 kN m
   EXPECT_DOUBLE_EQ(nodo.SollMy[1], 40000);
   EXPECT_DOUBLE_EQ(nodo.SollMz[1], 50000);
   AggiornaRighe();
-  for (int k = 0; k < 6; k++) EXPECT_EQ(campi[k]->testo, valori[k]);   // shown times the same factor
+  for (int k = 0; k < 6; k++) EXPECT_EQ(campi[k]->testo, valori[k]);  // shown times the same factor
   Scrivi(insDati.TxtSN[0], "");
   EXPECT_EQ(nodo.SollN[1], 0);
   Scrivi(insDati.TxtTy[0], "abc");
@@ -154,12 +156,12 @@ TEST_F(Lista72, AnUnknownUnitIsAFaultAtTheFirstEntry) {
   suite.FattForze = 0;
   Scrivi(insDati.TxtSN[0], "5");
   EXPECT_EQ(nodo.SollN[1], 77);
-  Scrivi(insDati.TxtSN[0], "0");                     // 0 / 0
+  Scrivi(insDati.TxtSN[0], "0");  // 0 / 0
   EXPECT_EQ(nodo.SollN[1], 77);
   const std::string box = "[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: il comando non può continuare.";
   EXPECT_EQ(registratore.eventi, (Testi{box, box}));
   AggiornaRighe();
-  EXPECT_EQ(insDati.TxtSN[0].testo, "0");            // 77 times 0
+  EXPECT_EQ(insDati.TxtSN[0].testo, "0");  // 77 times 0
 }
 
 TEST_F(Lista72, AnOverflowKeepsTheStoredValue) {
@@ -172,7 +174,7 @@ TEST_F(Lista72, AnOverflowKeepsTheStoredValue) {
 
 TEST_F(Lista72, RowsWriteToTheGroupTheyShow) {
   Aggiungi(8);
-  Scorri(4);                                         // row i shows group i + 4 - 2
+  Scorri(4);  // row i shows group i + 4 - 2
   Scrivi(insDati.TxtSN[0], "11");
   Scrivi(insDati.Lsa[4], "ultimo");
   UtenteSceglie(InsDati, insDati.CasCar[2], 1);
@@ -182,7 +184,7 @@ TEST_F(Lista72, RowsWriteToTheGroupTheyShow) {
   UtenteSceglie(InsDati, insDati.CasCar[2], 0);
   EXPECT_EQ(nodo.SollCC[4], 0);
   Scrivi(insDati.Lsa[4], "");
-  EXPECT_EQ(nodo.SollNome[6], "");                   // an empty name stays empty
+  EXPECT_EQ(nodo.SollNome[6], "");  // an empty name stays empty
 }
 
 TEST_F(Lista72, ScrollingShowsAndNeverStores) {
@@ -194,7 +196,7 @@ TEST_F(Lista72, ScrollingShowsAndNeverStores) {
   EXPECT_EQ(insDati.TxtTy[0].testo, "0");
   EXPECT_EQ(insDati.CasCar[1].scelta, 1);
   EXPECT_EQ(insDati.CasCar[2].scelta, 0);
-  Scorri(99);                                        // clipped
+  Scorri(99);  // clipped
   Barra(true, 5, 5);
   Scorri(-99);
   Barra(true, 3, 5);
@@ -202,17 +204,17 @@ TEST_F(Lista72, ScrollingShowsAndNeverStores) {
 }
 
 TEST_F(Lista72, RemoveLast) {
-  Premi(insDati.RimuoviSA);                          // empty list: nothing
+  Premi(insDati.RimuoviSA);  // empty list: nothing
   EXPECT_EQ(nodo.NumSoll, 0);
   Aggiungi(7);
   nodo.SollN[7] = 5;
   Premi(insDati.RimuoviSA);
   EXPECT_EQ(nodo.NumSoll, 6);
   EXPECT_EQ(nodo.SollN[7], 0);
-  EXPECT_EQ(nodo.SollNome[7], "Soll 7");             // the name stays until overwritten
-  Barra(true, 4, 4);                                 // 7 to 6 disables nothing
+  EXPECT_EQ(nodo.SollNome[7], "Soll 7");  // the name stays until overwritten
+  Barra(true, 4, 4);                      // 7 to 6 disables nothing
   Premi(insDati.RimuoviSA);
-  Barra(false, 3, 3);                                // at 5 it is disabled
+  Barra(false, 3, 3);  // at 5 it is disabled
   EXPECT_EQ(Nomi(), (Testi{"Soll 1", "Soll 2", "Soll 3", "Soll 4", "Soll 5"}));
   EXPECT_EQ(RigheVisibili(), 5);
   Premi(insDati.RimuoviSA);
@@ -258,15 +260,15 @@ TEST_F(Lista72, DoubleClickRemovesTheGroupOfTheRow) {
   EXPECT_EQ(nodo.SollNome[4], "Soll 5");
   EXPECT_EQ(nodo.SollN[5], 60);
   EXPECT_EQ(nodo.SollN[8], 0);
-  EXPECT_EQ(nodo.SollNome[8], "");                   // the last place is emptied, name too
+  EXPECT_EQ(nodo.SollNome[8], "");  // the last place is emptied, name too
   Barra(true, 5, 5);
   EXPECT_EQ(Nomi(), (Testi{"Soll 3", "Soll 5", "Soll 6", "Soll 7", "Soll 8"}));
   EXPECT_EQ(insDati.Soll.testo, "n° 7 [daN, daNcm]");
-  EXPECT_EQ(insDati.TxtSN[1].testo, "");             // zero right after a removal: empty
+  EXPECT_EQ(insDati.TxtSN[1].testo, "");  // zero right after a removal: empty
   EXPECT_EQ(insDati.TxtSN[2].testo, "60");
   EXPECT_EQ(insDati.TxtTy[2].testo, "");
   Scorri(5);
-  EXPECT_EQ(insDati.TxtSN[1].testo, "0");            // after scrolling: 0
+  EXPECT_EQ(insDati.TxtSN[1].testo, "0");  // after scrolling: 0
 }
 
 TEST_F(Lista72, RemovalClipsTheBarAndAtFiveDisablesIt) {
@@ -302,7 +304,7 @@ TEST_F(Lista72, CopyTakesAllEight) {
   AzzeraGruppo(9);
   EXPECT_EQ(nodo.SollMz[9], 0);
   EXPECT_EQ(nodo.SollCC[9], 0);
-  EXPECT_EQ(nodo.SollNome[9], "tre");                // the name is left
+  EXPECT_EQ(nodo.SollNome[9], "tre");  // the name is left
 }
 
 TEST_F(Lista72, AggiornaRighe) {
@@ -317,7 +319,7 @@ TEST_F(Lista72, AggiornaRighe) {
   nodo.NumSoll = 12;
   AggiornaRighe();
   EXPECT_EQ(RigheVisibili(), 5);
-  Barra(true, 10, 10);                               // rows show 8 .. 12
+  Barra(true, 10, 10);  // rows show 8 .. 12
   nodo.NumSoll = 0;
   AggiornaRighe();
   EXPECT_EQ(RigheVisibili(), 0);
@@ -334,10 +336,10 @@ TEST_F(Lista72, DoublesKeepTheFirstAndTheOrder) {
     Gruppo(n, N[n]);
     nodo.SollNome[n] = "g" + std::to_string(n);
   }
-  nodo.SollCC[5] = 1;                                // differs in the class only
+  nodo.SollCC[5] = 1;  // differs in the class only
   AggiornaRighe();
   Premi(insDati.Doppi);
-  ASSERT_EQ(nodo.NumSoll, 5);                        // 3 equals 1 (0.00009 < 0.0001), 4 equals 2, 7 stays (0.0002)
+  ASSERT_EQ(nodo.NumSoll, 5);  // 3 equals 1 (0.00009 < 0.0001), 4 equals 2, 7 stays (0.0002)
   const char* attesi[] = {"g1", "g2", "g5", "g6", "g7"};
   for (int n = 1; n <= 5; n++) EXPECT_EQ(nodo.SollNome[n], attesi[n - 1]);
   EXPECT_EQ(insDati.Soll.testo, "n° 5 [daN, daNcm]");
@@ -349,7 +351,7 @@ TEST_F(Lista72, EachComponentCountsForADouble) {
     nodo.NumSoll = 2;
     double v[6] = {};
     Gruppo(1, 0);
-    v[k] = 0.0001;                                   // not less than the tolerance
+    v[k] = 0.0001;  // not less than the tolerance
     Gruppo(2, v[0], v[1], v[2], v[3], v[4], v[5]);
     RimuoviDoppi();
     EXPECT_EQ(nodo.NumSoll, 2) << k;
@@ -367,7 +369,7 @@ TEST_F(Lista72, ClassAndUnitOfADouble) {
   Gruppo(2, 5, 0, 0, 0, 0, 0, 2);
   RimuoviDoppi();
   EXPECT_EQ(nodo.NumSoll, 2);
-  suite.FattForze = 0.01;                            // kN: the fields differ by 0.00001
+  suite.FattForze = 0.01;  // kN: the fields differ by 0.00001
   Gruppo(2, 5.001, 0, 0, 0, 0, 0, 1);
   RimuoviDoppi();
   EXPECT_EQ(nodo.NumSoll, 2);
@@ -406,7 +408,7 @@ TEST_F(Lista72, MaxMinKeepsTheExtremesOnce) {
   EXPECT_EQ(nodo.SollN[1], 9);
   EXPECT_EQ(nodo.SollTy[4], -4);
   EXPECT_EQ(RigheVisibili(), 4);
-  EXPECT_EQ(insDati.TxtTy[0].testo, "");             // b's zero: doubles were removed last
+  EXPECT_EQ(insDati.TxtTy[0].testo, "");  // b's zero: doubles were removed last
   EXPECT_EQ(insDati.TxtTy[3].testo, "-4");
   EXPECT_EQ(insDati.Soll.testo, "n° 4 [daN, daNcm]");
 }
@@ -419,7 +421,7 @@ TEST_F(Lista72, MaxMinOfASingleGroupOfAClass) {
   Gruppo(3, 6);
   Premi(insDati.MaxMin);
   ASSERT_EQ(nodo.NumSoll, 3);
-  const double N[] = {6, 4, 7};                      // class I: maximum, minimum; class II behind
+  const double N[] = {6, 4, 7};  // class I: maximum, minimum; class II behind
   for (int n = 1; n <= 3; n++) EXPECT_EQ(nodo.SollN[n], N[n - 1]);
   EXPECT_EQ(nodo.SollCC[3], 1);
 }
@@ -477,12 +479,12 @@ TEST_F(Lista72, MaxMinOfSecondClassOnly) {
 
 TEST_F(Lista72, MaxMinPutsTheSecondClassBehind) {
   nodo.NumSoll = 4;
-  Gruppo(1, 1, 0, 0, 0, 0, 0, 3);                    // any value but 0 is class II
+  Gruppo(1, 1, 0, 0, 0, 0, 0, 3);  // any value but 0 is class II
   Gruppo(2, 5);
   Gruppo(3, 2, 0, 0, 0, 0, 0, 3);
   Gruppo(4, 6);
   Premi(insDati.MaxMin);
-  ASSERT_EQ(nodo.NumSoll, 4);                        // I: max N 6, min N 5; II: max N 2, min N 1, written as 1
+  ASSERT_EQ(nodo.NumSoll, 4);  // I: max N 6, min N 5; II: max N 2, min N 1, written as 1
   const double N[] = {6, 5, 2, 1};
   const int cc[] = {0, 0, 1, 1};
   for (int n = 1; n <= 4; n++) {

@@ -43,16 +43,21 @@ double Ideale(double sigma, double tau) { return std::sqrt(3 * tau * tau + sigma
 // The section of cuts 1, 2 (W = 500) and 3, 4 (W = 400): ribs, then welds.
 //   Yg = (400 W / 2 + 6000 x 95) / (20 W + 6000), I = 8000 W / 12 + 20 W (Yg - 10)^2 + 2 [5625000 + 3000 (Yg - 95)^2],
 //   J = (8000 W + 2 x 8000 x 150) / 3.
-struct Attesa { double M, M2, V, W; bool lungoP; };
+struct Attesa {
+  double M, M2, V, W;
+  bool lungoP;
+};
 
 double AttesaSopra(const Attesa& z) {
   const double Yg = (200 * z.W + 570000) / (20 * z.W + 6000);
-  const double I = 8000 * z.W / 12 + 20 * z.W * std::pow(Yg - 10, 2) + 2 * (5625000 + 3000 * std::pow(Yg - 95, 2)), J = (8000 * z.W + 2400000) / 3;
+  const double I = 8000 * z.W / 12 + 20 * z.W * std::pow(Yg - 10, 2) + 2 * (5625000 + 3000 * std::pow(Yg - 95, 2)),
+               J = (8000 * z.W + 2400000) / 3;
   return Ideale(z.M / I * (170 - Yg), std::fabs(z.V) / 6000 + std::fabs(z.M2) / J * 10);
 }
 double AttesaSotto(const Attesa& z) {
   const double Yg = (200 * z.W + 570000) / (20 * z.W + 6000);
-  const double I = 8000 * z.W / 12 + 20 * z.W * std::pow(Yg - 10, 2) + 2 * (5625000 + 3000 * std::pow(Yg - 95, 2)), J = (8000 * z.W + 2400000) / 3;
+  const double I = 8000 * z.W / 12 + 20 * z.W * std::pow(Yg - 10, 2) + 2 * (5625000 + 3000 * std::pow(Yg - 95, 2)),
+               J = (8000 * z.W + 2400000) / 3;
   return Ideale(z.M / I * Yg, z.M2 / J * 10);
 }
 
@@ -64,14 +69,14 @@ void ConfrontaTaglio(const Attesa& z, int p1, int p2) {
 
 }  // namespace
 
-TEST_F(NervatureTest, PressioneCostante) {             // P = -1e-4 x 3000 = -0.3: resultant P x area, no moments
+TEST_F(NervatureTest, PressioneCostante) {  // P = -1e-4 x 3000 = -0.3: resultant P x area, no moments
   Piano(0, 0, -1e-4);
   Confronta(AzioniSuPiastra(lavoro, 110, 200, -250, 250), -0.3 * 90 * 500, 0, 0);
   Piano(0, 0, 1e-4);
   Confronta(AzioniSuPiastra(lavoro, 110, 200, -250, 250), 0, 0, 0);
   Piano(0, 0, 0);
   Confronta(AzioniSuPiastra(lavoro, 110, 200, -250, 250), 0, 0, 0);
-  Piano(1e-12, -1e-12, -1e-4);                         // coefficients up to 1e-12 count as zero
+  Piano(1e-12, -1e-12, -1e-4);  // coefficients up to 1e-12 count as zero
   Confronta(AzioniSuPiastra(lavoro, 110, 200, -250, 250), -13500, 0, 0);
 }
 
@@ -83,8 +88,8 @@ TEST_F(NervatureTest, TuttaCompressa) {
   EXPECT_NEAR(z.V, -7500, 1e-9);
   EXPECT_NEAR(z.MomentoQ, 20000, 1e-8);
   EXPECT_NEAR(z.MomentoP, -10000 * (1 - 1e-4), 1e-8);
-  EXPECT_NEAR(RisultanteSuPiastra(lavoro, 100, 200, 150, -50), -7500, 1e-9);       // the length along q counts by its absolute value
-  EXPECT_NEAR(RisultanteSuPiastra(lavoro, 200, 100, -50, 150), 7500, 1e-9);        // the strips' width by its sign
+  EXPECT_NEAR(RisultanteSuPiastra(lavoro, 100, 200, 150, -50), -7500, 1e-9);  // the length along q counts by its absolute value
+  EXPECT_NEAR(RisultanteSuPiastra(lavoro, 200, 100, -50, 150), 7500, 1e-9);   // the strips' width by its sign
   EXPECT_EQ(RisultanteSuPiastra(lavoro, 100, 200, -50, 150), z.V);
   EXPECT_EQ(MomentoQSuPiastra(lavoro, 100, 200, -50, 150), z.MomentoQ);
   EXPECT_EQ(MomentoPSuPiastra(lavoro, 100, 200, -50, 150), z.MomentoP);
@@ -100,9 +105,9 @@ TEST_F(NervatureTest, ZeroDentroLungoQ) {
   // Off the middle line: q 0..100, qm = 50, compressed 0..20: -0.06, centroid 20/3 - 50.
   Piano(1e-7, 0, -2e-6);
   Confronta(AzioniSuPiastra(lavoro, -30, 70, 0, 100), -6, -6 * (20.0 / 3 - 50), 0);
-  Piano(1e-7, 0, 2e-5);                                // zero at -200: tension everywhere
+  Piano(1e-7, 0, 2e-5);  // zero at -200: tension everywhere
   Confronta(AzioniSuPiastra(lavoro, -30, 70, -100, 100), 0, 0, 0);
-  Piano(1e-7, 0, -1e-5);                               // zero exactly at the end 100: a trapezium
+  Piano(1e-7, 0, -1e-5);  // zero exactly at the end 100: a trapezium
   Confronta(AzioniSuPiastra(lavoro, -30, 70, -100, 100), -3e-4 * 200 * 200 / 2 * 100, 3e-4 * 200 * 200 * 200 / 12 * 100, 0);
   // Zero exactly at the first end, -64, in numbers without rounding: a = -2^-24, length 128.
   const double a = -0x1p-24;
@@ -110,21 +115,21 @@ TEST_F(NervatureTest, ZeroDentroLungoQ) {
   Confronta(AzioniSuPiastra(lavoro, -30, 70, -64, 64), 3000 * a * 128 * 128 / 2 * 100, 3000 * a * 128 * 128 * 128 / 12 * 100, 0);
 }
 
-TEST_F(NervatureTest, ZeroDentroLungoP) {              // no change along q: closed along p, times |qb - qa|
+TEST_F(NervatureTest, ZeroDentroLungoP) {  // no change along q: closed along p, times |qb - qa|
   Piano(0, 1e-7, -2e-6);
   Confronta(AzioniSuPiastra(lavoro, -100, 100, -30, 70), -216, 0, 12960);
-  Confronta(AzioniSuPiastra(lavoro, -100, 100, 70, -30), -216, 0, 12960);          // the length along q by its absolute value
+  Confronta(AzioniSuPiastra(lavoro, -100, 100, 70, -30), -216, 0, 12960);  // the length along q by its absolute value
   Piano(0, -1e-7, 2e-6);
   Confronta(AzioniSuPiastra(lavoro, -100, 100, -30, 70), -96, 0, -96 * (20 + 160.0 / 3));
-  Piano(1e-12, -1e-7, 2e-6);                           // 1e-12 along q still counts as no change
+  Piano(1e-12, -1e-7, 2e-6);  // 1e-12 along q still counts as no change
   EXPECT_EQ(MomentoQSuPiastra(lavoro, -100, 100, -30, 70), 0);
   Piano(1.1e-12, -1e-7, 2e-6);
   EXPECT_NE(MomentoQSuPiastra(lavoro, -100, 100, -30, 70), 0);
-  Piano(0, 1e-7, -1e-4);                               // all compressed: mean -0.3, Mp = 3e-4 x 200^3 / 12 x 100
+  Piano(0, 1e-7, -1e-4);  // all compressed: mean -0.3, Mp = 3e-4 x 200^3 / 12 x 100
   Confronta(AzioniSuPiastra(lavoro, -100, 100, -30, 70), -6000, 0, 20000);
 }
 
-TEST_F(NervatureTest, TriangoloInAngolo) {             // P = 3e-4 (p + q - 150) on 0..100 squared: only by strips, against a fine sum
+TEST_F(NervatureTest, TriangoloInAngolo) {  // P = 3e-4 (p + q - 150) on 0..100 squared: only by strips, against a fine sum
   Piano(1e-7, 1e-7, -1.5e-5);
   double V = 0, Mq = 0, Mp = 0;
   for (int n = 0; n < 1000; ++n)
@@ -148,7 +153,7 @@ TEST_F(NervatureTest, TagliPressioneCostante) {
   //   V = -19450. Cut 4: arm 90: 1441500 + 90000 - 13500 = 1518000.
   Piano(0, 0, -1e-4);
   CalcolaNervature(lavoro, 1);
-  const Attesa t12 = { 641500, 0, -14350, 500, true }, t3 = { 1679500, 0, -19450, 400, false }, t4 = { 1518000, 0, -19450, 400, false };
+  const Attesa t12 = {641500, 0, -14350, 500, true}, t3 = {1679500, 0, -19450, 400, false}, t4 = {1518000, 0, -19450, 400, false};
   ConfrontaTaglio(t12, 1, 2);
   ConfrontaTaglio(t12, 5, 6);
   ConfrontaTaglio(t3, 3, 4);
@@ -165,8 +170,9 @@ TEST_F(NervatureTest, SaldatureDeiTagli) {
   CalcolaNervature(lavoro, 1);
   // Cuts 1, 2: Yg = (100000 + 3000 x 95) / 13000 = 29.61538; I = 333333.33 + 10000 x 19.61538^2 + 2 [150^3 10/12 + 1500 x 65.38462^2];
   //   Yt = 140.38462; TauPa = 14350 / 4 / 150 / 5 = 4.78333; SPrp = 641500 / I |75 (k - 1) - Yt|.
-  const double Yg = 385000.0 / 13000, I = 8000 * 500.0 / 12 + 10000 * std::pow(Yg - 10, 2) + 2 * (2812500 + 1500 * std::pow(Yg - 95, 2)), Yt = 170 - Yg;
-  for (const int w : { 33, 35, 39, 40 })               // these stand in no other cut
+  const double Yg = 385000.0 / 13000, I = 8000 * 500.0 / 12 + 10000 * std::pow(Yg - 10, 2) + 2 * (2812500 + 1500 * std::pow(Yg - 95, 2)),
+               Yt = 170 - Yg;
+  for (const int w : {33, 35, 39, 40})  // these stand in no other cut
     for (int k = 1; k <= 3; ++k) {
       EXPECT_NEAR(ris.Saldature[w].TauPa[1][k], 14350.0 / 3000, 1e-9);
       EXPECT_NEAR(ris.Saldature[w].SPrp[1][k], 641500 / I * std::fabs(75 * (k - 1) - Yt), 1e-9);
@@ -175,15 +181,16 @@ TEST_F(NervatureTest, SaldatureDeiTagli) {
   // Cuts 3, 4: the ribs count too: areas 3000 + 6000: Yg = (80000 + 9000 x 95) / 17000; I adds 2 [5625000 + 3000 (Yg - 95)^2].
   //   TauPa = 19450 / 3000, the bending across the weld.
   const double Yg3 = 935000.0 / 17000, Yt3 = 170 - Yg3;
-  const double I3 = 8000 * 400.0 / 12 + 8000 * std::pow(Yg3 - 10, 2) + 2 * (2812500 + 1500 * std::pow(Yg3 - 95, 2)) + 2 * (5625000 + 3000 * std::pow(Yg3 - 95, 2));
-  for (const auto& [w, M] : { std::pair{ 36, 1679500.0 }, { 38, 1679500.0 }, { 29, 1518000.0 }, { 31, 1518000.0 } })
+  const double I3 = 8000 * 400.0 / 12 + 8000 * std::pow(Yg3 - 10, 2) + 2 * (2812500 + 1500 * std::pow(Yg3 - 95, 2)) +
+                    2 * (5625000 + 3000 * std::pow(Yg3 - 95, 2));
+  for (const auto& [w, M] : {std::pair{36, 1679500.0}, {38, 1679500.0}, {29, 1518000.0}, {31, 1518000.0}})
     for (int k = 1; k <= 3; ++k) {
       EXPECT_NEAR(ris.Saldature[w].TauPa[1][k], 19450.0 / 3000, 1e-9);
       EXPECT_NEAR(ris.Saldature[w].TauPe[1][k], M / I3 * std::fabs(75 * (k - 1) - Yt3), 1e-9);
       EXPECT_EQ(ris.Saldature[w].SPrp[1][k], 0);
     }
   // 30, 37 (cut 1) and 32 (cut 2) stand in two cuts: the larger shear, and both bendings; 34 in cuts 2 and 3.
-  for (const auto& [w, M] : { std::pair{ 30, 1518000.0 }, { 32, 1518000.0 }, { 34, 1679500.0 }, { 37, 1679500.0 } }) {
+  for (const auto& [w, M] : {std::pair{30, 1518000.0}, {32, 1518000.0}, {34, 1679500.0}, {37, 1679500.0}}) {
     EXPECT_NEAR(ris.Saldature[w].TauPa[1][1], 19450.0 / 3000, 1e-9) << w;
     EXPECT_NEAR(ris.Saldature[w].SPrp[1][1], 641500 / I * Yt, 1e-9) << w;
     EXPECT_NEAR(ris.Saldature[w].TauPe[1][1], M / I3 * Yt3, 1e-9) << w;
@@ -196,7 +203,7 @@ TEST_F(NervatureTest, TorsioneTagli12) {
   // M and V as with the constant pressure: 641500, -14350.
   Piano(1e-7, 0, -1e-4);
   CalcolaNervature(lavoro, 1);
-  const Attesa t = { 641500, 310341.25, -14350, 500, true };
+  const Attesa t = {641500, 310341.25, -14350, 500, true};
   ConfrontaTaglio(t, 1, 2);
   ConfrontaTaglio(t, 5, 6);
   // Welds: J = (4 x 150 x 125 + 8000 x 500) / 3 = 1358333.33; TauPa = 4.78333 + 310341.25 / J x 2.5.
@@ -209,66 +216,69 @@ TEST_F(NervatureTest, TorsioneTagli34) {
   // Cut 3: 248000 - 22500 + 3375 = 228875; cut 4: 248000 + 22500 - 3375 = 267125. The welds take no torsion here.
   Piano(0, 1e-7, -1e-4);
   CalcolaNervature(lavoro, 1);
-  ConfrontaTaglio({ 1679500, 228875, -19450, 400, false }, 3, 4);
-  ConfrontaTaglio({ 1518000, 267125, -19450, 400, false }, 7, 8);
+  ConfrontaTaglio({1679500, 228875, -19450, 400, false}, 3, 4);
+  ConfrontaTaglio({1518000, 267125, -19450, 400, false}, 7, 8);
   EXPECT_NEAR(ris.Saldature[36].TauPa[1][1], 19450.0 / 3000, 1e-9);
   EXPECT_NEAR(ris.Saldature[29].TauPa[1][1], 19450.0 / 3000, 1e-9);
   // Cuts 1, 2 no longer alike. On the cut's strip, p 110..200, the mean is -0.3 + 3e-4 x 155 = -0.2535: V = -11407.5;
   // Mp = 3e-4 x 90^3 / 12 x 500 = 9112.5; M = 9112.5 + 45 x 11407.5 = 522450; T = (1.5e-5 - 1e-4) 5e6 = -425, hole 0.255 x 250 = 63.75:
   // M + 2 x 40 (425 - 63.75) = 551350; V - 850 + 127.5 = -12130.
-  ConfrontaTaglio({ 551350, 0, -12130, 500, true }, 1, 2);
+  ConfrontaTaglio({551350, 0, -12130, 500, true}, 1, 2);
   // Cut 2: mean -0.3465: V = -15592.5, M = 9112.5 + 701662.5 = 710775; T = -575, hole 86.25: + 80 (575 - 86.25) = 749875; V = -16570.
-  ConfrontaTaglio({ 749875, 0, -16570, 500, true }, 5, 6);
+  ConfrontaTaglio({749875, 0, -16570, 500, true}, 5, 6);
   // The plate takes the underside of cut 4, which bends less than cut 3 and twists more: Yg 46.42857, I 36288095, J 1866666.7;
   // sigma 1518000 / I Yg = 1.94220, tau 267125 / J x 10 = 1.43103: 3.14891.
-  EXPECT_NEAR(ris.SMaxPiastra[1], AttesaSotto({ 1518000, 267125, -19450, 400, false }), 1e-9);
+  EXPECT_NEAR(ris.SMaxPiastra[1], AttesaSotto({1518000, 267125, -19450, 400, false}), 1e-9);
   EXPECT_NEAR(ris.SMaxPiastra[1], 3.14891, 1e-5);
 }
 
-TEST_F(NervatureTest, SoloTrazione) {                  // no compression: anchors alone. T = 500, no hole.
+TEST_F(NervatureTest, SoloTrazione) {  // no compression: anchors alone. T = 500, no hole.
   Piano(0, 0, 1e-4);
   CalcolaNervature(lavoro, 1);
-  ConfrontaTaglio({ -500 * 80, 0, 1000, 500, true }, 1, 2);
-  ConfrontaTaglio({ -500 * 560, 0, 1000, 400, false }, 3, 4);
-  ConfrontaTaglio({ -500 * 180, 0, 1000, 400, false }, 7, 8);
+  ConfrontaTaglio({-500 * 80, 0, 1000, 500, true}, 1, 2);
+  ConfrontaTaglio({-500 * 560, 0, 1000, 400, false}, 3, 4);
+  ConfrontaTaglio({-500 * 180, 0, 1000, 400, false}, 7, 8);
 }
 
 TEST_F(NervatureTest, TirafondiAggiunti) {
   // One more anchor in each cut by pattern: V gains 500, M loses 500 x arm; mid-side anchors stand on the axis, so M2 stays 0.
   Piano(0, 0, 1e-4);
-  struct Riga { int schema; bool z, y; };              // extra in cuts 1, 2; in cuts 3, 4
-  for (const Riga& r : { Riga{ 0, false, false }, { 1, true, true }, { 2, true, false }, { 3, false, true } }) {
+  struct Riga {
+    int schema;
+    bool z, y;
+  };  // extra in cuts 1, 2; in cuts 3, 4
+  for (const Riga& r : {Riga{0, false, false}, {1, true, true}, {2, true, false}, {3, false, true}}) {
     SetUp();
     Piano(0, 0, 1e-4);
     SchemaProva(r.schema, 50, 65);
     CalcolaNervature(lavoro, 1);
     const double nz = r.z ? 3 : 2, ny = r.y ? 3 : 2;
-    ConfrontaTaglio({ -500 * 40 * nz, 0, 500 * nz, 500, true }, 1, 2);
-    ConfrontaTaglio({ -500 * 40 * nz, 0, 500 * nz, 500, true }, 5, 6);
-    ConfrontaTaglio({ -500 * 280 * ny, 0, 500 * ny, 400, false }, 3, 4);
-    ConfrontaTaglio({ -500 * 90 * ny, 0, 500 * ny, 400, false }, 7, 8);
+    ConfrontaTaglio({-500 * 40 * nz, 0, 500 * nz, 500, true}, 1, 2);
+    ConfrontaTaglio({-500 * 40 * nz, 0, 500 * nz, 500, true}, 5, 6);
+    ConfrontaTaglio({-500 * 280 * ny, 0, 500 * ny, 400, false}, 3, 4);
+    ConfrontaTaglio({-500 * 90 * ny, 0, 500 * ny, 400, false}, 7, 8);
   }
 }
 
-TEST_F(NervatureTest, QualeTirafondoAggiunto) {        // a sloped plane tells the extra anchors apart, off the axis
+TEST_F(NervatureTest, QualeTirafondoAggiunto) {  // a sloped plane tells the extra anchors apart, off the axis
   // Pattern 1, tension everywhere: value 1e-4 + 1e-7 q + 2e-7 p; T = value x 5e6.
   SchemaProva(1, 50, 65);
-  nodo.TfY[5] = 260;                                   // q = -10
-  nodo.TfY[6] = 230;                                   // q = 20
-  nodo.TfZ[7] = 170;                                   // p = 30
-  nodo.TfZ[8] = 240;                                   // p = -40
+  nodo.TfY[5] = 260;  // q = -10
+  nodo.TfY[6] = 230;  // q = 20
+  nodo.TfZ[7] = 170;  // p = 30
+  nodo.TfZ[8] = 240;  // p = -40
   Piano(1e-7, 2e-7, 1e-4);
   CalcolaNervature(lavoro, 1);
   const auto T = [](double p, double q) { return (1e-4 + 1e-7 * q + 2e-7 * p) * 5e6; };
   // Cut 1: anchors 1 (150, 185), 3 (150, -185), 5 (150, -10): M = -40 sum T, M2 = -sum T q, V = sum T. Cut 2 with p = -150, 6 at 20.
   const double V1 = T(150, 185) + T(150, -185) + T(150, -10), M21 = -(T(150, 185) * 185 - T(150, -185) * 185 - T(150, -10) * 10);
-  ConfrontaTaglio({ -40 * V1, M21, V1, 500, true }, 1, 2);
+  ConfrontaTaglio({-40 * V1, M21, V1, 500, true}, 1, 2);
   const double V2 = T(-150, 185) + T(-150, -185) + T(-150, 20), M22 = T(-150, 185) * 185 - T(-150, -185) * 185 + T(-150, 20) * 20;
-  ConfrontaTaglio({ -40 * V2, M22, V2, 500, true }, 5, 6);
+  ConfrontaTaglio({-40 * V2, M22, V2, 500, true}, 5, 6);
   const double V3 = T(150, -185) + T(-150, -185) + T(30, -185), M23 = -(T(150, -185) * 150 - T(-150, -185) * 150 + T(30, -185) * 30);
-  ConfrontaTaglio({ -280 * V3, M23, V3, 400, false }, 3, 4);
+  ConfrontaTaglio({-280 * V3, M23, V3, 400, false}, 3, 4);
   const double V4 = T(150, 185) + T(-150, 185) + T(-40, 185), M24 = T(150, 185) * 150 - T(-150, 185) * 150 - T(-40, 185) * 40;
-  ConfrontaTaglio({ -90 * V4, M24, V4, 400, false }, 7, 8);
+  ConfrontaTaglio({-90 * V4, M24, V4, 400, false}, 7, 8);
 }
 
 TEST_F(NervatureTest, MaiAbbassa) {
@@ -286,7 +296,7 @@ TEST_F(NervatureTest, MaiAbbassa) {
 }
 
 TEST_F(NervatureTest, DivisoriNulli) {
-  for (double Nodo::* campo : { &Nodo::HNerv, &Nodo::SpNerv, &Nodo::GolaCalc }) {
+  for (double Nodo::*campo : {&Nodo::HNerv, &Nodo::SpNerv, &Nodo::GolaCalc}) {
     SetUp();
     Piano(0, 0, -1e-4);
     AzzeraFault();

@@ -42,7 +42,7 @@ struct Nomi : testing::Test {
 static std::string Valore(std::string_view nome) {
   const std::span<const RigaNome> altri[] = {NomiLavoro()};
   std::string v = "resta";
-  return ValoreModello(nome, v, altri) ? v : "<" + v + ">";       // a refusal leaves the text alone: "<resta>"
+  return ValoreModello(nome, v, altri) ? v : "<" + v + ">";  // a refusal leaves the text alone: "<resta>"
 }
 static const char* const RIFIUTO = "<resta>";
 
@@ -77,7 +77,8 @@ TEST_F(Nomi, NumeriConQuindiciCifre) {
   nodo.GolaCalc = 0.1 + 0.2;
   EXPECT_EQ(Valore("GolaCalc"), "0.3");
   // The C library's printf is the second method (the C locale is the start's).
-  for (const double v : {0.0, -0.0, 1e15, 123456789012345.0, 1234567890123456.0, 9.99999999999999e14, 0.0001, 0.00009999, -2.5e-300, 1.7e308}) {
+  for (const double v :
+       {0.0, -0.0, 1e15, 123456789012345.0, 1234567890123456.0, 9.99999999999999e14, 0.0001, 0.00009999, -2.5e-300, 1.7e308}) {
     char atteso[64];
     std::snprintf(atteso, sizeof atteso, "%.15g", v);
     nodo.GolaCalc = v;
@@ -156,19 +157,19 @@ TEST_F(Nomi, CampiDeiRecord) {
 }
 
 TEST_F(Nomi, Rifiuti) {
-  for (const char* nome : {
-         // outside the array
-         "TfZ(9)", "TfZ(-1)", "SollN(201)", "NodiStr(0)", "NodiStr(2001)", "ProfiliLib(0).Nome", "ProfiliLib(2001).Nome", "DiamVal(100)",
-         "DiamVal(-1)", "ParNodo(28)", "AcciaiBase(51).Nome", "MemoriaMateriali(0).Nome", "MemoriaMateriali(5).Nome",
-         "Saldature(0).Lung", "Saldature(51).Lung", "Saldature(1).PZ(0)", "Saldature(1).PZ(4)", "Saldature(1).TauPa(201,1)",
-         "SigmaTir(201,1)", "SigmaTir(1,9)", "SigmaTir(1,0)", "SPiastraTir(1,3,1)", "SPiastraTir(1,0,1)", "FbRd(0)", "GammaMBase(5)",
-         "TfZ(4294967297)", "TfZ(99999999999999999999)",
-         // number and form of the indices
-         "TfZ", "TfZ()", "TfZ(1", "TfZ 1", "TfZ(1)(2)", "TfZ(1,2)", "TfZ(a)", "TfZ(1.5)", "TfZ(1 2)", "TfZ(,1)", "SigmaTir(1)", "SigmaTir(1,2,3)",
-         "LatoZ(1)", "LatoZ.H", "TfZ(1).H", "TfZ(1) ", "TfZ(1)x",
-         // unknown names, records without a field
-         "", ".", "(", "latoz", "LatoX", "Sezione", "Sezione.", "Sezione.Q", "Sezione(1).H", "Saldature", "Saldature(1)", "Saldature(1).",
-         "Saldature.Lung", "Sezione.H.H", "Sezione.Nome(1)", ".H"})
+  for (const char* nome :
+       {// outside the array
+        "TfZ(9)", "TfZ(-1)", "SollN(201)", "NodiStr(0)", "NodiStr(2001)", "ProfiliLib(0).Nome", "ProfiliLib(2001).Nome", "DiamVal(100)",
+        "DiamVal(-1)", "ParNodo(28)", "AcciaiBase(51).Nome", "MemoriaMateriali(0).Nome", "MemoriaMateriali(5).Nome", "Saldature(0).Lung",
+        "Saldature(51).Lung", "Saldature(1).PZ(0)", "Saldature(1).PZ(4)", "Saldature(1).TauPa(201,1)", "SigmaTir(201,1)", "SigmaTir(1,9)",
+        "SigmaTir(1,0)", "SPiastraTir(1,3,1)", "SPiastraTir(1,0,1)", "FbRd(0)", "GammaMBase(5)", "TfZ(4294967297)",
+        "TfZ(99999999999999999999)",
+        // number and form of the indices
+        "TfZ", "TfZ()", "TfZ(1", "TfZ 1", "TfZ(1)(2)", "TfZ(1,2)", "TfZ(a)", "TfZ(1.5)", "TfZ(1 2)", "TfZ(,1)", "SigmaTir(1)",
+        "SigmaTir(1,2,3)", "LatoZ(1)", "LatoZ.H", "TfZ(1).H", "TfZ(1) ", "TfZ(1)x",
+        // unknown names, records without a field
+        "", ".", "(", "latoz", "LatoX", "Sezione", "Sezione.", "Sezione.Q", "Sezione(1).H", "Saldature", "Saldature(1)", "Saldature(1).",
+        "Saldature.Lung", "Sezione.H.H", "Sezione.Nome(1)", ".H"})
     EXPECT_EQ(Valore(nome), RIFIUTO) << nome;
 }
 
@@ -188,8 +189,7 @@ static void OgniNome(std::span<const RigaNome> righe, const std::string& prefiss
     EXPECT_EQ(uguali, 1) << r.nome;
     for (const bool ultimo : {false, true}) {
       std::string nome = prefisso + r.nome;
-      for (int d = 0; d < r.numDim; ++d)
-        nome += (d == 0 ? "(" : ",") + std::to_string(ultimo ? r.dim[d].ultimo : r.dim[d].primo);
+      for (int d = 0; d < r.numDim; ++d) nome += (d == 0 ? "(" : ",") + std::to_string(ultimo ? r.dim[d].ultimo : r.dim[d].primo);
       if (r.numDim > 0) nome += ")";
       if (r.genere == GenereNome::Record) {
         ASSERT_FALSE(r.campi.empty()) << nome;
@@ -282,7 +282,8 @@ TEST_F(Nomi, AltreStanze) {
   EXPECT_EQ(valore("TesStr(1)"), "Pianta");
   EXPECT_EQ(valore("TesStr(2)"), "") << "room of the table that no text has taken";
   EXPECT_EQ(valore("TesStr(15000)"), "");
-  for (const char* nome : {"TesStr", "TesStr(-1)", "TesStr(15001)", "TesStr(1,1)", "TesStr(1).x", "QuoTesto(1001)"}) EXPECT_EQ(valore(nome), "rifiuto") << nome;
+  for (const char* nome : {"TesStr", "TesStr(-1)", "TesStr(15001)", "TesStr(1,1)", "TesStr(1).x", "QuoTesto(1001)"})
+    EXPECT_EQ(valore(nome), "rifiuto") << nome;
   EXPECT_EQ(valore("QuoTipo(1)"), "V");
   EXPECT_EQ(valore("QuoTipo(0)"), "");
   EXPECT_EQ(valore("QuoTesto(1)"), "Stringa_di_default");

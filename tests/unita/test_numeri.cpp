@@ -47,7 +47,7 @@ TEST(Numeri, FormaPiana) {
   EXPECT_EQ(NumeroPiano(.5), ".5");
   EXPECT_EQ(NumeroPiano(-3.25), "-3.25");
   EXPECT_EQ(NumeroPiano(-.5), "-.5");
-  EXPECT_EQ(NumeroPiano(0.1 + 0.2), ".3");                // 17 digits would show .30000000000000004
+  EXPECT_EQ(NumeroPiano(0.1 + 0.2), ".3");  // 17 digits would show .30000000000000004
   EXPECT_EQ(NumeroPiano(1.0 / 3), ".333333333333333");
   EXPECT_EQ(NumeroPiano(2.0 / 3), ".666666666666667");
   EXPECT_EQ(NumeroPiano(-0.0), "0");
@@ -62,7 +62,7 @@ TEST(Numeri, EsponenteSottoUnDecimillesimoEDaUnMilioneDiMiliardi) {
   EXPECT_EQ(NumeroPiano(-1.5e20), "-1.5E+20");
   EXPECT_EQ(NumeroPiano(1e20), "1E+20");
   EXPECT_EQ(NumeroPiano(1.25e-100), "1.25E-100");
-  EXPECT_EQ(NumeroPiano(999999999999999.6), "1E+15");     // the 15th digit carries
+  EXPECT_EQ(NumeroPiano(999999999999999.6), "1E+15");  // the 15th digit carries
 }
 
 TEST(Numeri, FormaDiFile) {
@@ -87,7 +87,7 @@ TEST(Numeri, QuindiciCifreComeIlSecondoMetodoSuUnMilioneDiValori) {
   for (int i = 0; i < 1000000; ++i) {
     double v = 0;
     switch (i % 6) {
-      case 0: {                                           // any bit pattern
+      case 0: {  // any bit pattern
         const std::uint64_t b = bit(caso);
         std::memcpy(&v, &b, sizeof v);
         if (!std::isfinite(v)) v = 0;
@@ -95,12 +95,12 @@ TEST(Numeri, QuindiciCifreComeIlSecondoMetodoSuUnMilioneDiValori) {
       }
       case 1: v = piccolo(caso); break;
       case 2: v = std::nearbyint(piccolo(caso) * 100) / 100; break;
-      case 3: {                                           // ties at the sixteenth digit, where they exist
+      case 3: {  // ties at the sixteenth digit, where they exist
         v = static_cast<double>(bit(caso) % 9000000000000000u + 1000000000000000u) / static_cast<double>(1u << (bit(caso) % 20));
         while (v >= 1e15) v /= 2;
         break;
       }
-      case 4: {                                           // at most three steps from a power of ten
+      case 4: {  // at most three steps from a power of ten
         v = std::pow(10, static_cast<double>(bit(caso) % 19) - 4);
         const double verso = bit(caso) % 2 == 0 ? 0 : 1e18;
         for (std::uint64_t k = bit(caso) % 4; k > 0; --k) v = std::nextafter(v, verso);
@@ -140,7 +140,7 @@ TEST(Numeri, ValoreSecondoLaLocalita) {
   double v = 0;
   EXPECT_TRUE(ValLocale("1.05", '.', v));
   EXPECT_EQ(v, 1.05);
-  EXPECT_TRUE(ValLocale("1,05", '.', v));                 // the comma is the thousands mark there
+  EXPECT_TRUE(ValLocale("1,05", '.', v));  // the comma is the thousands mark there
   EXPECT_EQ(v, 105);
   EXPECT_TRUE(ValLocale("1,05", ',', v));
   EXPECT_EQ(v, 1.05);
@@ -167,7 +167,7 @@ TEST(Numeri, InteriConParitaAlPariEIntervallo) {
   EXPECT_EQ(n, -32768);
   EXPECT_TRUE(InIntero(32767.4, n));
   EXPECT_EQ(n, 32767);
-  EXPECT_FALSE(InIntero(32767.5, n));                     // ties to even: 32768
+  EXPECT_FALSE(InIntero(32767.5, n));  // ties to even: 32768
   EXPECT_FALSE(InIntero(1e30, n));
   EXPECT_EQ(n, 32767);
   std::int32_t g = 0;
@@ -179,10 +179,10 @@ TEST(Numeri, Arrotondamenti) {
   EXPECT_EQ(ArrotondaPari(2.5, 0), 2);
   EXPECT_EQ(ArrotondaPari(3.5, 0), 4);
   EXPECT_EQ(ArrotondaPari(12.50, 2), 12.5);
-  EXPECT_EQ(ArrotondaPari(0.125, 2), 0.12);               // 12.5 is a tie
+  EXPECT_EQ(ArrotondaPari(0.125, 2), 0.12);  // 12.5 is a tie
   EXPECT_EQ(ArrotondaPari(0.375, 2), 0.38);
-  EXPECT_EQ(ArrotondaPari(27.5, -3), 28);                 // fewer than no decimals counts as none
-  EXPECT_EQ(NumeroPiano(ArrotondaPari(-0.3, 0)), "0");    // negative zero is 0
+  EXPECT_EQ(ArrotondaPari(27.5, -3), 28);               // fewer than no decimals counts as none
+  EXPECT_EQ(NumeroPiano(ArrotondaPari(-0.3, 0)), "0");  // negative zero is 0
   EXPECT_EQ(Arrotonda1(-0.25), -0.2);
   EXPECT_EQ(Arrotonda1(0.25), 0.3);
   EXPECT_EQ(Arrotonda2(1.004), 1.0);

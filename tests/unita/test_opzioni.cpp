@@ -36,7 +36,7 @@ TEST_F(Opzioni, NumeriPerRigaVirgolaEBlank) {
   for (const char* fra : {"\r\n", "\n", ",", " ", "   ", " , ", " \r\n "}) {
     SetUp();
     ASSERT_TRUE(Leggi(Numeri(28, fra))) << fra;
-    for (int i = 0; i < 28; ++i) EXPECT_EQ(suite.ParNodo[i], i == 17 ? 13 : i) << fra << i;   // 17 takes 13
+    for (int i = 0; i < 28; ++i) EXPECT_EQ(suite.ParNodo[i], i == 17 ? 13 : i) << fra << i;  // 17 takes 13
   }
   EXPECT_TRUE(registratore.eventi.empty());
 }
@@ -57,14 +57,14 @@ TEST_F(Opzioni, Diciassette) {
   for (int i = 0; i < 28; ++i) t += i == 13 ? "-20\r\n" : i == 17 ? "5\r\n" : "1\r\n";
   ASSERT_TRUE(Leggi(t));
   EXPECT_EQ(suite.ParNodo[13], -20);
-  EXPECT_EQ(suite.ParNodo[17], -20);         // the signed value, whatever the file says
+  EXPECT_EQ(suite.ParNodo[17], -20);  // the signed value, whatever the file says
 }
 
 TEST_F(Opzioni, FileCortoOMancante) {
   EXPECT_FALSE(LeggiOpzioni());
   EXPECT_FALSE(Leggi(""));
   EXPECT_FALSE(Leggi(Numeri(27, "\r\n") + "\r\n"));
-  EXPECT_EQ(suite.ParNodo[26], 26);          // what could be read stays
+  EXPECT_EQ(suite.ParNodo[26], 26);  // what could be read stays
   EXPECT_TRUE(Leggi(Numeri(28, "\r\n") + "\r\n"));
   EXPECT_TRUE(registratore.eventi.empty());  // the box is the caller's
 }
@@ -80,7 +80,7 @@ TEST_F(Opzioni, TestoSenzaNumeroValeZeroETroppoGrandeFallisce) {
   EXPECT_EQ(suite.ParNodo[1], 0);
   EXPECT_EQ(suite.ParNodo[2], 1);
   EXPECT_FALSE(Leggi("1e400\r\n" + Numeri(27, "\r\n")));
-  EXPECT_EQ(suite.ParNodo[2], 1);            // the others were read all the same
+  EXPECT_EQ(suite.ParNodo[2], 1);  // the others were read all the same
 }
 
 TEST_F(Opzioni, ScrittaAlByte) {
@@ -102,13 +102,13 @@ TEST_F(Opzioni, ScritturaFallitaLasciaIlFileComEra) {
   ScriviByte(file, "intatto");
   suite.DirCustom = cartella + "\\manca";
   EXPECT_FALSE(ScriviOpzioni());
-  EXPECT_FALSE(std::filesystem::exists(cartella + "/manca"));      // no folder is ever made
+  EXPECT_FALSE(std::filesystem::exists(cartella + "/manca"));  // no folder is ever made
   std::filesystem::remove(file);
-  std::filesystem::create_directory(file);                          // a folder stands in the file's place
+  std::filesystem::create_directory(file);  // a folder stands in the file's place
   suite.DirCustom = cartella;
   EXPECT_FALSE(ScriviOpzioni());
   EXPECT_TRUE(std::filesystem::is_directory(file));
   int voci = 0;
   for (const auto& v : std::filesystem::directory_iterator(cartella)) voci += v.exists() ? 1 : 0;
-  EXPECT_EQ(voci, 1);                                               // nothing left aside
+  EXPECT_EQ(voci, 1);  // nothing left aside
 }

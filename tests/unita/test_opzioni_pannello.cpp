@@ -14,7 +14,9 @@
 namespace {
 
 // Field of the panel and entry of the options.
-struct CampoVoce { int campo, voce; };
+struct CampoVoce {
+  int campo, voce;
+};
 // clang-format off
 constexpr CampoVoce CAMPI[] = {{0, 0}, {1, 1}, {2, 2},   {3, 3},   {4, 4},   {5, 5},   {6, 6},   {7, 7},   {8, 8},   {9, 9},
                                {10, 10}, {11, 11}, {12, 12}, {13, 13}, {14, 14}, {15, 19}, {16, 20}, {25, 25}, {26, 26}, {27, 27}};
@@ -42,11 +44,11 @@ TEST_F(OpzioniPannello, OgniCampoLaSuaVoce) {
   EXPECT_EQ(opNodo.CheckQuote.scelta, 1);
   EXPECT_EQ(opNodo.CheckDistinta.scelta, 1);
   EXPECT_EQ(suite.ParNodo[17], 113);
-  Avvia(2, 7, 0);                            // ticked by 1 alone; below by anything but 0
+  Avvia(2, 7, 0);  // ticked by 1 alone; below by anything but 0
   EXPECT_EQ(VoceScelta(opNodo.Option1[0]), 1);
   EXPECT_EQ(opNodo.CheckQuote.scelta, 0);
   EXPECT_EQ(opNodo.CheckDistinta.scelta, 0);
-  Avvia(1, 0, 0);                            // each tick by its own entry, 15 and 18
+  Avvia(1, 0, 0);  // each tick by its own entry, 15 and 18
   EXPECT_EQ(opNodo.CheckQuote.scelta, 1);
   EXPECT_EQ(opNodo.CheckDistinta.scelta, 0);
   Avvia(0, 0, 1);
@@ -59,7 +61,7 @@ TEST_F(OpzioniPannello, OgniCampoScriveLaSuaVoce) {
   for (const CampoVoce& c : CAMPI) UtenteScrive(Op_Nodo, opNodo.Par_Nodo[c.campo], std::to_string(200 + c.campo));
   Premi(Op_Nodo, "Def");
   double atteso[NumParNodo];
-  for (int i = 0; i < NumParNodo; ++i) atteso[i] = 100 + i;          // 21 to 24 are not shown and stay
+  for (int i = 0; i < NumParNodo; ++i) atteso[i] = 100 + i;  // 21 to 24 are not shown and stay
   for (const CampoVoce& c : CAMPI) atteso[c.voce] = 200 + c.campo;
   atteso[15] = 1, atteso[16] = 0, atteso[17] = 213, atteso[18] = 1;
   std::string t;
@@ -79,14 +81,14 @@ TEST_F(OpzioniPannello, OpzMostraIValoriMenoQuattroCampi) {
   EXPECT_EQ(registratore.pannelli, std::vector<std::string>{"Op_Nodo"});
   for (const CampoVoce& c : CAMPI) {
     const bool lasciato = c.campo == 16 || c.campo >= 25;
-    const int mostrato = c.campo == 13 ? 317 : 300 + c.voce;         // the unsigned distance
+    const int mostrato = c.campo == 13 ? 317 : 300 + c.voce;  // the unsigned distance
     EXPECT_EQ(opNodo.Par_Nodo[c.campo].testo, lasciato ? "x" : std::to_string(mostrato)) << c.campo;
   }
   EXPECT_EQ(VoceScelta(opNodo.Option1[0]), 1);
   EXPECT_EQ(opNodo.CheckQuote.scelta, 0);
   EXPECT_EQ(opNodo.CheckDistinta.scelta, 0);
   suite.ParNodo[13] = suite.ParNodo[17] = 12;
-  MostraTesto(opNodo.Par_Nodo[13], "x");     // typed and left
+  MostraTesto(opNodo.Par_Nodo[13], "x");  // typed and left
   Premi(InsDati, "Opz");
   EXPECT_EQ(opNodo.Par_Nodo[13].testo, "12");
 }
@@ -96,7 +98,7 @@ TEST_F(OpzioniPannello, SceltaESpunteTolte) {
   Avvia(1, 1, 1);
   ApplicaOpzioni();
   EXPECT_EQ(suite.ParNodo[16], 1);
-  EXPECT_EQ(suite.ParNodo[13], -220);        // -113 - 107
+  EXPECT_EQ(suite.ParNodo[13], -220);  // -113 - 107
   EXPECT_EQ(suite.ParNodo[15], 1);
   EXPECT_EQ(suite.ParNodo[18], 1);
   UtenteSceglie(Op_Nodo, opNodo.Option1[0], 1);
@@ -134,14 +136,14 @@ TEST_F(OpzioniPannello, RiavvioConQuoteInferiori) {
   Avvia(1, 0, 1);
   UtenteSceglie(Op_Nodo, opNodo.Option1[1], 1);
   Premi(Op_Nodo, "Def");
-  EXPECT_EQ(suite.ParNodo[13], -220);        // -113 - 107
+  EXPECT_EQ(suite.ParNodo[13], -220);  // -113 - 107
   EXPECT_EQ(suite.ParNodo[17], 113);
   const std::string radice = suite.DirRoot;  // the start clears the record
   ASSERT_TRUE(AvviaSuite(radice));
   EXPECT_EQ(opNodo.Par_Nodo[13].testo, "-220");
   EXPECT_EQ(suite.ParNodo[17], -220);
   ApplicaOpzioni();
-  EXPECT_EQ(suite.ParNodo[13], 113);         // 220 - 107
+  EXPECT_EQ(suite.ParNodo[13], 113);  // 220 - 107
   EXPECT_EQ(suite.ParNodo[17], -220);
 }
 
@@ -156,8 +158,9 @@ TEST_F(OpzioniPannello, DistanzaSmisurata) {
     registratore.eventi.clear();
     Premi(Op_Nodo, comando);
     EXPECT_EQ(registratore.eventi,
-              (std::vector<std::string>{"[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: il comando non può continuare."})) << comando;
-    EXPECT_EQ(suite.ParNodo[13], 1.7e308);   // as entered
+              (std::vector<std::string>{"[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: il comando non può continuare."}))
+      << comando;
+    EXPECT_EQ(suite.ParNodo[13], 1.7e308);  // as entered
     EXPECT_FALSE(EsisteFile(suite.DirProgra + "\\nodo.dis"));
   }
   EXPECT_EQ(File(), prima);

@@ -14,8 +14,8 @@
 #include "app/batch/opzioni.h"
 #include "app/batch/piattaforma_batch.h"
 #include "app/batch/sistema.h"
-#include "corredo/registratore.h"
 #include "core/comando.h"
+#include "corredo/registratore.h"
 #include "corredo/suite_prova.h"
 #include "model/stato.h"
 
@@ -61,7 +61,7 @@ TEST(OpzioniOspite, Tutte) {
   EXPECT_FALSE(o.rispondiOk);
   EXPECT_EQ(o.processi, 7);
   EXPECT_TRUE(o.senzaProgrammi);
-  EXPECT_EQ(o.rigaComando, "");            // an empty command line goes to the start, which refuses it
+  EXPECT_EQ(o.rigaComando, "");  // an empty command line goes to the start, which refuses it
   EXPECT_EQ(o.argomenti, std::vector<std::string>{"-"});
   Opzioni ta;
   ASSERT_TRUE(Leggi({"--metodo=ta", "--decimale=.", "--rispondi=ok", "x", "verifica", "a"}, ta));
@@ -71,14 +71,15 @@ TEST(OpzioniOspite, Tutte) {
 }
 
 TEST(OpzioniOspite, UsoErrato) {
-  for (const char* opzione : {"--metodo=sl", "--metodo=", "--metodo", "--decimale=;", "--decimale=", "--rispondi=si", "--processi=0",
-                              "--processi=-1", "--processi=2x", "--processi=99999999999", "--processi=", "--senza-programmi=1", "--altro", "--"}) {
+  for (const char* opzione :
+       {"--metodo=sl", "--metodo=", "--metodo", "--decimale=;", "--decimale=", "--rispondi=si", "--processi=0", "--processi=-1",
+        "--processi=2x", "--processi=99999999999", "--processi=", "--senza-programmi=1", "--altro", "--"}) {
     Opzioni o;
     EXPECT_FALSE(Leggi({opzione, "|diroot=/suite|", "verifica", "a.qb7"}, o)) << opzione;
   }
   Opzioni o;
   EXPECT_FALSE(Leggi({}, o));
-  EXPECT_TRUE(Leggi({"|diroot=/suite|", "verifica"}, o));            // how many arguments, the verb's own row tells
+  EXPECT_TRUE(Leggi({"|diroot=/suite|", "verifica"}, o));  // how many arguments, the verb's own row tells
   EXPECT_TRUE(o.argomenti.empty());
   EXPECT_FALSE(Leggi({"|diroot=/suite|", "altro", "a.qb7"}, o));
 }
@@ -126,7 +127,7 @@ static std::string Programma(const std::string& percorso, const std::string& fin
 }
 
 TEST(Processi, IlRestoEUnArgomentoSolo) {
-  const std::string cartella = CartellaProva("processi uno");        // a blank in the path
+  const std::string cartella = CartellaProva("processi uno");  // a blank in the path
   Programma(cartella + "/Progra/attrezzo");
   ASSERT_TRUE(EseguiProgramma(cartella + "\\progra\\ATTREZZO.exe", "|uno=1|  $(due) 'tre' ; exit"));
   EXPECT_EQ(LeggiByte(cartella + "/Progra/attrezzo.scritto"), "[|uno=1|  $(due) 'tre' ; exit]");
@@ -138,7 +139,7 @@ TEST(Processi, ConESenzaExe) {
   Programma(cartella + "/due.EXE");
   EXPECT_EQ(TrovaProgramma(cartella + "\\UNO.exe"), cartella + "/uno");
   EXPECT_EQ(TrovaProgramma(cartella + "\\due"), cartella + "/due.EXE");
-  EXPECT_TRUE(EseguiProgramma(cartella + "\\uno.exe", ""));          // no argument at all
+  EXPECT_TRUE(EseguiProgramma(cartella + "\\uno.exe", ""));  // no argument at all
   EXPECT_EQ(LeggiByte(cartella + "/uno.scritto"), "");
 }
 
@@ -153,7 +154,7 @@ TEST(Processi, NessunoPiantatoSullaStrada) {
   ASSERT_GT(processo, 0);
   EXPECT_EQ(waitpid(processo, nullptr, 0), processo);
   EXPECT_FALSE(EseguiProgramma(cartella + "\\radice con blank\\progra\\manca.exe", "x"));
-  EXPECT_EQ(TrovaProgramma(cartella + "\\radice" + std::string("\0.exe", 5)), "");     // the system would cut it at the NUL
+  EXPECT_EQ(TrovaProgramma(cartella + "\\radice" + std::string("\0.exe", 5)), "");  // the system would cut it at the NUL
   for (const std::string& f : falsi) EXPECT_EQ(LeggiByte(f + ".scritto"), "") << f;
 }
 
@@ -168,10 +169,10 @@ TEST(Processi, ISegnaliSonoQuelliNormali) {
 
 TEST(Processi, NonAvviabili) {
   const std::string cartella = CartellaProva("processi_tre");
-  ScriviByte(cartella + "/dati.exe", "#!/bin/sh\n");                 // not executable
+  ScriviByte(cartella + "/dati.exe", "#!/bin/sh\n");  // not executable
   ScriviByte(cartella + "/cartella.exe/x", "");
   ScriviByte(cartella + "/binario.exe", std::string("\x01\x02\x00\x03", 4));
-  chmod((cartella + "/binario.exe").c_str(), 0755);                  // executable bit, no program: no shell is asked to try
+  chmod((cartella + "/binario.exe").c_str(), 0755);  // executable bit, no program: no shell is asked to try
   for (const char* nome : {"\\manca.exe", "\\dati.exe", "\\cartella.exe", "\\binario.exe", ""}) {
     EXPECT_FALSE(EseguiProgramma(cartella + nome, "x")) << nome;
     EXPECT_EQ(AvviaProgramma(cartella + nome, "x"), 0) << nome;
@@ -195,7 +196,7 @@ TEST(Processi, NessunoResta) {
   for (int k = 0; k < 500 && ProgrammaVivo(processo); ++k) std::this_thread::sleep_for(std::chrono::milliseconds(10));
   EXPECT_FALSE(ProgrammaVivo(processo));
   errno = 0;
-  EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);                      // no child left, not even one that ended
+  EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);  // no child left, not even one that ended
   EXPECT_EQ(errno, ECHILD);
 }
 
@@ -203,7 +204,8 @@ TEST(Processi, NessunoResta) {
 
 // The extension is what stands behind the last point of the last component; case does not matter.
 TEST(DisegnoOspite, FormatiAmmessi) {
-  for (const char* uscita : {"a.dis", "a.DXF", "/x/y.Grb", "a.b.svg", "cartella.altro/a.dis", "c:\\x.y\\a.dxf"}) EXPECT_TRUE(FormatoAmmesso(uscita)) << uscita;
+  for (const char* uscita : {"a.dis", "a.DXF", "/x/y.Grb", "a.b.svg", "cartella.altro/a.dis", "c:\\x.y\\a.dxf"})
+    EXPECT_TRUE(FormatoAmmesso(uscita)) << uscita;
   for (const char* uscita : {"", "a", "dis", "a.", "a.dwg", "a.disx", "a.svgz", "a.dis.txt", "a.di", "cartella.dis/a", "c:\\x.dxf\\a"})
     EXPECT_FALSE(FormatoAmmesso(uscita)) << uscita;
 }
@@ -280,7 +282,7 @@ TEST_F(Ospite, FinestraDelProgrammaAvviato) {
   ScriviByte(comando + ".via", "");
   for (int k = 0; k < 500 && piattaforma.attivaFinestra("VISORE"); ++k) std::this_thread::sleep_for(std::chrono::milliseconds(10));
   EXPECT_FALSE(piattaforma.attivaFinestra("VISORE"));
-  EXPECT_EQ(waitpid(processo, nullptr, WNOHANG), -1);                // reaped
+  EXPECT_EQ(waitpid(processo, nullptr, WNOHANG), -1);  // reaped
 }
 
 TEST_F(Ospite, TemporizzatoriInOrdine) {
@@ -294,7 +296,7 @@ TEST_F(Ospite, TemporizzatoriInOrdine) {
   AvanzaTempo(1);
   EXPECT_EQ(Uscita(), "selezione\n");
   AvanzaTempo(10000);
-  EXPECT_EQ(Uscita(), "stato\nancora\n");       // both due at 800, each once
+  EXPECT_EQ(Uscita(), "stato\nancora\n");  // both due at 800, each once
   AvanzaTempo(10000);
   EXPECT_EQ(Uscita(), "");
   piattaforma.timer(Temporizzatore::Stato, 800, [] { Stampa("fermato"); });
@@ -318,7 +320,7 @@ TEST_F(Ospite, FileSenzaCodaEAnnulla) {
 }
 
 TEST_F(Ospite, StatoDUscita) {
-  EXPECT_EQ(StatoUscita(), 2);            // the start has not ended well
+  EXPECT_EQ(StatoUscita(), 2);  // the start has not ended well
   ospite.avviato = true;
   EXPECT_EQ(StatoUscita(), 0);
   ospite.nonVerificato = true;

@@ -13,7 +13,8 @@
 #include "panels/pannelli.h"
 
 TEST_F(Pannelli_, OgniPannelloHaIlSuoNome) {
-  for (const char* nome : {"InsDati", "Op_Nodo", "PropMateriali", "FormTF", "Soll3D", "selezione", "Sez3D"}) EXPECT_NE(TrovaPannello(nome), nullptr) << nome;
+  for (const char* nome : {"InsDati", "Op_Nodo", "PropMateriali", "FormTF", "Soll3D", "selezione", "Sez3D"})
+    EXPECT_NE(TrovaPannello(nome), nullptr) << nome;
 }
 
 // No control stands in two rows, no name and index twice, and a frame is a frame of the panel, or a page of one of its rows of tabs.
@@ -81,12 +82,14 @@ TEST_F(Pannelli_, SceltaTirafondiAllaPrimaApertura) {
   EXPECT_EQ(registratore.pannelli.back(), "FormTF");
   EXPECT_EQ(formTF.Combo1.voci.size(), 22u);
   EXPECT_EQ(formTF.Combo1.voci[6], "M20");
-  EXPECT_EQ(formTF.Combo1.scelta, 6);                     // row 7, from 1
+  EXPECT_EQ(formTF.Combo1.scelta, 6);  // row 7, from 1
   EXPECT_EQ(formTF.Combo2.scelta, 6);
   EXPECT_EQ(C(FormTF, "Label6", 8).testo, "(diam.=20 ; Area=245)");
   EXPECT_EQ(C(FormTF, "Label6", 3).testo, "(diam.=20 ; Area=245)");
-  const struct { int campo; const char* testo; } ATTESI[] = {
-      {11, "120"}, {12, "500"}, {13, "70"}, {14, "450"}, {15, "10"}, {17, "50"}, {19, "100"}, {20, "200"}};
+  const struct {
+    int campo;
+    const char* testo;
+  } ATTESI[] = {{11, "120"}, {12, "500"}, {13, "70"}, {14, "450"}, {15, "10"}, {17, "50"}, {19, "100"}, {20, "200"}};
   for (const auto& a : ATTESI) EXPECT_EQ(C(FormTF, "GeoTfTxt", a.campo).testo, a.testo) << a.campo;
   EXPECT_EQ(C(FormTF, "Label6", 5).testo, "x 70");
   EXPECT_EQ(formTF.SSTab1.scelta, 0);
@@ -95,7 +98,7 @@ TEST_F(Pannelli_, SceltaTirafondiAllaPrimaApertura) {
   ASSERT_EQ(formTF.tela.tratti.size(), 2u);
   EXPECT_EQ(formTF.tela.tratti[0].raggio, 360);
   EXPECT_EQ(formTF.tela.tratti[1].raggio, 504);
-  for (const Tratto& t : formTF.tela.tratti) {            // half circles, from pi to 2 pi
+  for (const Tratto& t : formTF.tela.tratti) {  // half circles, from pi to 2 pi
     EXPECT_EQ(t.forma, Tratto::Forma::Arco);
     EXPECT_EQ(t.xc, 2388);
     EXPECT_EQ(t.yc, 4296);
@@ -109,11 +112,11 @@ TEST_F(Pannelli_, OkPortaLeMisureDelTipoUno) {
   registratore.dentro.push_back([] {
     Scrivi(FormTF, "GeoTfTxt", 13, "80");
     EXPECT_EQ(formTF.Label6[5].testo, "x 80");
-    Scrivi(FormTF, "GeoTfTxt", 12, "");                   // an empty field gives 0
-    Scrivi(FormTF, "GeoTfTxt", 1, "999");                 // the other tab's field
-    UtenteSceglie(FormTF, formTF.Combo1, 8);              // M24
+    Scrivi(FormTF, "GeoTfTxt", 12, "");       // an empty field gives 0
+    Scrivi(FormTF, "GeoTfTxt", 1, "999");     // the other tab's field
+    UtenteSceglie(FormTF, formTF.Combo1, 8);  // M24
     EXPECT_EQ(nodo.TfDiamIdx, 9);
-    EXPECT_EQ(nodo.TfFi, 20);                             // only OK takes the diameter
+    EXPECT_EQ(nodo.TfFi, 20);  // only OK takes the diameter
     EXPECT_EQ(formTF.Combo2.scelta, 6);
     Premi(FormTF, "MatBulOK");
   });
@@ -130,9 +133,9 @@ TEST_F(Pannelli_, TipoDueLeggeDueVolteIlCampoNove) {
   registratore.dentro.push_back([] {
     UtenteSceglie(FormTF, formTF.SSTab1, 1);
     EXPECT_EQ(nodo.TipoTirafondo, 1);
-    EXPECT_EQ(C(FormTF, "GeoTfTxt", 9).testo, "100");     // the panel's own text until it is loaded for this form
+    EXPECT_EQ(C(FormTF, "GeoTfTxt", 9).testo, "100");  // the panel's own text until it is loaded for this form
     Scrivi(FormTF, "GeoTfTxt", 9, "35");
-    Scrivi(FormTF, "GeoTfTxt", 15, "77");                 // no field of this form
+    Scrivi(FormTF, "GeoTfTxt", 15, "77");  // no field of this form
     Premi(FormTF, "MatBulOK");
   });
   Premi(InsDati, "DimTf");
@@ -144,7 +147,7 @@ TEST_F(Pannelli_, TipoDueLeggeDueVolteIlCampoNove) {
 
 TEST_F(Pannelli_, DiametroEIndicePossonoDivergere) {
   registratore.dentro.push_back([] {
-    UtenteSceglie(FormTF, formTF.Combo2, 0);              // the other form's list moves the row
+    UtenteSceglie(FormTF, formTF.Combo2, 0);  // the other form's list moves the row
     Premi(FormTF, "MatBulOK");
   });
   Premi(InsDati, "DimTf");
@@ -165,7 +168,7 @@ TEST_F(Pannelli_, ChiusoSenzaOkLasciaIlModello) {
 
 TEST_F(Pannelli_, OpzioniRiempiteAllAvvio) {
   for (int i = 0; i <= 14; ++i) EXPECT_FALSE(C(Op_Nodo, "Par_Nodo", i).testo.empty()) << i;
-  EXPECT_EQ(suite.ParNodo[17], suite.ParNodo[13]);        // set from entry 13 at each reading
+  EXPECT_EQ(suite.ParNodo[17], suite.ParNodo[13]);  // set from entry 13 at each reading
   EXPECT_EQ(TrovaControllo(Op_Nodo, "Par_Nodo", 17), nullptr);
   // clang-format off
   const TestoAtteso attesi[] = {
@@ -191,7 +194,7 @@ TEST_F(Pannelli_, QuoteInferioriCapovolgonoLaDistanza) {
   UtenteSceglie(Op_Nodo, opNodo.CheckQuote, 0);
   UtenteSceglie(Op_Nodo, opNodo.CheckDistinta, 1);
   ApplicaOpzioni();
-  EXPECT_EQ(suite.ParNodo[13], -25);                      // -(5) - (20): with the new height
+  EXPECT_EQ(suite.ParNodo[13], -25);  // -(5) - (20): with the new height
   EXPECT_EQ(suite.ParNodo[16], 1);
   EXPECT_EQ(suite.ParNodo[17], 5);
   EXPECT_EQ(suite.ParNodo[19], 3);
@@ -199,7 +202,7 @@ TEST_F(Pannelli_, QuoteInferioriCapovolgonoLaDistanza) {
   EXPECT_EQ(suite.ParNodo[26], 2);
   EXPECT_EQ(suite.ParNodo[15], 0);
   EXPECT_EQ(suite.ParNodo[18], 1);
-  Scrivi(Op_Nodo, "Par_Nodo", 16, "4");                   // stays on the panel: Opz does not set it
+  Scrivi(Op_Nodo, "Par_Nodo", 16, "4");  // stays on the panel: Opz does not set it
   Premi(InsDati, "Opz");
   EXPECT_EQ(C(Op_Nodo, "Par_Nodo", 13).testo, "5");
   EXPECT_EQ(C(Op_Nodo, "Par_Nodo", 16).testo, "4");
@@ -238,16 +241,19 @@ TEST_F(Pannelli_, DoppioClicChiamaLaCalcolatrice) {
     return true;
   };
   EXPECT_TRUE(Scatena(InsDati, insDati.TxtSN[0], Evento::Doppio));
-  EXPECT_EQ(UltimoEvento(), "[programma] " + suite.DirProgra + "\\tq_fermix.exe |primcipale=0|uniprinctesto=kN|categoriadiingresso=4|valoreingresso=12.5|fileout=" +
-                                suite.DirLavoro + "\\TQ_fermix.tmp|");
+  EXPECT_EQ(UltimoEvento(), "[programma] " + suite.DirProgra +
+                              "\\tq_fermix.exe |primcipale=0|uniprinctesto=kN|categoriadiingresso=4|valoreingresso=12.5|fileout=" +
+                              suite.DirLavoro + "\\TQ_fermix.tmp|");
   EXPECT_EQ(insDati.TxtSN[0].testo, "7.25");
   EXPECT_EQ(nodo.SollN[1], 725);
   suite.UnitaMomenti = "kNm";
   for (Controllo* c : {&insDati.TxtTy[0], &insDati.TxtTz[0], &insDati.TxtMt[0], &insDati.TxtMy[0], &insDati.TxtMz[0]}) {
     const bool forza = c == &insDati.TxtTy[0] || c == &insDati.TxtTz[0];
     EXPECT_TRUE(Scatena(InsDati, *c, Evento::Doppio));
-    EXPECT_NE(UltimoEvento().find(forza ? "|uniprinctesto=kN|categoriadiingresso=4|valoreingresso=0|" : "|uniprinctesto=kNm|categoriadiingresso=5|valoreingresso=0|"),
-              std::string::npos) << c->riga->nome;
+    EXPECT_NE(UltimoEvento().find(forza ? "|uniprinctesto=kN|categoriadiingresso=4|valoreingresso=0|"
+                                        : "|uniprinctesto=kNm|categoriadiingresso=5|valoreingresso=0|"),
+              std::string::npos)
+      << c->riga->nome;
     EXPECT_EQ(c->testo, "7.25");
   }
   EXPECT_EQ(nodo.SollTy[1], 725);
@@ -272,7 +278,7 @@ TEST_F(Pannelli_, CalcolatriceCheNonParteONonRisponde) {
   Scatena(InsDati, insDati.TxtSN[0], Evento::Doppio);
   EXPECT_EQ(UltimoEvento(), "[messaggio] critica | NODO COLONNA - PLINTO | Errore aritmetico: il comando non può continuare.");
   EXPECT_EQ(insDati.TxtSN[0].testo, "3");
-  Scrivi(InsDati, "TxtSN", 0, "1e400");                   // no number to convert: nothing runs
+  Scrivi(InsDati, "TxtSN", 0, "1e400");  // no number to convert: nothing runs
   registratore.eventi.clear();
   Scatena(InsDati, insDati.TxtSN[0], Evento::Doppio);
   EXPECT_TRUE(registratore.eventi.empty());
@@ -280,16 +286,18 @@ TEST_F(Pannelli_, CalcolatriceCheNonParteONonRisponde) {
 
 TEST_F(Pannelli_, EsportaSuFile) {
   Premi(InsDati, "Singolo");
-  Premi(InsDati, "EsportaSollButt");                      // no queued file: Annulla
-  EXPECT_EQ(UltimoEvento(), "[file] salva |  | File di testo (*.txt)|*.txt|Tutti i file (*.*)|*.* | " + suite.DirLavoro + "\\Soll_Qb07.txt -> Annulla");
+  Premi(InsDati, "EsportaSollButt");  // no queued file: Annulla
+  EXPECT_EQ(UltimoEvento(),
+            "[file] salva |  | File di testo (*.txt)|*.txt|Tutti i file (*.*)|*.* | " + suite.DirLavoro + "\\Soll_Qb07.txt -> Annulla");
   EXPECT_EQ(insDati.CartellaDialogo, suite.DirLavoro);
   registratore.file.emplace_back(suite.DirLavoro + "\\elenco", 1);
   Premi(InsDati, "EsportaSollButt");
-  EXPECT_EQ(insDati.CartellaDialogo, "");                 // the next dialog opens where this one ended
+  EXPECT_EQ(insDati.CartellaDialogo, "");  // the next dialog opens where this one ended
   EXPECT_NE(LeggiByte(RisolviPercorso(suite.DirLavoro + "\\elenco.txt")).find("1\tSoll 1\t0\t0\t0\t0\t0\t0\t\r\n"), std::string::npos);
   registratore.file.emplace_back(suite.DirLavoro + "\\manca\\x.txt", 1);
   Premi(InsDati, "EsportaSollButt");
-  EXPECT_EQ(UltimoEvento(), "[messaggio] critica | NODO COLONNA - PLINTO | Impossibile esportare le sollecitazioni in " + suite.DirLavoro + "\\manca\\x.txt");
+  EXPECT_EQ(UltimoEvento(), "[messaggio] critica | NODO COLONNA - PLINTO | Impossibile esportare le sollecitazioni in " + suite.DirLavoro +
+                              "\\manca\\x.txt");
 }
 
 TEST_F(Pannelli_, EsportaSuUnDiscoPieno) {
@@ -309,7 +317,8 @@ TEST_F(Pannelli_, EsportaSuUnDispositivo) {
   Premi(InsDati, "Singolo");
   registratore.file.emplace_back(suite.DirLavoro + "\\nulla.txt", 1);
   Premi(InsDati, "EsportaSollButt");
-  EXPECT_EQ(UltimoEvento(), "[messaggio] critica | NODO COLONNA - PLINTO | Impossibile esportare le sollecitazioni in " + suite.DirLavoro + "\\nulla.txt");
+  EXPECT_EQ(UltimoEvento(),
+            "[messaggio] critica | NODO COLONNA - PLINTO | Impossibile esportare le sollecitazioni in " + suite.DirLavoro + "\\nulla.txt");
   EXPECT_TRUE(std::filesystem::is_character_file(lavoro + "nulla.txt"));
 }
 
@@ -322,7 +331,7 @@ TEST_F(Pannelli_, EsportaUnCaricoCheTrabocca) {
   registratore.file.emplace_back(suite.DirLavoro + "\\carichi.txt", 1);
   registratore.eventi.clear();
   Premi(InsDati, "EsportaSollButt");
-  ASSERT_EQ(registratore.eventi.size(), 2u);                // the dialog's line and the box
+  ASSERT_EQ(registratore.eventi.size(), 2u);  // the dialog's line and the box
   EXPECT_EQ(UltimoEvento(), std::string("[messaggio] critica | NODO COLONNA - PLINTO | ") + TESTO_FAULT);
   EXPECT_EQ(LeggiByte(lavoro + "carichi.txt"), "di prima");
 }
@@ -334,7 +343,8 @@ TEST_F(Pannelli_, PrimoClicAvviaIlVisualizzatoreEScriveIlDisegno) {
   Premi(InsDati, "ApriVis");
   ASSERT_EQ(registratore.eventi.size(), 1u);
   EXPECT_EQ(UltimoEvento(), "[avvia] " + suite.DirProgra + "\\lumvet.exe");
-  EXPECT_EQ(LeggiByte(RisolviPercorso(suite.DirProgra + "\\lumvet.inp")), " 2 \r\n" + suite.DirProgra + "\\nodo.dis\r\n 0 \r\n 0 \r\n 8000 \r\n 8000 \r\n");
+  EXPECT_EQ(LeggiByte(RisolviPercorso(suite.DirProgra + "\\lumvet.inp")),
+            " 2 \r\n" + suite.DirProgra + "\\nodo.dis\r\n 0 \r\n 0 \r\n 8000 \r\n 8000 \r\n");
   EXPECT_TRUE(EsisteFile(suite.DirLavoro + "\\qb7tmp.grb"));
   EXPECT_FALSE(EsisteFile(suite.DirProgra + "\\nodo.dis"));
   EXPECT_FALSE(registratore.attesa);
@@ -388,5 +398,5 @@ TEST_F(Pannelli_, ApplicaEChiudiDelleOpzioni) {
   EXPECT_FALSE(opNodo.aperto);
   EXPECT_EQ(suite.ParNodo[0], 5);
   EXPECT_EQ(LeggiByte(RisolviPercorso(suite.DirProgra + "\\nodo.dis")).substr(0, 20), "                   4");
-  EXPECT_EQ(UltimoEvento(), "[avvia] " + suite.DirProgra + "\\lumvet.exe");   // written without a box
+  EXPECT_EQ(UltimoEvento(), "[avvia] " + suite.DirProgra + "\\lumvet.exe");  // written without a box
 }

@@ -85,10 +85,10 @@ TEST_F(Pannelli_, TroppiCasiETroppeCondizioni) {
   EXPECT_EQ(UltimoEvento(), "[messaggio] esclamazione | ERRORE | Errore: numero di combinazioni eccessivo");
   ScriviByte(RisolviPercorso(suite.DirLavoro + "\\struttur.str"), "release\r\n0\r\n0\r\n0\r\n0\r\n");
   Premi(Soll3D, "TuttiCdc2");
-  EXPECT_EQ(soll3D.CdC2Txt.testo, "");                    // no condition: the empty text
+  EXPECT_EQ(soll3D.CdC2Txt.testo, "");  // no condition: the empty text
   ScriviByte(RisolviPercorso(suite.DirLavoro + "\\struttur.str"), "release\r\n0\r\n0\r\n0\r\n2000000000\r\n");
   Premi(Soll3D, "TuttiCdc2");
-  EXPECT_TRUE(soll3D.CdC2Txt.testo.ends_with(",32766,32767"));   // as many as a list can name
+  EXPECT_TRUE(soll3D.CdC2Txt.testo.ends_with(",32766,32767"));  // as many as a list can name
 }
 
 TEST_F(Pannelli_, TuttiICasiDelMetodo) {
@@ -143,7 +143,7 @@ TEST_F(Pannelli_, InviluppoSenzaFileLasciaDueRigheDopoIDoppi) {
   UtenteSceglie(InsDati, insDati.CheckMaxMin, 1);
   Scrivi(Soll3D, "NodiTxt", SENZA_INDICE, "10");
   Scrivi(Soll3D, "AsteTxt", SENZA_INDICE, "5");
-  Premi(Soll3D, "Importa");                               // case 0: astec000.bin is not there
+  Premi(Soll3D, "Importa");  // case 0: astec000.bin is not there
   EXPECT_EQ(nodo.NumSoll, 2);
   EXPECT_EQ(nodo.SollN[1], -1e20);
   EXPECT_EQ(nodo.SollN[2], 1e20);
@@ -153,7 +153,7 @@ TEST_F(Pannelli_, InviluppoSenzaFileLasciaDueRigheDopoIDoppi) {
 TEST_F(Pannelli_, ImportaSiFermaAlPrimoElencoErrato) {
   Modello();
   Scrivi(Soll3D, "NodiTxt", SENZA_INDICE, "10");
-  Premi(Soll3D, "Importa");                               // AsteTxt is empty
+  Premi(Soll3D, "Importa");  // AsteTxt is empty
   ASSERT_EQ(registratore.eventi.size(), 1u);
   EXPECT_EQ(UltimoEvento(), "[messaggio] esclamazione | ERRORE | Inserimento dati errato");
   Scrivi(Soll3D, "NodiTxt", SENZA_INDICE, "10,20,30");
@@ -165,8 +165,8 @@ TEST_F(Pannelli_, ImportaSiFermaAlPrimoElencoErrato) {
 // Nodes, bars, cases, sextets, conditions: an invalid list is emptied, and those behind it are not looked at.
 TEST_F(Pannelli_, OrdineDegliElenchi) {
   static constexpr const char* CAMPI[] = {"NodiTxt", "AsteTxt", "CdCTxt", "SesTxt", "CdC2Txt"};
-  const std::int16_t* const conteggi[] = {&nodo.NumNodiStr, &collegamento.NumAsteNodo, &collegamento.NumCasiStr, &collegamento.NumSestettiStr,
-                                          &collegamento.NumCondStr};
+  const std::int16_t* const conteggi[] = {&nodo.NumNodiStr, &collegamento.NumAsteNodo, &collegamento.NumCasiStr,
+                                          &collegamento.NumSestettiStr, &collegamento.NumCondStr};
   Modello();
   for (int errato = 0; errato < 5; ++errato) {
     for (const char* c : CAMPI) Scrivi(Soll3D, c, SENZA_INDICE, "1");
@@ -202,7 +202,7 @@ TEST_F(Pannelli_, SelezioneDelleAste) {
   Modello();
   Scrivi(Soll3D, "NodiTxt", SENZA_INDICE, "20,30");
   registratore.dentro.push_back([] {
-    EXPECT_FALSE(Abilitato(Selezione, selezione.ColoriCh[3]));      // "Tutti": the frame is off
+    EXPECT_FALSE(Abilitato(Selezione, selezione.ColoriCh[3]));  // "Tutti": the frame is off
     UtenteSceglie(Selezione, selezione.ColoriOp[1], 1);
     EXPECT_TRUE(Abilitato(Selezione, selezione.ColoriCh[3]));
     EXPECT_FALSE(Abilitato(Selezione, selezione.LineeCh[0]));
@@ -215,7 +215,7 @@ TEST_F(Pannelli_, SelezioneDelleAste) {
     Premi(Selezione, "Cerca");
   });
   Premi(Soll3D, "Cerca", 0);
-  EXPECT_EQ(soll3D.AsteTxt.testo, "7,7");                 // only bar 7 has colour 3; it meets at both nodes
+  EXPECT_EQ(soll3D.AsteTxt.testo, "7,7");  // only bar 7 has colour 3; it meets at both nodes
   EXPECT_FALSE(selezione.aperto);
 }
 
@@ -250,8 +250,9 @@ TEST_F(Pannelli_, SuggerimentiDellaSelezione) {
       {"NomiTxt", 0, "Inserire il limite minimo dell'intervallo"}, {"NomiTxt", 1, "Inserire il limite massimo dell'intervallo"}};
   // clang-format on
   for (const auto& a : attesi) EXPECT_EQ(Suggerimento(Selezione, a.nome, a.i), a.testo) << a.nome;
-  const TestoAtteso didascalie[] = {{"ColoriOp", 0, "Tutti"}, {"ColoriOp", 1, "Selezione"}, {"LineeOp", 0, "Tutte"}, {"LineeOp", 1, "Selezione"},
-                                    {"NomiOp", 0, "Tutti"}, {"NomiOp", 1, "Selezione"}, {"LNomi", 0, "da"}, {"LNomi", 1, "a"}};
+  const TestoAtteso didascalie[] = {
+    {"ColoriOp", 0, "Tutti"}, {"ColoriOp", 1, "Selezione"}, {"LineeOp", 0, "Tutte"}, {"LineeOp", 1, "Selezione"},
+    {"NomiOp", 0, "Tutti"},   {"NomiOp", 1, "Selezione"},   {"LNomi", 0, "da"},      {"LNomi", 1, "a"}};
   for (const auto& a : didascalie) EXPECT_EQ(C(Selezione, a.nome, a.i).testo, a.testo) << a.nome;
 }
 
@@ -281,7 +282,7 @@ TEST_F(Pannelli_, UnNodoSenzaAsteFermaLaRicerca) {
   Scrivi(Soll3D, "NodiTxt", SENZA_INDICE, "30,40,20");
   registratore.dentro.push_back([] { Premi(Selezione, "Cerca"); });
   Premi(Soll3D, "Cerca", 0);
-  EXPECT_EQ(soll3D.AsteTxt.testo, "7");                   // bar 6 has colour 10, which passes under no choice
+  EXPECT_EQ(soll3D.AsteTxt.testo, "7");  // bar 6 has colour 10, which passes under no choice
   EXPECT_EQ(registratore.eventi.size(), 1u);
   EXPECT_TRUE(UltimoEvento().ends_with("che concorra nel nodo 40"));
 }
@@ -292,14 +293,15 @@ TEST_F(Pannelli_, SelezioneSenzaAsteLasciaIlCampo) {
   Scrivi(Soll3D, "AsteTxt", SENZA_INDICE, "1");
   registratore.dentro.push_back([] {
     UtenteSceglie(Selezione, selezione.NomiOp[1], 1);
-    Scrivi(Selezione, "NomiTxt", 0, "99999");             // clipped to 32767
+    Scrivi(Selezione, "NomiTxt", 0, "99999");  // clipped to 32767
     Scrivi(Selezione, "NomiTxt", 1, "3");
     Premi(Selezione, "Cerca");
   });
   Premi(Soll3D, "Cerca", 0);
   EXPECT_EQ(soll3D.AsteTxt.testo, "1");
-  EXPECT_EQ(UltimoEvento(), "[messaggio] esclamazione | NODO COLONNA - PLINTO | Non esiste nessuna asta corrispondente alle caratteristiche "
-                            "selezionate che concorra nel nodo 20");
+  EXPECT_EQ(UltimoEvento(),
+            "[messaggio] esclamazione | NODO COLONNA - PLINTO | Non esiste nessuna asta corrispondente alle caratteristiche "
+            "selezionate che concorra nel nodo 20");
 }
 
 // A limit that does not fit 16 bits is the nearest one that does, not none.
@@ -335,15 +337,15 @@ TEST_F(Pannelli_, PuntatoreDiAttesa) {
   nelRiquadro.clear();
   piattaforma.messaggio = [](const std::string&, const std::string&, Icona) { nelRiquadro.push_back(registratore.attesa); };
   piattaforma.apri(Sez3D, false);
-  Premi(Sez3D, "Cerca");                                  // no structure file
+  Premi(Sez3D, "Cerca");  // no structure file
   EXPECT_FALSE(registratore.attesa);
   Premi(Sez3D, "Annulla");
-  Premi(Soll3D, "Importa");                               // no nodes
+  Premi(Soll3D, "Importa");  // no nodes
   EXPECT_FALSE(registratore.attesa);
   registratore.dentro.push_back([] { Premi(Selezione, "Cerca"); });
-  Premi(Soll3D, "Cerca", 0);                              // no nodes
+  Premi(Soll3D, "Cerca", 0);  // no nodes
   EXPECT_FALSE(registratore.attesa);
-  Premi(InsDati, "ApriVis");                              // no viewer
+  Premi(InsDati, "ApriVis");  // no viewer
   EXPECT_FALSE(registratore.attesa);
   EXPECT_EQ(nelRiquadro, (std::vector<bool>{true, true, true, true}));
 }
@@ -358,7 +360,7 @@ TEST_F(Pannelli_, ImportaSezione) {
   Premi(Sez3D, "Cerca");
   for (int i = 0; i < 5; ++i) EXPECT_TRUE(sez3D.geom[i].visibile && sez3D.geomp[i].visibile) << i;
   ASSERT_EQ(sez3D.ComboP.voci.size(), 3u);
-  EXPECT_EQ(sez3D.ComboP.voci[0], "HEA200              Asta 5");   // the name's 18 characters, two blanks
+  EXPECT_EQ(sez3D.ComboP.voci[0], "HEA200              Asta 5");  // the name's 18 characters, two blanks
   EXPECT_EQ(sez3D.ComboP.voci[1], "Non app. Composta   Asta 6");
   EXPECT_EQ(sez3D.ComboP.scelta, 0);
   EXPECT_EQ(sez3D.geomp[0].testo, "190");
@@ -367,7 +369,7 @@ TEST_F(Pannelli_, ImportaSezione) {
   UtenteSceglie(Sez3D, sez3D.ComboP, 2);
   UtenteSceglie(Sez3D, sez3D.ComboP, 1);
   EXPECT_EQ(UltimoEvento(), "[messaggio] esclamazione | Attenzione | Profilo non applicabile");
-  EXPECT_EQ(sez3D.ComboP.scelta, 2);                      // back to the last valid entry
+  EXPECT_EQ(sez3D.ComboP.scelta, 2);  // back to the last valid entry
   Premi(Sez3D, "OK");
   EXPECT_EQ(nodo.Sezione.Nome, "HEA200            ");
   EXPECT_EQ(insDati.TraveP.voci[static_cast<std::size_t>(insDati.TraveP.scelta)], "HEA200");
@@ -460,7 +462,7 @@ TEST_F(Pannelli_, NodoSenzaAsteNonCambiaLaSezione) {
   insDati.telaNodo.tratti.clear();
   Premi(Sez3D, "OK");
   EXPECT_EQ(nodo.Sezione.Nome, prima);
-  EXPECT_FALSE(insDati.telaNodo.tratti.empty());          // painted anew all the same
+  EXPECT_FALSE(insDati.telaNodo.tratti.empty());  // painted anew all the same
 }
 
 TEST_F(Pannelli_, NodiDelModello) {
@@ -473,20 +475,21 @@ TEST_F(Pannelli_, NodiDelModello) {
   Premi(InsDati, "Command1");
   EXPECT_EQ(nodo.NumNodiStr, 1);
   EXPECT_EQ(nodo.NodiStr[1], 15);
-  EXPECT_EQ(nodo.Sezione.Nome, "HEA200            ");     // bar 5 has section 1
+  EXPECT_EQ(nodo.Sezione.Nome, "HEA200            ");  // bar 5 has section 1
   registratore.eseguito = [](const std::string&, const std::string&) {
     ScriviByte(RisolviPercorso(suite.DirLavoro + "\\SondaOut.txt"), "0,1\r\n77\r\n1,0\r\nA\r\nB\r\n");
     return true;
   };
   Premi(InsDati, "Command1");
-  EXPECT_EQ(nodo.NodiStr[1], 15);                         // kind 1 names no node
-  EXPECT_TRUE(std::none_of(registratore.eventi.begin(), registratore.eventi.end(), [](const std::string& e) { return e.starts_with("[messaggio]"); }));
+  EXPECT_EQ(nodo.NodiStr[1], 15);  // kind 1 names no node
+  EXPECT_TRUE(std::none_of(registratore.eventi.begin(), registratore.eventi.end(),
+                           [](const std::string& e) { return e.starts_with("[messaggio]"); }));
   registratore.eseguito = [](const std::string&, const std::string&) {
     ScriviByte(RisolviPercorso(suite.DirLavoro + "\\SondaOut.txt"), "0,0\r\n78\r\n1,1\r\nA\r\nB\r\n");
     return true;
   };
   ScriviByte(RisolviPercorso(suite.DirLavoro + "\\struttur.str"), "release\r\n0\r\n0\r\n1\r\n10,20,0,0\r\n1 2\r\n");
   Premi(InsDati, "Command1");
-  EXPECT_EQ(nodo.NodiStr[1], 15);                         // nor does kind 0
-  EXPECT_EQ(UltimoEvento(), "[messaggio] critica | INFORMAZIONE | Il profilo della colonna non è applicabile");   // bar 1 has section 2
+  EXPECT_EQ(nodo.NodiStr[1], 15);                                                                                // nor does kind 0
+  EXPECT_EQ(UltimoEvento(), "[messaggio] critica | INFORMAZIONE | Il profilo della colonna non è applicabile");  // bar 1 has section 2
 }

@@ -12,29 +12,29 @@ TEST_F(FoglioDisegno, VistaCC) {
   esecutivo.XQuoteDx = 513;
   Prepara();
   VistaCC();
-  Linea(-200, -250, -200, 250, 2);             // plate, grout bed, its slope
+  Linea(-200, -250, -200, 250, 2);  // plate, grout bed, its slope
   Linea(-250, 300, 250, 300, 2);
   Linea(300, -350, 300, 350, 2);
   for (const int sx : {-1, 1})
     for (const int sy : {-1, 1}) Linea(sx * 250, sy * 300, sx * 300, sy * 350, 2);
-  Linea(-155, -180, -125, -180, 2);            // anchor 1: cross of 1.5 Fi
+  Linea(-155, -180, -125, -180, 2);  // anchor 1: cross of 1.5 Fi
   Linea(-140, -195, -140, -165, 2);
   EXPECT_GE(TrovaArco(-140, -180, 10), 0);
-  Linea(-90, 100, 90, 100, 3);                 // section, cut
-  Linea(-90, 107, 90, 107, 9);                 // its weld 3, outside the steel
-  Linea(5 + 7, 73, 5 + 7, -73, 9);             // weld 1 right of the web
-  Linea(-330, -180, 330, -180, 4, 1);          // B at the lower anchors, ticks downward
+  Linea(-90, 100, 90, 100, 3);         // section, cut
+  Linea(-90, 107, 90, 107, 9);         // its weld 3, outside the steel
+  Linea(5 + 7, 73, 5 + 7, -73, 9);     // weld 1 right of the web
+  Linea(-330, -180, 330, -180, 4, 1);  // B at the lower anchors, ticks downward
   Linea(330, -180, 330, -217.5, 4, 1);
   const int b1 = TrovaTesto("B"), b2 = TrovaTesto("B", b1);
   TestoA(b1, -330 - 13.5 - 9, -180 - 37.5, 0, 7);
   TestoA(b2, 330 + 18 - 9, -180 - 37.5, 0, 7);
-  Linea(140, -385, 140, 385, 4, 1);            // A
+  Linea(140, -385, 140, 385, 4, 1);  // A
   Linea(140, 385, 167, 385, 4, 1);
   const int a1 = TrovaTesto("A"), a2 = TrovaTesto("A", a1);
   TestoA(a1, 153.5 - 9, -385 - 37.5, 0, 7);
   TestoA(a2, 153.5 - 9, 385 + 12.5, 0, 7);
-  for (int w = 1; w <= 8; ++w) EXPECT_EQ(ContaTesti("S" + std::to_string(w)), 0);   // the table was not built here
-  EXPECT_LT(TrovaTesto("HEX 200"), 0);         // with ribs there is no room for the name
+  for (int w = 1; w <= 8; ++w) EXPECT_EQ(ContaTesti("S" + std::to_string(w)), 0);  // the table was not built here
+  EXPECT_LT(TrovaTesto("HEX 200"), 0);                                             // with ribs there is no room for the name
   EXPECT_FALSE(quote.EtichetteSald);
   EXPECT_DOUBLE_EQ(esecutivo.BoxCXMax, 513 + 150);
   EXPECT_DOUBLE_EQ(esecutivo.BoxCXMin, -330 - 36 - 45);
@@ -69,7 +69,7 @@ TEST_F(FoglioDisegno, SezioniEQuoteInPianta) {
   Linea(-90, -480, 90, -480, 5);
   Linea(-200, -555, 200, -555, 5);
   Linea(-300, -630, 300, -630, 5);
-  nodo.TipoNodo = 1;                           // neither the ribs' chain nor the inner weld lines
+  nodo.TipoNodo = 1;  // neither the ribs' chain nor the inner weld lines
   Prepara();
   VistaCC();
   Manca(-411, -250, -411, -100);
@@ -85,7 +85,7 @@ TEST_F(FoglioDisegno, OttoTirafondiInPianta) {
   for (int i = 1; i <= 8; ++i) {
     const int arco = TrovaArco(nodo.TfZ[i] - 200, nodo.TfY[i] - 250, 10);
     ASSERT_GE(arco, 0) << i;
-    EXPECT_EQ(disegno.ArcCol[arco], 2);        // of the steel parts
+    EXPECT_EQ(disegno.ArcCol[arco], 2);  // of the steel parts
   }
 }
 
@@ -95,7 +95,7 @@ TEST_F(FoglioDisegno, NomeInPiantaSenzaNervature) {
   VistaCC();
   // right end -5 - 7 - 18 = -30; height (100 - 15 - 7) / 2 - 12.5 = 26.5
   TestoA(TrovaTesto("HEX 200"), -30 - 7 * 18, 26.5, 0, 7);
-  nodo.TipoNodo = 3;                           // 1 alone
+  nodo.TipoNodo = 3;  // 1 alone
   Prepara();
   VistaCC();
   EXPECT_LT(TrovaTesto("HEX 200"), 0);
@@ -124,7 +124,7 @@ TEST_F(FoglioDisegno, NervatureInPianta) {
       Linea(s * x, -100, s * x, -92, 2);
       Linea(s * x, 92, s * x, 100, 2);
     }
-    const bool d = s > 0;                      // quadrants of the right side; the left one is its mirror
+    const bool d = s > 0;  // quadrants of the right side; the left one is its mirror
     Angolo(s * 90, -250, d ? 2 : 1);
     Angolo(s * 90, -100, d ? 3 : 4);
     Angolo(s * 90, 250, d ? 3 : 4);
@@ -141,7 +141,7 @@ TEST_F(FoglioDisegno, NervatureInPianta) {
     Angolo(s * 200, 100, d ? 2 : 1);
   }
   EXPECT_EQ(disegno.NumArchi, 28);
-  nodo.SaldInt = 2;                            // welded inside means 1
+  nodo.SaldInt = 2;  // welded inside means 1
   Prepara();
   NervaturePianta();
   EXPECT_EQ(disegno.NumArchi, 28);

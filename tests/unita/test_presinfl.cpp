@@ -14,7 +14,10 @@
 
 namespace {
 
-struct Esito { double pressione; bool ok; };
+struct Esito {
+  double pressione;
+  bool ok;
+};
 
 Esito Risolvi(int s) {
   lavoro.diagnosi.clear();
@@ -22,7 +25,7 @@ Esito Risolvi(int s) {
   ris.SMaxCls[s] = 1;
   const bool ok = PresInfl(lavoro, s);
   MostraDiagnosi(lavoro);
-  return { ris.SMaxCls[s], ok };
+  return {ris.SMaxCls[s], ok};
 }
 
 Esito Risolvi(double N, double My, double Mz) { return Risolvi(SestettoProva(N, 0, 0, 0, My, Mz)); }
@@ -38,7 +41,7 @@ void AncoraggiRiferimento() { SchemaProva(0, 50, 50); }
 double CoeffK(double kx, double ky, double segnoY = 1, double segnoZ = 1) {
   for (double& a : suite.DiamArea) a = 1e-6;
   nodo.NumSoll = 0;
-  const double N = -40000;                             // daN; 10 My = kx |N| LatoZ
+  const double N = -40000;  // daN; 10 My = kx |N| LatoZ
   const Esito e = Risolvi(N, segnoY * kx * 40000 * nodo.LatoZ / 10, segnoZ * ky * 40000 * nodo.LatoY / 10);
   EXPECT_TRUE(e.ok);
   EXPECT_TRUE(registratore.eventi.empty());
@@ -51,7 +54,7 @@ TEST_F(PresInflTest, DatiDellaSezione) {
   SchemaProva(0, 50, 60);
   const int s = SestettoProva(-1000, 11, 12, 13, 300, 400);
   DatiSezione(lavoro, s);
-  const double x[] = { 0, -200, -200, 200, 200 }, y[] = { 0, -250, 250, 250, -250 };
+  const double x[] = {0, -200, -200, 200, 200}, y[] = {0, -250, 250, 250, -250};
   for (int j = 1; j <= 4; ++j) {
     EXPECT_EQ(presInfl.VertX[j], x[j]);
     EXPECT_EQ(presInfl.VertY[j], y[j]);
@@ -62,26 +65,26 @@ TEST_F(PresInflTest, DatiDellaSezione) {
   EXPECT_EQ(presInfl.BarraX[4], 150);
   EXPECT_EQ(presInfl.BarraY[4], -190);
   EXPECT_EQ(presInfl.BarraA, 245);
-  EXPECT_DOUBLE_EQ(presInfl.ERif, 3122.0185778);       // daN/cm2 to daN/mm2
-  EXPECT_EQ(presInfl.Carichi[1], 400);                 // Mz, -My, N
+  EXPECT_DOUBLE_EQ(presInfl.ERif, 3122.0185778);  // daN/cm2 to daN/mm2
+  EXPECT_EQ(presInfl.Carichi[1], 400);            // Mz, -My, N
   EXPECT_EQ(presInfl.Carichi[2], -300);
   EXPECT_EQ(presInfl.Carichi[3], -1000);
 }
 
-TEST_F(PresInflTest, SenzaTrazioneNelNocciolo) {      // K = 1 + 6 kx + 6 ky
-  const double punti[][2] = { { 0, 0 }, { 0.1, 0 }, { 0, 0.12 }, { 0.05, 0.05 }, { 0.08, 0.08 }, { 0.02, 0.14 } };
+TEST_F(PresInflTest, SenzaTrazioneNelNocciolo) {  // K = 1 + 6 kx + 6 ky
+  const double punti[][2] = {{0, 0}, {0.1, 0}, {0, 0.12}, {0.05, 0.05}, {0.08, 0.08}, {0.02, 0.14}};
   for (const auto& k : punti) EXPECT_NEAR(CoeffK(k[0], k[1]), 1 + 6 * k[0] + 6 * k[1], 1e-4) << k[0] << ' ' << k[1];
 }
 
-TEST_F(PresInflTest, SenzaTrazioneUnAsse) {           // K = 2 / (3 (1/2 - k))
-  for (const double k : { 0.17, 0.2, 0.25, 0.3, 0.4, 0.45 }) {
+TEST_F(PresInflTest, SenzaTrazioneUnAsse) {  // K = 2 / (3 (1/2 - k))
+  for (const double k : {0.17, 0.2, 0.25, 0.3, 0.4, 0.45}) {
     EXPECT_NEAR(CoeffK(k, 0), 2 / (3 * (0.5 - k)), 2e-3 * CoeffK(k, 0)) << k;
     EXPECT_NEAR(CoeffK(0, k), 2 / (3 * (0.5 - k)), 2e-3 * CoeffK(0, k)) << k;
   }
 }
 
-TEST_F(PresInflTest, SenzaTrazioneAngolo) {           // K = 3 / (8 (1/2 - kx) (1/2 - ky)): a triangle at the corner
-  const double punti[][2] = { { 0.25, 0.25 }, { 0.3, 0.25 }, { 0.3, 0.3 }, { 0.35, 0.28 } };
+TEST_F(PresInflTest, SenzaTrazioneAngolo) {  // K = 3 / (8 (1/2 - kx) (1/2 - ky)): a triangle at the corner
+  const double punti[][2] = {{0.25, 0.25}, {0.3, 0.25}, {0.3, 0.3}, {0.35, 0.28}};
   for (const auto& k : punti) {
     const double atteso = 3 / (8 * (0.5 - k[0]) * (0.5 - k[1]));
     EXPECT_NEAR(CoeffK(k[0], k[1]), atteso, 2e-3 * atteso) << k[0] << ' ' << k[1];
@@ -104,7 +107,9 @@ TEST_F(PresInflTest, ScambioDiAssiEDiSegni) {
 
 TEST_F(PresInflTest, ConAncoraggi) {
   AncoraggiRiferimento();
-  struct Riga { double N, My, Mz, p, s[4]; };          // daN, daN cm; daN/mm2 at (-150,200), (150,200), (-150,-200), (150,-200)
+  struct Riga {
+    double N, My, Mz, p, s[4];
+  };  // daN, daN cm; daN/mm2 at (-150,200), (150,200), (-150,-200), (150,-200)
   // clang-format off
   const Riga RIGHE[] = {
     { -30000, 0,      0,      -0.14613, { -0.9361, -0.9361, -0.9361, -0.9361 } },
@@ -124,7 +129,7 @@ TEST_F(PresInflTest, ConAncoraggi) {
   EXPECT_TRUE(registratore.eventi.empty());
 }
 
-TEST_F(PresInflTest, LatiQuasiParalleliAY) {          // a large My with a small remainder of Mz must converge
+TEST_F(PresInflTest, LatiQuasiParalleliAY) {  // a large My with a small remainder of Mz must converge
   AncoraggiRiferimento();
   // clang-format off
   const double carichi[][3] = { { -8874.5, 831104, 1 },     { 19880.7, 863868, 1 },     { -47589, -3167417, -4 },   { -11029.3, 3906387, 5 },
@@ -142,8 +147,8 @@ TEST_F(PresInflTest, CaricoNullo) {
   const Esito e = Risolvi(0, 0, 0);
   EXPECT_TRUE(e.ok);
   EXPECT_EQ(e.pressione, 0);
-  EXPECT_EQ(presInfl.IterPres, 3);                     // the first iteration that may stop
-  EXPECT_EQ(presInfl.NumPoli, 4);                      // d = 0 keeps each vertex
+  EXPECT_EQ(presInfl.IterPres, 3);  // the first iteration that may stop
+  EXPECT_EQ(presInfl.NumPoli, 4);   // d = 0 keeps each vertex
   for (int c = 1; c <= 3; ++c) EXPECT_EQ(presInfl.PianoDef[c], 0);
   // 0 at an anchor is no compression: after the first iteration no concrete is taken out.
   EXPECT_NEAR(presInfl.K[3][3], 200000 + 980 * 20000 / 3122.0185778, 1e-6);
@@ -155,7 +160,7 @@ TEST_F(PresInflTest, TrazioneSemplice) {
   EXPECT_TRUE(e.ok);
   EXPECT_EQ(e.pressione, 0);
   EXPECT_EQ(presInfl.NumPoli, 0);
-  for (int i = 1; i <= 4; ++i) EXPECT_NEAR(ris.SigmaTir[1][i] * 245, 5000, 1e-6);    // N / 4 each
+  for (int i = 1; i <= 4; ++i) EXPECT_NEAR(ris.SigmaTir[1][i] * 245, 5000, 1e-6);  // N / 4 each
 }
 
 TEST_F(PresInflTest, CompressioneSemplice) {
@@ -178,10 +183,10 @@ TEST_F(PresInflTest, PrimaIterazioneTogliePiuCalcestruzzo) {
   // (-10000, 300000, 300000): anchor 4 alone is compressed (table above): integral of the polygon - 245 + 980 f.
   const Esito e = Risolvi(-10000, 300000, 300000);
   ASSERT_TRUE(e.ok);
-  double area = 0;                                     // shoelace
+  double area = 0;  // shoelace
   for (int j = 1; j <= presInfl.NumPoli; ++j)
     area += (presInfl.PoliX[j + 1] * presInfl.PoliY[j] - presInfl.PoliX[j] * presInfl.PoliY[j + 1]) / 2;
-  EXPECT_NEAR(presInfl.K[3][3], area - 245 + 980 * 20000 / 3122.0185778, 20);     // the matrix is one cut behind the polygon
+  EXPECT_NEAR(presInfl.K[3][3], area - 245 + 980 * 20000 / 3122.0185778, 20);  // the matrix is one cut behind the polygon
 }
 
 TEST_F(PresInflTest, AncoraggioFuoriDallaRegione) {
@@ -198,7 +203,7 @@ TEST_F(PresInflTest, AncoraggioFuoriDallaRegione) {
   EXPECT_TRUE(presInfl.DentroBarra[2]);
   EXPECT_TRUE(presInfl.DentroBarra[3]);
   EXPECT_FALSE(presInfl.DentroBarra[4]);
-  nodo.TfZ[1] = 0;                                     // on the left edge: outside
+  nodo.TfZ[1] = 0;  // on the left edge: outside
   Risolvi(-30000, 0, 0);
   EXPECT_FALSE(presInfl.DentroBarra[1]);
   // Two anchors in the region: 200000 - 2 x 245 + 980 f.
@@ -209,7 +214,7 @@ TEST_F(PresInflTest, LatoNegativoRovesciato) {
   // LatoZ -400: the source runs the other way, area -200000. The first polygon is reversed, so that the first matrix is that of a
   // plate, the pull opens it everywhere, and the anchors carry it alone: N / 4. Without the reversal the first plane would be negative.
   nodo.LatoZ = -400;
-  nodo.TfZ[1] = nodo.TfZ[3] = -50;                     // x = 200 - 50
+  nodo.TfZ[1] = nodo.TfZ[3] = -50;  // x = 200 - 50
   nodo.TfZ[2] = nodo.TfZ[4] = -350;
   const Esito e = Risolvi(20000, 0, 0);
   EXPECT_TRUE(e.ok);
@@ -235,11 +240,11 @@ TEST_F(PresInflTest, TaglioDallaPiastraIntera) {
   }
   EXPECT_NEAR(massimo, 250, 1e-9);
   EXPECT_NEAR(minimo, -50, 0.5);
-  EXPECT_EQ(presInfl.PoliX[5], presInfl.PoliX[1]);     // closing vertex
+  EXPECT_EQ(presInfl.PoliX[5], presInfl.PoliX[1]);  // closing vertex
   EXPECT_EQ(presInfl.PoliY[5], presInfl.PoliY[1]);
 }
 
-TEST_F(PresInflTest, ResiduoNonAzzerato) {            // the third iteration is the first that may stop, whatever the residual was
+TEST_F(PresInflTest, ResiduoNonAzzerato) {  // the third iteration is the first that may stop, whatever the residual was
   Risolvi(-30000, 150000, 200000);
   for (double& r : presInfl.Residuo) r = 0;
   Risolvi(-30000, 150000, 200000);
@@ -252,8 +257,10 @@ TEST_F(PresInflTest, Tolleranza) {
   // second does not, and the residual of the second iteration grows with the load. The largest load that stops at the third
   // iteration has it at the tolerance, one unit plus 0.01 per cent, in one component; from each axis and for the force.
   nodo.NTir = 1;
-  struct Verso { double z, y, kz, ky; };
-  for (const Verso& v : { Verso{ 600, 250, 0.1, 0 }, { 600, 250, -0.1, 0 }, { 600, 400, 0.08, 0.05 } }) {
+  struct Verso {
+    double z, y, kz, ky;
+  };
+  for (const Verso& v : {Verso{600, 250, 0.1, 0}, {600, 250, -0.1, 0}, {600, 400, 0.08, 0.05}}) {
     nodo.TfZ[1] = v.z;
     nodo.TfY[1] = v.y;
     const auto terza = [&](double L) {
@@ -262,7 +269,7 @@ TEST_F(PresInflTest, Tolleranza) {
       return presInfl.IterPres == 3;
     };
     double basso = 1, alto = 1e6;
-    if (v.kz < 0) {                                    // compressed there: the same matrix twice
+    if (v.kz < 0) {  // compressed there: the same matrix twice
       EXPECT_TRUE(terza(alto));
       continue;
     }
@@ -280,7 +287,7 @@ TEST_F(PresInflTest, Tolleranza) {
   }
 }
 
-TEST_F(PresInflTest, NessunPoligono) {                // no box, nothing written
+TEST_F(PresInflTest, NessunPoligono) {  // no box, nothing written
   const int s = SestettoProva(-30000, 0, 0, 0, 0, 0);
   DatiSezione(lavoro, s);
   presInfl.NumVertici = 0;
@@ -303,7 +310,7 @@ TEST_F(PresInflTest, RisultatiNonPresenti) {
   EXPECT_EQ(registratore.eventi[0], "[messaggio] nessuna | ERRORE ! | Risultati non presenti.");
 }
 
-TEST_F(PresInflTest, PivotNulloEFault) {              // an area of 0 and a pull: nothing is left, K = 0, 0 / 0; no box of the solver
+TEST_F(PresInflTest, PivotNulloEFault) {  // an area of 0 and a pull: nothing is left, K = 0, 0 / 0; no box of the solver
   for (double& a : suite.DiamArea) a = 0;
   ris.SigmaTir[1][2] = 5;
   const Esito e = Risolvi(1000, 0, 0);
@@ -313,12 +320,12 @@ TEST_F(PresInflTest, PivotNulloEFault) {              // an area of 0 and a pull
   EXPECT_TRUE(registratore.eventi.empty());
 }
 
-TEST_F(PresInflTest, NonConverge) {                   // load ten plates off, anchors of 1e-9 mm2 alone to hold it: all the iterations
+TEST_F(PresInflTest, NonConverge) {  // load ten plates off, anchors of 1e-9 mm2 alone to hold it: all the iterations
   for (double& a : suite.DiamArea) a = 1e-9;
   const Esito e = Risolvi(-40000, 0, -5.0 * 40000 * 50);
   EXPECT_FALSE(e.ok);
   EXPECT_EQ(presInfl.IterPres, 101);
-  EXPECT_LT(e.pressione, 0);                           // the results are written all the same
+  EXPECT_LT(e.pressione, 0);  // the results are written all the same
   EXPECT_NE(ris.SigmaTir[1][1], 0);
   ASSERT_EQ(registratore.eventi.size(), 1u);
   EXPECT_EQ(registratore.eventi[0], "[messaggio] nessuna | ERRORE ! | Convergenza non raggiunta !");
@@ -330,8 +337,8 @@ TEST_F(PresInflTest, DueBox) {
   const std::string convergenza = "[messaggio] nessuna | ERRORE ! | Convergenza non raggiunta !";
   const std::string risultati = "[messaggio] nessuna | ERRORE ! | Risultati non presenti.";
   int due = 0;
-  for (const double y : { 53.1, 73.3, 97.9, 111.7 })
-    for (const double z : { 350.0, 344.3, 331.7 }) {
+  for (const double y : {53.1, 73.3, 97.9, 111.7})
+    for (const double z : {350.0, 344.3, 331.7}) {
       NodoProva();
       for (double& a : suite.DiamArea) a = 1e-9;
       nodo.TfY[1] = y;
@@ -340,13 +347,13 @@ TEST_F(PresInflTest, DueBox) {
       EXPECT_FALSE(e.ok);
       EXPECT_EQ(e.pressione, 0);
       if (presInfl.IterPres <= 100) continue;
-      EXPECT_EQ(registratore.eventi, (std::vector<std::string>{ convergenza, risultati }));
+      EXPECT_EQ(registratore.eventi, (std::vector<std::string>{convergenza, risultati}));
       ++due;
     }
   EXPECT_GT(due, 0);
 }
 
-TEST_F(PresInflTest, EquilibrioCasuale) {             // fixed seed, all patterns, plates and loads of many sizes
+TEST_F(PresInflTest, EquilibrioCasuale) {  // fixed seed, all patterns, plates and loads of many sizes
   std::mt19937 gen(20080114);
   const auto fra = [&](double a, double b) { return std::uniform_real_distribution<double>(a, b)(gen); };
   int falliti = 0;
@@ -356,7 +363,7 @@ TEST_F(PresInflTest, EquilibrioCasuale) {             // fixed seed, all pattern
     nodo.LatoY = std::floor(fra(250, 900));
     nodo.TfFi = n % 3 == 0 ? 20 : n % 3 == 1 ? 24 : 30;
     SchemaProva(n % 4, fra(30, 80), fra(30, 80));
-    for (int i = 1; i <= nodo.NTir; ++i) {             // no symmetry
+    for (int i = 1; i <= nodo.NTir; ++i) {  // no symmetry
       nodo.TfZ[i] += fra(-25, 25);
       nodo.TfY[i] += fra(-25, 25);
     }

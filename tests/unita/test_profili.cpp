@@ -21,8 +21,9 @@ struct Profili : testing::Test {
     AzzeraFault();
     file = CartellaProva("profili") + "/prof_pro";
   }
-  void TearDown() override { EXPECT_TRUE(registratore.eventi.empty()); }       // the reader shows nothing
-  int Leggi(const std::string& byte, std::string_view filtro = {}, std::string_view nome = {}, double fL = 1, double fA = 1, int primo = 1) {
+  void TearDown() override { EXPECT_TRUE(registratore.eventi.empty()); }  // the reader shows nothing
+  int Leggi(const std::string& byte, std::string_view filtro = {}, std::string_view nome = {}, double fL = 1, double fA = 1,
+            int primo = 1) {
     ScriviByte(file, byte);
     return LeggiProfili(file, primo, suite.ProfiliLib, fL, fA, filtro, nome);
   }
@@ -36,7 +37,7 @@ std::string Riga(const std::string& famiglia, int dopo, int n) {
 }
 
 void Attesa(const Sezione& s, double H, double B, double A, double E, double R, double R2, double Xc, double Yc, double J2, double Jt) {
-  EXPECT_EQ(s.Area, 1) << s.Nome;            // word 1 and word 2 in every layout
+  EXPECT_EQ(s.Area, 1) << s.Nome;  // word 1 and word 2 in every layout
   EXPECT_EQ(s.J1, 2) << s.Nome;
   EXPECT_EQ(s.H, H) << s.Nome;
   EXPECT_EQ(s.B, B) << s.Nome;
@@ -55,21 +56,23 @@ void Attesa(const Sezione& s, double H, double B, double A, double E, double R, 
 
 TEST_F(Profili, OttoDisposizioni) {
   ASSERT_EQ(Leggi(Riga("INP", 13, 21) + Riga("TUBO", 8, 12) + Riga("T.QUAD", 8, 12) + Riga("LD", 8, 17) + Riga("LLU", 5, 10) +
-                  Riga("LU", 8, 17) + Riga("UPN", 8, 17) + "*END*\r\n"), 7);
+                  Riga("LU", 8, 17) + Riga("UPN", 8, 17) + "*END*\r\n"),
+            7);
   const Sezione* s = suite.ProfiliLib;
   //             H   B   A   E   R   R2  Xc  Yc  J2 Jt
-  Attesa(s[1], 16, 17, 18, 19, 20, 21, 0, 0, 5, 10);       // INP
-  Attesa(s[2], 0, 11, 12, 0, 0, 0, 0, 0, 4, 6);            // TUBO
-  Attesa(s[3], 11, 11, 12, 0, 0, 0, 0, 0, 4, 6);           // T.QUAD: H as B
-  Attesa(s[4], 11, 12, 13, 17, 16, 17, 14, 15, 4, 6);      // LD: E as R2
-  Attesa(s[5], 10, 8, 9, 10, 0, 0, 0, 0, 3, 0);            // LLU: H as E
-  Attesa(s[6], 17, 11, 12, 17, 16, 17, 13, 14, 4, 6);      // LU: H and E as R2
-  Attesa(s[7], 11, 12, 13, 14, 16, 17, 6, 15, 4, 6);       // UPN: Xc half of B
+  Attesa(s[1], 16, 17, 18, 19, 20, 21, 0, 0, 5, 10);   // INP
+  Attesa(s[2], 0, 11, 12, 0, 0, 0, 0, 0, 4, 6);        // TUBO
+  Attesa(s[3], 11, 11, 12, 0, 0, 0, 0, 0, 4, 6);       // T.QUAD: H as B
+  Attesa(s[4], 11, 12, 13, 17, 16, 17, 14, 15, 4, 6);  // LD: E as R2
+  Attesa(s[5], 10, 8, 9, 10, 0, 0, 0, 0, 3, 0);        // LLU: H as E
+  Attesa(s[6], 17, 11, 12, 17, 16, 17, 13, 14, 4, 6);  // LU: H and E as R2
+  Attesa(s[7], 11, 12, 13, 14, 16, 17, 6, 15, 4, 6);   // UPN: Xc half of B
 }
 
 TEST_F(Profili, FamiglieDelPannello) {
-  const std::vector<std::string> famiglie = {"IPE", "IPEA", "IPER", "IPEO", "IPEV", "HEA", "HEAA", "HEB", "HEM", "HEC", "DIL", "HER", "HLAA",
-                                             "HLA", "HLB", "HLM", "HLR", "HXAA", "HXA", "HXB", "HXM", "HXR", "HD", "HP", "M", "W"};
+  const std::vector<std::string> famiglie = {"IPE", "IPEA", "IPER", "IPEO", "IPEV", "HEA", "HEAA", "HEB", "HEM",
+                                             "HEC", "DIL",  "HER",  "HLAA", "HLA",  "HLB", "HLM",  "HLR", "HXAA",
+                                             "HXA", "HXB",  "HXM",  "HXR",  "HD",   "HP",  "M",    "W"};
   std::string t;
   for (const std::string& f : famiglie) t += Riga(f, 13, 20);
   t += Riga("UPN", 8, 17) + Riga("INP", 13, 21) + Riga("ipe", 13, 20) + Riga("HE", 13, 20) + Riga("XYZ", 13, 20) + "*END*\r\n";
@@ -78,8 +81,9 @@ TEST_F(Profili, FamiglieDelPannello) {
     EXPECT_EQ(RifilaDestra(suite.ProfiliLib[i + 1].Nome), famiglie[i] + "10");
     Attesa(suite.ProfiliLib[i + 1], 16, 17, 18, 19, 20, 0, 0, 0, 5, 10);
   }
-  EXPECT_EQ(std::string_view(FILTRO_PROFILI),
-            " IPE  IPEA  IPER  IPEO  IPEV  HEA  HEAA  HEB  HEM  HEC  DIL  HER  HLAA  HLA  HLB  HLM  HLR  HXAA  HXA  HXB  HXM  HXR  HD  HP  M  W ");
+  EXPECT_EQ(
+    std::string_view(FILTRO_PROFILI),
+    " IPE  IPEA  IPER  IPEO  IPEV  HEA  HEAA  HEB  HEM  HEC  DIL  HER  HLAA  HLA  HLB  HLM  HLR  HXAA  HXA  HXB  HXM  HXR  HD  HP  M  W ");
 }
 
 TEST_F(Profili, FamigliaInteraNelFiltro) {
@@ -99,15 +103,15 @@ TEST_F(Profili, NomeUnitoELargoDiciotto) {
   EXPECT_EQ(suite.ProfiliLib[2].Nome, "HEA123456789012345");
   EXPECT_EQ(suite.ProfiliLib[3].Nome, "HD                ");
   EXPECT_EQ(suite.ProfiliLib[1].Area, 1);
-  EXPECT_EQ(suite.ProfiliLib[1].H, 0);       // missing words count as 0
+  EXPECT_EQ(suite.ProfiliLib[1].H, 0);  // missing words count as 0
   EXPECT_EQ(suite.ProfiliLib[1].Tipo, "");
 }
 
 TEST_F(Profili, Scale) {
   ASSERT_EQ(Leggi(Riga("IPE", 13, 20) + Riga("UPN", 8, 17) + "*END*", {}, {}, 2, 10), 2);
   const Sezione& s = suite.ProfiliLib[1];
-  EXPECT_EQ(s.Area, 100);                    // cm2 to mm2
-  EXPECT_EQ(s.J1, 20000);                    // cm4 to mm4
+  EXPECT_EQ(s.Area, 100);  // cm2 to mm2
+  EXPECT_EQ(s.J1, 20000);  // cm4 to mm4
   EXPECT_EQ(s.J2, 50000);
   EXPECT_EQ(s.Jt, 100000);
   EXPECT_EQ(s.H, 32);
@@ -117,21 +121,23 @@ TEST_F(Profili, Scale) {
   EXPECT_EQ(s.R, 40);
   const Sezione& u = suite.ProfiliLib[2];
   EXPECT_EQ(u.R2, 34);
-  EXPECT_EQ(u.Xc, 12);                       // scaled once
+  EXPECT_EQ(u.Xc, 12);  // scaled once
   EXPECT_EQ(u.Yc, 30);
   EXPECT_EQ(FATT_LUNG_PROFILI, 1);
   EXPECT_EQ(FATT_AREA_PROFILI, 10);
 }
 
 TEST_F(Profili, FineAsteriscoEPercento) {
-  EXPECT_EQ(Leggi("*\r\n%\r\n * \r\n" + Riga("*IPE", 13, 20) + "* IPE 80 1\r\n%x\r\n" + Riga("IPE", 13, 20) + "  *END*  \r\n" + Riga("IPE", 13, 20),
-                  FILTRO_PROFILI), 1);
+  EXPECT_EQ(
+    Leggi("*\r\n%\r\n * \r\n" + Riga("*IPE", 13, 20) + "* IPE 80 1\r\n%x\r\n" + Riga("IPE", 13, 20) + "  *END*  \r\n" + Riga("IPE", 13, 20),
+          FILTRO_PROFILI),
+    1);
   EXPECT_EQ(Leggi("*END*"), 0);
 }
 
 TEST_F(Profili, SenzaRigaFinaleNiente) {
   EXPECT_EQ(Leggi(Riga("IPE", 13, 20) + Riga("HEA", 13, 20)), 0);
-  EXPECT_EQ(suite.ProfiliLib[1].Nome, Sezione().Nome);     // nothing is kept
+  EXPECT_EQ(suite.ProfiliLib[1].Nome, Sezione().Nome);  // nothing is kept
   EXPECT_EQ(suite.ProfiliLib[1].H, 0);
   EXPECT_EQ(Leggi(Riga("IPE", 13, 20) + "*end*\r\n*END* x\r\n"), 0);
   EXPECT_EQ(Leggi(""), 0);
@@ -141,7 +147,7 @@ TEST_F(Profili, SenzaRigaFinaleNiente) {
 TEST_F(Profili, Duemila) {
   std::string t;
   for (int i = 0; i < 2500; ++i) t += "IPE " + std::to_string(i) + " 1\r\n";
-  EXPECT_EQ(Leggi(t), 2000);                 // full: no end line is asked for
+  EXPECT_EQ(Leggi(t), 2000);  // full: no end line is asked for
   EXPECT_EQ(RifilaDestra(suite.ProfiliLib[2000].Nome), "IPE1999");
   EXPECT_EQ(Leggi(t, {}, {}, 1, 1, 1990), 11);
   EXPECT_EQ(RifilaDestra(suite.ProfiliLib[2000].Nome), "IPE10");
@@ -152,7 +158,7 @@ TEST_F(Profili, Duemila) {
 
 TEST_F(Profili, UnNomeSolo) {
   const std::string t = "IPE 80 1\r\nHEA 100 2\r\nHEA 100 3\r\nUPN 80 4\r\n";
-  EXPECT_EQ(Leggi(t, {}, "HEA100"), 1);      // ends at the match: no end line needed
+  EXPECT_EQ(Leggi(t, {}, "HEA100"), 1);  // ends at the match: no end line needed
   EXPECT_EQ(suite.ProfiliLib[1].Area, 2);
   EXPECT_EQ(Leggi(t + "*END*", FILTRO_PROFILI, "UPN80"), 0);
   for (const char* altro : {"HEA10", "HEA1000", "hea100", "HEA 100"}) EXPECT_EQ(Leggi(t + "*END*", {}, altro), 0) << altro;
@@ -161,10 +167,10 @@ TEST_F(Profili, UnNomeSolo) {
 
 TEST_F(Profili, NumeriStraniNonPassano) {
   ASSERT_EQ(Leggi("IPE 80 1e400 nan 3 4 -inf\r\nIPE 90 1e308 2 \r\n*END*", {}, {}, 1, 10), 2);
-  EXPECT_EQ(suite.ProfiliLib[1].Area, 0);    // overflow: the value stays
+  EXPECT_EQ(suite.ProfiliLib[1].Area, 0);  // overflow: the value stays
   EXPECT_EQ(suite.ProfiliLib[1].J1, 0);
   EXPECT_EQ(suite.ProfiliLib[1].J2, 0);
-  EXPECT_EQ(suite.ProfiliLib[2].Area, 0);    // would overflow when scaled
+  EXPECT_EQ(suite.ProfiliLib[2].Area, 0);  // would overflow when scaled
   EXPECT_EQ(suite.ProfiliLib[2].J1, 20000);
   EXPECT_FALSE(FaultAritmetico());
 }
@@ -172,7 +178,7 @@ TEST_F(Profili, NumeriStraniNonPassano) {
 TEST_F(Profili, ProfilarioDiEsempio) {
   std::ifstream tsv(QB07_RADICE "/samples/strumenti/profili.tsv");
   std::string riga;
-  ASSERT_TRUE(std::getline(tsv, riga));      // column heads
+  ASSERT_TRUE(std::getline(tsv, riga));  // column heads
   suite.DirCustom = QB07_RADICE "/samples/suite/custom";
   const int n = LeggiProfili(suite.DirCustom + FILE_PROFILARIO, 1, suite.ProfiliLib, FATT_LUNG_PROFILI, FATT_AREA_PROFILI, FILTRO_PROFILI);
   int i = 0;
@@ -198,14 +204,14 @@ TEST_F(Profili, ProfilarioDiEsempio) {
   }
   EXPECT_EQ(i, n);
   EXPECT_GE(n, 132);
-  const Sezione& prima = suite.ProfiliLib[1];              // IPE 80, EN 10365
+  const Sezione& prima = suite.ProfiliLib[1];  // IPE 80, EN 10365
   EXPECT_EQ(prima.Nome, "IPE80             ");
   EXPECT_EQ(prima.H, 80);
   EXPECT_EQ(prima.B, 46);
   // Every family of the file has a layout: nothing is lost without the filter either.
   const int tutte = LeggiProfili(suite.DirCustom + FILE_PROFILARIO, 1, suite.ProfiliLib, 1, 10, "");
-  EXPECT_EQ(tutte, n + 22);                                // 4 INP, 6 UPN, 4 LU, 2 LD, 4 TUBO, 2 T.QUAD
-  const Sezione& ultima = suite.ProfiliLib[tutte];         // T.QUAD 120 x 6.3, EN 10210-2
+  EXPECT_EQ(tutte, n + 22);                         // 4 INP, 6 UPN, 4 LU, 2 LD, 4 TUBO, 2 T.QUAD
+  const Sezione& ultima = suite.ProfiliLib[tutte];  // T.QUAD 120 x 6.3, EN 10210-2
   EXPECT_EQ(RifilaDestra(ultima.Nome), "T.QUAD120x6.3");
   EXPECT_EQ(ultima.H, 120);
   EXPECT_EQ(ultima.B, 120);

@@ -34,8 +34,8 @@ TEST(Programma, OgniRecordTornaAlSuoInizio) {
   const std::string azzera = Testo(QB07_RADICE "/src/panels/programma.cpp");
   std::set<std::string> nomi = Dichiarati();
   EXPECT_GT(nomi.size(), 20u);
-  EXPECT_EQ(nomi.erase("piattaforma"), 1u);                // the operations of the outside stay
-  EXPECT_EQ(nomi.erase("lavoro"), 1u);                     // has a reset of its own, which ties it to the joint
+  EXPECT_EQ(nomi.erase("piattaforma"), 1u);  // the operations of the outside stay
+  EXPECT_EQ(nomi.erase("lavoro"), 1u);       // has a reset of its own, which ties it to the joint
   EXPECT_NE(azzera.find("  AzzeraLavoro();"), std::string::npos);
   for (const std::string& n : nomi) EXPECT_NE(azzera.find("  " + n + " = "), std::string::npos) << n;
 }

@@ -95,7 +95,7 @@ TEST_F(Pannelli_, ProprietaConTuttiIRiquadri) {
   EXPECT_TRUE(C(PropMateriali, "FrameAcc").testo.starts_with("Acciaio profili - [NTC08 11.3.4.1] - Tipo "));
   EXPECT_TRUE(propMateriali.FrameBull.visibile);
   EXPECT_TRUE(propMateriali.FrameAccPia.visibile);
-  EXPECT_EQ(propMateriali.Unit.coloreSfondo, 0xFFFFC8);   // red 200, green 255, blue 255
+  EXPECT_EQ(propMateriali.Unit.coloreSfondo, 0xFFFFC8);  // red 200, green 255, blue 255
 }
 
 // A frame not in use is hidden, and nothing is worked out for it: bolts of class 0 would divide by zero.
@@ -107,14 +107,15 @@ TEST_F(Pannelli_, ProprietaDelSoloAcciaio) {
   nodo.MatCls = {};
   nodo.MatAcc.Fyk40 = 3350;
   nodo.MatAcc.GammaMT = 1.25;
-  for (Controllo* c : {&propMateriali.FrameBull, &propMateriali.FrameAccPia, &propMateriali.FrameTir, &propMateriali.FrameCls}) c->testo = "prima";
+  for (Controllo* c : {&propMateriali.FrameBull, &propMateriali.FrameAccPia, &propMateriali.FrameTir, &propMateriali.FrameCls})
+    c->testo = "prima";
   Premi(InsDati, "PropMatButton");
   for (const Controllo* c : {&propMateriali.FrameBull, &propMateriali.FrameAccPia, &propMateriali.FrameTir, &propMateriali.FrameCls}) {
     EXPECT_FALSE(c->visibile);
     EXPECT_EQ(c->testo, "prima");
   }
   EXPECT_TRUE(propMateriali.FrameAcc.visibile);
-  EXPECT_EQ(C(PropMateriali, "fdt40Label").testo, "2680");         // 3350 / 1.25
+  EXPECT_EQ(C(PropMateriali, "fdt40Label").testo, "2680");  // 3350 / 1.25
   EXPECT_TRUE(registratore.eventi.empty());
 }
 
@@ -142,8 +143,8 @@ TEST_F(Pannelli_, ClasseNegativaSiMostraComE) {
   nodo.MatCls.GammaC = 1.5;
   Premi(InsDati, "PropMatButton");
   EXPECT_EQ(C(PropMateriali, "RckClsLabel").testo, "-2");
-  EXPECT_EQ(C(PropMateriali, "fckClsLabel").testo, "-2");          // -1.66
-  EXPECT_EQ(C(PropMateriali, "SammClsLabel").testo, "22");         // 60 - 152 / 4
+  EXPECT_EQ(C(PropMateriali, "fckClsLabel").testo, "-2");   // -1.66
+  EXPECT_EQ(C(PropMateriali, "SammClsLabel").testo, "22");  // 60 - 152 / 4
 }
 
 TEST_F(Pannelli_, FattoreParzialeNulloNonApreIlPannello) {

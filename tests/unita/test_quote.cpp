@@ -23,7 +23,15 @@ class Misure : public ::testing::Test {
     AzzeraFault();
     disegno.DestDis = GENDIS;
     double* p = suite.ParNodo;
-    p[3] = 6; p[4] = 7; p[5] = 2; p[7] = 15; p[8] = 10; p[13] = 5; p[14] = 4; p[19] = 1; p[20] = 3;
+    p[3] = 6;
+    p[4] = 7;
+    p[5] = 2;
+    p[7] = 15;
+    p[8] = 10;
+    p[13] = 5;
+    p[14] = 4;
+    p[19] = 1;
+    p[20] = 3;
     edizione = EdizioneDis();
   }
   void TearDown() override { AzzeraFault(); }
@@ -40,8 +48,8 @@ TEST_F(Misure, Orizzontale) {
   ASSERT_EQ(disegno.NumLinee, 1);
   ASSERT_EQ(disegno.NumArchi, 2);
   ASSERT_EQ(disegno.NumTesti, 1);
-  EXPECT_EQ(disegno.CoordX[disegno.LinIni[0]], 0);           // ends ordered left to right
-  EXPECT_EQ(disegno.CoordX[disegno.ArcIni[0]], 2);           // diameter 4
+  EXPECT_EQ(disegno.CoordX[disegno.LinIni[0]], 0);  // ends ordered left to right
+  EXPECT_EQ(disegno.CoordX[disegno.ArcIni[0]], 2);  // diameter 4
   EXPECT_EQ(disegno.ArcIni[0], disegno.ArcFin[0]);
   EXPECT_EQ(disegno.CoordX[disegno.ArcIni[1]], 102);
   EXPECT_EQ(disegno.LinCol[0], 7);
@@ -59,7 +67,7 @@ TEST_F(Misure, Orizzontale) {
 TEST_F(Misure, VerticaleVersoLAlto) {
   Quota("", 10, 10, 100, 0);
   EXPECT_EQ(disegno.TesAng[0], 90);
-  EXPECT_DOUBLE_EQ(X(0), 5);                                 // left of the upward direction
+  EXPECT_DOUBLE_EQ(X(0), 5);  // left of the upward direction
   EXPECT_DOUBLE_EQ(Y(0), 35);
 }
 
@@ -75,7 +83,7 @@ TEST_F(Misure, Obliqua) {
 
 TEST_F(Misure, DegenereNonDisegnaNulla) {
   Quota("titolo", 5, 5.00005, 7, 7);
-  DisQuota("titolo", 5, 5, 7, 7, -1, 6, 10, 15, 0, 1);       // a text alone neither
+  DisQuota("titolo", 5, 5, 7, 7, -1, 6, 10, 15, 0, 1);  // a text alone neither
   EXPECT_EQ(disegno.NumTesti + disegno.NumLinee + disegno.NumArchi, 0);
 }
 
@@ -91,7 +99,7 @@ TEST_F(Misure, AlLimiteDellaTolleranza) {
 TEST_F(Misure, SoloTesto) {
   DisQuota("SEZIONE B-B", -1, 1, 50, 50, -1, 2, 18, 25, 0, 1);
   EXPECT_EQ(disegno.NumLinee + disegno.NumArchi, 0);
-  EXPECT_DOUBLE_EQ(X(0), -11 * 18 / 2.0);                    // centred on 0, 11 characters
+  EXPECT_DOUBLE_EQ(X(0), -11 * 18 / 2.0);  // centred on 0, 11 characters
   EXPECT_DOUBLE_EQ(Y(0), 50);
 }
 
@@ -107,12 +115,12 @@ TEST_F(Misure, LarghezzaInCaratteri) {
 
 TEST_F(Misure, FormatoMisura) {
   EXPECT_EQ(FormatoMisura(250), "250");
-  EXPECT_EQ(FormatoMisura(12.37), "12.3");                   // cut, not rounded
+  EXPECT_EQ(FormatoMisura(12.37), "12.3");  // cut, not rounded
   EXPECT_EQ(FormatoMisura(12.99), "12.9");
   EXPECT_EQ(FormatoMisura(0.05), ".0");
   EXPECT_EQ(FormatoMisura(0.5), ".5");
   EXPECT_EQ(FormatoMisura(0), "0");
-  EXPECT_EQ(FormatoMisura(1.25e-5), "1.2");                  // the exponent goes with the rest of the text
+  EXPECT_EQ(FormatoMisura(1.25e-5), "1.2");  // the exponent goes with the rest of the text
   EXPECT_EQ(FormatoMisura(1e20), "1E+20");
   EXPECT_FALSE(FaultAritmetico());
   EXPECT_EQ(FormatoMisura(std::numeric_limits<double>::infinity()), "");
@@ -149,9 +157,9 @@ TEST_F(Misure, LargaABastanzaAzzeraLAlternanza) {
   const double a[] = {0, 0, 5, 105, 110};
   CatenaV(a, 4, 100);
   ASSERT_EQ(disegno.NumTesti, 3);
-  EXPECT_DOUBLE_EQ(X(0), 120);                               // vertical: across is to the right
+  EXPECT_DOUBLE_EQ(X(0), 120);  // vertical: across is to the right
   EXPECT_DOUBLE_EQ(X(1), 95);
-  EXPECT_DOUBLE_EQ(X(2), 120);                               // across again, since the wide one in between cleared it
+  EXPECT_DOUBLE_EQ(X(2), 120);  // across again, since the wide one in between cleared it
 }
 
 // A text of 20 on a link of 20 is not too wide; the narrow link behind it is the first to go across.
@@ -182,7 +190,7 @@ TEST_F(Misure, FuoriCatenaIlTestoLargoResta) {
 }
 
 TEST_F(Misure, CatenaParteDallUgualeLato) {
-  quote.QuotaRibaltata = true;                               // left by an earlier chain
+  quote.QuotaRibaltata = true;  // left by an earlier chain
   const double a[] = {0, 0, 5};
   CatenaO(a, 2, 0);
   EXPECT_DOUBLE_EQ(Y(0), -20);
@@ -223,13 +231,31 @@ class Catene : public Misure {
   void SetUp() override {
     Misure::SetUp();
     edizione.quota = RaccogliQuota;
-    nodo.Sezione.H = 200; nodo.Sezione.B = 180;
-    nodo.LatoZ = 400; nodo.LatoY = 500; nodo.SpessPiastra = 20;
-    nodo.TipoNodo = 2; nodo.HNerv = 150; nodo.SpNerv = 8;
-    nodo.NervTaglio = 50; nodo.NervZ = 30; nodo.NervY = 40;
-    nodo.TfZ[1] = 60; nodo.TfZ[2] = 340; nodo.TfY[2] = 70; nodo.TfY[4] = 430; nodo.TfY[6] = 250;
-    nodo.TfFi = 20; nodo.TfLFt = 120; nodo.TfL = 500; nodo.TfR = 70; nodo.TfL1 = 450; nodo.TfLF = 10;
-    nodo.TfDForo = 100; nodo.TfHMalta = 50; nodo.TfLFil = 40;
+    nodo.Sezione.H = 200;
+    nodo.Sezione.B = 180;
+    nodo.LatoZ = 400;
+    nodo.LatoY = 500;
+    nodo.SpessPiastra = 20;
+    nodo.TipoNodo = 2;
+    nodo.HNerv = 150;
+    nodo.SpNerv = 8;
+    nodo.NervTaglio = 50;
+    nodo.NervZ = 30;
+    nodo.NervY = 40;
+    nodo.TfZ[1] = 60;
+    nodo.TfZ[2] = 340;
+    nodo.TfY[2] = 70;
+    nodo.TfY[4] = 430;
+    nodo.TfY[6] = 250;
+    nodo.TfFi = 20;
+    nodo.TfLFt = 120;
+    nodo.TfL = 500;
+    nodo.TfR = 70;
+    nodo.TfL1 = 450;
+    nodo.TfLF = 10;
+    nodo.TfDForo = 100;
+    nodo.TfHMalta = 50;
+    nodo.TfLFil = 40;
     nodo.OptionNTir = 0;
     suite.ParNodo[19] = 2;
   }
@@ -280,7 +306,7 @@ TEST_F(Catene, TirafondiY) {
 TEST_F(Catene, Fori) {
   Attesa(QuoteForiZ, false, {-190, -90, 90, 190});
   Attesa(QuoteForiY, false, {-230, -130, 130, 230});
-  nodo.TfZ[6] = nodo.TfZ[8] = 210;                           // the middle hole is drawn about 0
+  nodo.TfZ[6] = nodo.TfZ[8] = 210;  // the middle hole is drawn about 0
   nodo.TfY[6] = 260;
   nodo.OptionNTir = 3;
   Attesa(QuoteForiZ, false, {-190, -90, -50, 50, 90, 190});
@@ -294,7 +320,7 @@ TEST_F(Catene, Fori) {
 }
 
 TEST_F(Catene, Nervature) {
-  Attesa(QuoteNervY, false, {-250, -130, 130, 250});         // 100 + NervZ
+  Attesa(QuoteNervY, false, {-250, -130, 130, 250});  // 100 + NervZ
   Attesa(QuoteNervZ, false, {-200, -128, -98, -90, 90, 98, 128, 200});
   Attesa(QuoteNervPianta, true, {-250, -100, -92, 92, 100, 250});
 }
@@ -341,7 +367,7 @@ TEST_F(Marchi, TrattiInterni) {
   Segmento(1, {14, 0, 14, 7});
   Segmento(2, {0, 7, 20, 7});
   EXPECT_EQ(disegno.LinCol[0], 3);
-  EXPECT_EQ(disegno.NumTesti, 0);                            // names are off
+  EXPECT_EQ(disegno.NumTesti, 0);  // names are off
 }
 
 TEST_F(Marchi, Tipo1HaGliEstremi) {
@@ -375,7 +401,7 @@ TEST_F(Marchi, Direzioni) {
 }
 
 TEST_F(Marchi, ScostamentoDelCerchioDelProgramma) {
-  DisSaldatura(nullptr, 0, 0, 0, 20, 1, 2, 3);               // half of 3.141592 has a cosine of 3.268E-7
+  DisSaldatura(nullptr, 0, 0, 0, 20, 1, 2, 3);  // half of 3.141592 has a cosine of 3.268E-7
   EXPECT_NEAR(disegno.CoordX[disegno.LinIni[1]], 14 * std::cos(1.570796), 1e-15);
   EXPECT_NE(disegno.CoordX[disegno.LinIni[1]], 0);
 }
@@ -417,7 +443,7 @@ TEST_F(Marchi, GolaNullaNessunMarchio) {
   quote.EtichetteSald = true;
   DisSaldatura(nullptr, 0, 0, 100, 0, 1, 1, 3);
   EXPECT_EQ(disegno.NumLinee + disegno.NumTesti, 0);
-  DisLineaSald(0, 0, 100, 0, 1, 2, 3);                       // the line itself stays
+  DisLineaSald(0, 0, 100, 0, 1, 2, 3);  // the line itself stays
   EXPECT_EQ(disegno.NumLinee, 1);
 }
 
@@ -445,12 +471,12 @@ TEST_F(Marchi, GolaMinuscola) {
   EXPECT_TRUE(FaultAritmetico());
   AzzeraFault();
   AzzeraDisegno();
-  nodo.Gola = 1e-6;                                          // a thousand million strokes of no length
+  nodo.Gola = 1e-6;  // a thousand million strokes of no length
   DisSaldatura(nullptr, 0, 0, 1000, 0, 1, 2, 3);
   EXPECT_EQ(disegno.NumLinee, 1);
   EXPECT_FALSE(FaultAritmetico());
   AzzeraDisegno();
-  nodo.Gola = 0.0001;                                        // strokes as long as the tolerance are drawn
+  nodo.Gola = 0.0001;  // strokes as long as the tolerance are drawn
   DisSaldatura(nullptr, 0, 0, 0.001, 0, 1, 2, 3);
   EXPECT_EQ(disegno.NumLinee, 10);
   nodo.Gola = 0.01;
@@ -478,8 +504,8 @@ TEST_F(Marchi, TrattiMaiPiuDelleLinee) {
   disegno.DestDis = {};
   Tela tela;
   nodo.Gola = 1;
-  DisSaldatura(&tela, 0, 0, 1e6, 0, 1, 2, 0);                // a canvas, which holds any number
-  EXPECT_EQ(tela.tratti.size(), 50001u);                     // 50000 strokes and the parallel line
+  DisSaldatura(&tela, 0, 0, 1e6, 0, 1, 2, 0);  // a canvas, which holds any number
+  EXPECT_EQ(tela.tratti.size(), 50001u);       // 50000 strokes and the parallel line
   disegno.DestDis = GENDIS;
 }
 
@@ -511,7 +537,7 @@ TEST_F(Marchi, Angoli) {
     EXPECT_EQ(disegno.ArcCol[q], 3);
   }
   EXPECT_EQ(disegno.ArcCol[4], 6);
-  nodo.Gola = 1000;                                          // four quarters of 3.141592 end 0.0013 short of where they began
+  nodo.Gola = 1000;  // four quarters of 3.141592 end 0.0013 short of where they began
   DisAngoloSald(nullptr, 0, 0, 4);
   EXPECT_DOUBLE_EQ(disegno.CoordY[disegno.ArcFin[5]], 1000 * std::sin(2 * 3.141592));
 }

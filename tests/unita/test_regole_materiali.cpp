@@ -51,14 +51,14 @@ TEST(RegoleMateriali, Alternativo) {
   const MatAcciaio vuoto;
   const std::vector<MatAcciaio> t = {vuoto, Acciaio("S 235", 0, 0, 1, 1, 1, 1), Acciaio("S 355 (FE 510)", 1, 1, 1, 1, 1, 1),
                                      Acciaio("S 355", 1, 1, 1, 1, 0, 0), Acciaio("S 355 N", 1, 1, 1, 1, 1, 1)};
-  EXPECT_EQ(Alternativo(true, "PROFILI", "S 355", t), 1);          // entry 2: its name holds S 355; the same name does not count
-  EXPECT_EQ(Alternativo(true, "PROFILI", "S 355 (FE 510) x", t), 1);   // held by the one asked for
-  EXPECT_EQ(Alternativo(true, "PROFILI", "S 355 N", t), 2);        // entry 3 is held by it
-  EXPECT_EQ(Alternativo(false, "BULLONI", "S 355 N", t), 0);       // entry 3 has no Ftk; none left
-  EXPECT_EQ(Alternativo(true, "PROFILI", "S 235 W", t), 0);        // entry 1 has no value by TA: none
-  EXPECT_EQ(Alternativo(false, "PROFILI", "S 235 W", t), 0);       // entry 1
-  EXPECT_EQ(Alternativo(true, "PROFILI", "s 355", t), 0);          // case counts
-  EXPECT_EQ(Alternativo(true, "PROFILI", "", t), 1);               // every name holds the empty one
+  EXPECT_EQ(Alternativo(true, "PROFILI", "S 355", t), 1);             // entry 2: its name holds S 355; the same name does not count
+  EXPECT_EQ(Alternativo(true, "PROFILI", "S 355 (FE 510) x", t), 1);  // held by the one asked for
+  EXPECT_EQ(Alternativo(true, "PROFILI", "S 355 N", t), 2);           // entry 3 is held by it
+  EXPECT_EQ(Alternativo(false, "BULLONI", "S 355 N", t), 0);          // entry 3 has no Ftk; none left
+  EXPECT_EQ(Alternativo(true, "PROFILI", "S 235 W", t), 0);           // entry 1 has no value by TA: none
+  EXPECT_EQ(Alternativo(false, "PROFILI", "S 235 W", t), 0);          // entry 1
+  EXPECT_EQ(Alternativo(true, "PROFILI", "s 355", t), 0);             // case counts
+  EXPECT_EQ(Alternativo(true, "PROFILI", "", t), 1);                  // every name holds the empty one
   EXPECT_EQ(Alternativo(true, "ALTRO", "S 355", t), 0);
   EXPECT_EQ(Alternativo(true, "PROFILI", "S 355", {vuoto}), 0);
 }
@@ -78,9 +78,9 @@ TEST(RegoleMateriali, ValoreComeTesto) {
   EXPECT_EQ(ImpostaValoreMat_(-0.0, 2), "0");
   EXPECT_EQ(ImpostaValoreMat_(2350, 1), "2350");
   EXPECT_EQ(ImpostaValoreMat_(2238.0952, 1), "2238.1");
-  EXPECT_EQ(ImpostaValoreMat_(0.254, 2), ".25");             // plain form
-  EXPECT_EQ(ImpostaValoreMat_(0.125, 2), ".12");             // ties to even
+  EXPECT_EQ(ImpostaValoreMat_(0.254, 2), ".25");  // plain form
+  EXPECT_EQ(ImpostaValoreMat_(0.125, 2), ".12");  // ties to even
   EXPECT_EQ(ImpostaValoreMat_(0.375, 2), ".38");
   EXPECT_EQ(ImpostaValoreMat_(2.5, 0), "2");
-  EXPECT_EQ(ImpostaValoreMat_(3.5, -1), "4");                // fewer than 0 decimals count as 0
+  EXPECT_EQ(ImpostaValoreMat_(3.5, -1), "4");  // fewer than 0 decimals count as 0
 }

@@ -44,7 +44,7 @@ RigheFile Testata() {
     "|Num  |   Lz|   Ly|   Sp",
     "|1    |  400|  500|   20",
     "|2(Y) |  500|  150|    8",
-    "|3(Z) |   92|  150|    8",                           // (400 - 200) / 2 - 8
+    "|3(Z) |   92|  150|    8",  // (400 - 200) / 2 - 8
     "",
     "TIRAFONDI",
     "",
@@ -66,10 +66,10 @@ RigheFile Testata() {
     "MATERIALI",
     "|Acciaio S 275 (FE 430)                   Calcestruzzo C25/30                     ",
     "|fd s<40mm           |fd 40mm<s<80mm      fcd                                     ",
-    "|261,9               |242,86              14,11                                   ",   // 2750 / 1.05, 2550 / 1.05, 300 x 0.7055 / 1.5 = 141.1
+    "|261,9               |242,86              14,11                                   ",  // 2750 / 1.05, 2550 / 1.05, 300 x 0.7055 / 1.5 = 141.1
     "|Acciaio tirafondi 8.8                    ",
     "|fd                                       ",
-    "|512                 ",                              // 6400 / 1.25
+    "|512                 ",  // 6400 / 1.25
     "",
     "",
     "SOLLECITAZIONI AGENTI E STATO TENSIONALE",
@@ -86,7 +86,7 @@ TEST_F(RelSLU, TestataESestettoRigaPerRiga) {
   ris.FvEd[1][1] = 250, ris.FtEd[1][1] = 2450, ris.Co1[1][1] = 0.15971, ris.Co2[1][1] = 0.17361, ris.Co3[1][1] = 0.25788;
   ris.FvEd[1][3] = 7100.5, ris.FtEd[1][3] = -3024.525, ris.Co1[1][3] = 1.01436, ris.Co2[1][3] = 0.2143, ris.Co3[1][3] = 0.3184;
   ris.Saldature[1].SPrp[1][1] = 3, ris.Saldature[1].TauPa[1][3] = -4, ris.Saldature[1].TauPe[1][1] = 0.1234;
-  ris.Saldature[2].Lung = 0;                             // never made: in the list, without a row
+  ris.Saldature[2].Lung = 0;  // never made: in the list, without a row
   ris.Saldature[4].TauPa[1][1] = -20;
   ris.SMaxPiastra[1] = 15.55, ris.SMaxCls[1] = 0.105;
   const double S[] = {0, 3, 0, 2, 7.25, 0, 4.5, 1, 0};
@@ -107,7 +107,7 @@ TEST_F(RelSLU, TestataESestettoRigaPerRiga) {
     "|Num|  Fv,Ed|  Fv,Rd|  Fb,Rd|  Ft,Ed|  Ft,Rd|  Bp,Rd| Tad,Rd|Co-1|Co-2|Co-3| Ver",
     "|1  |    2,5|     70| 120,01|   24,5| 141,12|    300| 95,006|0,16|0,17|0,26|SI'",
     "|2  |      0|     70| 120,02|      0| 141,12|    300| 95,006|   0|   0|   0|SI'",
-    "|3  | 71,005|     70| 120,03|-30,245| 141,12|    300| 95,006|1,01|0,21|0,32| NO",   // -30.24525
+    "|3  | 71,005|     70| 120,03|-30,245| 141,12|    300| 95,006|1,01|0,21|0,32| NO",  // -30.24525
     "|4  |      0|     70| 120,04|      0| 141,12|    300| 95,006|   0|   0|   0|SI'",
     "",
     "Verifica saldature",
@@ -117,7 +117,7 @@ TEST_F(RelSLU, TestataESestettoRigaPerRiga) {
     // daN/cm2 at ends 1 and 3: 300 and 12.34, then -400; SEq1 = max(sqrt(90000 + 152.2756) = 300.2537, 400), SEq2 = 312.34
     "|   S1|   30|      40|    1,23|      40|   31,23|   192,5|  233,75|SI'",
     "|   S3|    0|       0|       0|       0|       0|   192,5|  233,75|SI'",
-    "|   S4|    0|     200|       0|     200|       0|   192,5|  233,75| NO",            // 2000 > 0.7 x 2750 = 1925
+    "|   S4|    0|     200|       0|     200|       0|   192,5|  233,75| NO",  // 2000 > 0.7 x 2750 = 1925
     "",
     "Verifica piastra",
     "|   Smax|     fd|    Ver",
@@ -139,11 +139,11 @@ TEST_F(RelSLU, TestataESestettoRigaPerRiga) {
 
   EXPECT_EQ(registratore.eventi, (RigheFile{BOX_NON_VERIFICATO, "[testo] " + FileSLU()}));
   EXPECT_FALSE(lavoro.verificato);
-  EXPECT_EQ(ris.Co1[1][3], 1.01436);                     // rounded in their rows
+  EXPECT_EQ(ris.Co1[1][3], 1.01436);  // rounded in their rows
   EXPECT_EQ(RigheCriterio(lavoro, 1, SLU_TIR_CO1)[2].domanda, 1.01);
   EXPECT_EQ(RigheCriterio(lavoro, 1, SLU_TIR_CO2)[0].domanda, 0.17);
   EXPECT_EQ(RigheCriterio(lavoro, 1, SLU_TIR_CO3)[0].domanda, 0.26);
-  EXPECT_EQ(ris.SMaxPiastra[1], 15.55);                  // scaled in their rows
+  EXPECT_EQ(ris.SMaxPiastra[1], 15.55);  // scaled in their rows
   EXPECT_EQ(ris.SMaxCls[1], 0.105);
   EXPECT_DOUBLE_EQ(RigheCriterio(lavoro, 1, SLU_PIASTRA)[0].domanda, 1555);
   EXPECT_DOUBLE_EQ(RigheCriterio(lavoro, 1, SLU_CLS)[0].domanda, 10.5);
@@ -176,8 +176,8 @@ TEST_F(RelSLU, ArrotondamentiDellaGeometria) {
   nodo.MatCls.Nome = "Calcestruzzo di prova con un nome lungo";
   const RigheFile r = Relazione();
   EXPECT_EQ(r[8], "|PROFILO SALDATO 12  |              190.25|  200|6.5625|   10|   18");
-  EXPECT_EQ(r[12], "|1    |1400.2|  500|   20");                           // tie to even
-  EXPECT_EQ(r[14], "|3(Z) |592.1|  150|    8");                            // (1400.25 - 200) / 2 - 8 = 592.125
+  EXPECT_EQ(r[12], "|1    |1400.2|  500|   20");  // tie to even
+  EXPECT_EQ(r[14], "|3(Z) |592.1|  150|    8");   // (1400.25 - 200) / 2 - 8 = 592.125
   // 1400.25 - 50.3125 = 1349.9375; area 296.5454
   EXPECT_EQ(r[20], "|1  |1349.9|   50|  22| 296.55 |3      |1350.2|  460|  22| 296.55");
   EXPECT_EQ(Dopo(r, "|    l|  lft|   l1|    r", 1), "|500.1|  120|  450|   70");
@@ -193,7 +193,7 @@ TEST_F(RelSLU, OgniLunghezzaConUnDecimale) {
   const RigheFile r = Relazione();
   EXPECT_EQ(r[12], "|1    |  400|500.3| 20.4");
   EXPECT_EQ(r[13], "|2(Y) |500.3|150.4|  8.3");
-  EXPECT_EQ(r[14], "|3(Z) | 91.7|150.4|  8.3");                             // 100 - 8.28 = 91.72
+  EXPECT_EQ(r[14], "|3(Z) | 91.7|150.4|  8.3");  // 100 - 8.28 = 91.72
   EXPECT_EQ(r[20], "|1  |350| 50.3|20.4| 254.17 |3      |350|  460|20.4| 254.17");
   EXPECT_EQ(Dopo(r, "|    l|  lft|   l1|    r", 1), "|  500|120.3|450.4| 70.3");
   EXPECT_EQ(Dopo(r, TITOLI_LISTA, 1), "|S1   |  100.3|   7 |S3   |    103|   7");
@@ -207,7 +207,7 @@ TEST_F(RelSLU, OgniColonnaCoiSuoiDecimali) {
   ris.FvEd[1][1] = 123.4567, ris.FvRd = 7012.3456, ris.FbRd[1] = 12001.2345, ris.FtEd[1][1] = 234.5678;
   ris.FtRd = 14112.7777, ris.BpRd = 30001.2345, ris.TadRd = 9500.6789;
   ris.Saldature[1].SPrp[1][1] = 0.4567, ris.Saldature[1].TauPa[1][1] = 0.5671, ris.Saldature[1].TauPe[1][1] = 0.6789;
-  ris.Saldature[5].Nome = "S5", ris.Saldature[5].Lung = 77;                // beyond NumSaldature: no row
+  ris.Saldature[5].Nome = "S5", ris.Saldature[5].Lung = 77;  // beyond NumSaldature: no row
   ris.SMaxPiastra[1] = 1.2345, ris.SNerv[1][3] = 1.2345, ris.SNerv[1][5] = 0.5671, ris.SMaxCls[1] = 0.1049;
   const RigheFile r = Relazione();
   // 2619.0476: 32.7381; 2428.5714: 30.3571; 141.1: 1.76375; 6553.7 / 1.25: 65.537
@@ -217,10 +217,10 @@ TEST_F(RelSLU, OgniColonnaCoiSuoiDecimali) {
   // 0.570875, 0.708875, 0.848625; sqrt(9910.8251) = 99.5531: 1.2444; 113.56: 1.4195; 0.7 x 2750: 24.0625; 0.85 x 2750: 29.21875
   EXPECT_EQ(Dopo(r, TITOLI_SALDATURE, 1), "|   S1| 0.57|    0.71|    0.85|    1.24|    1.42|   24.06|   29.22|SI'");
   EXPECT_EQ(Dopo(r, TITOLI_SALDATURE, 5), "");
-  EXPECT_EQ(Dopo(r, TITOLI_PIASTRA, 1), "|   1.54|  32.74|SI'");            // 1.543125
+  EXPECT_EQ(Dopo(r, TITOLI_PIASTRA, 1), "|   1.54|  32.74|SI'");  // 1.543125
   EXPECT_EQ(Dopo(r, TITOLI_NERVATURE, 1), "|Z        |   1.54|  32.74|SI'");
   EXPECT_EQ(Dopo(r, TITOLI_NERVATURE, 2), "|Y        |   0.71|  32.74|SI'");
-  EXPECT_EQ(Dopo(r, TITOLI_CLS, 1), "|   0.13|   1.76|SI'");                // 0.131125
+  EXPECT_EQ(Dopo(r, TITOLI_CLS, 1), "|   0.13|   1.76|SI'");  // 0.131125
 }
 
 TEST_F(RelSLU, ConteggiDispariNelleDueColonne) {
@@ -236,7 +236,7 @@ TEST_F(RelSLU, ConteggiDispariNelleDueColonne) {
   EXPECT_EQ(Dopo(r, TITOLI_LISTA, 2), "|S2   |  101.5|   7");
   EXPECT_EQ(Dopo(r, TITOLI_LISTA, 3), "");
 
-  Saldature(17);                                         // 9 is the last on the left, alone: its own values, no dashes
+  Saldature(17);  // 9 is the last on the left, alone: its own values, no dashes
   r = Relazione();
   EXPECT_EQ(Dopo(r, TITOLI_LISTA, 8), "|S8   |  110.5|   7 |S17  |    124|   7");
   EXPECT_EQ(Dopo(r, TITOLI_LISTA, 9), "|S9   |    112|   7");
@@ -245,7 +245,7 @@ TEST_F(RelSLU, ConteggiDispariNelleDueColonne) {
 TEST_F(RelSLU, SaldatureInterneConTrattini) {
   Sestetti(1);
   Saldature(40);
-  ris.Saldature[9] = {}, ris.Saldature[19] = {};         // never made: no name, no length
+  ris.Saldature[9] = {}, ris.Saldature[19] = {};  // never made: no name, no length
   RigheFile r = Relazione();
   EXPECT_EQ(Dopo(r, TITOLI_LISTA, 8), "|S8   |  110.5|   7 |S28  |  140.5|   7");
   EXPECT_EQ(Dopo(r, TITOLI_LISTA, 9), "|S9   |      -|   - |S29  |    142|   7");
@@ -259,7 +259,7 @@ TEST_F(RelSLU, SaldatureInterneConTrattini) {
   // Left over from a run with inner welds: dashes in the list, a row all the same, judged too.
   SetUp();
   Sestetti(1);
-  Saldature(38);                                         // now 19 is the last of the left column, beside 38
+  Saldature(38);  // now 19 is the last of the left column, beside 38
   ris.Saldature[9].TauPa[1][1] = 20;
   r = Relazione();
   EXPECT_EQ(Dopo(r, TITOLI_LISTA, 9), "|S9   |      -|   - |S28  |  140.5|   7");
@@ -269,10 +269,10 @@ TEST_F(RelSLU, SaldatureInterneConTrattini) {
 
   SetUp();
   nodo.SaldInt = 1;
-  Saldature(18);                                         // 9 on the left with its values, 18 on the right
+  Saldature(18);  // 9 on the left with its values, 18 on the right
   r = Relazione();
   EXPECT_EQ(Dopo(r, TITOLI_LISTA, 9), "|S9   |    112|   7 |S18  |  125.5|   7");
-  nodo.SaldInt = -1;                                     // dashes with 0 only
+  nodo.SaldInt = -1;  // dashes with 0 only
   EXPECT_EQ(Dopo(Relazione(), TITOLI_LISTA, 9), "|S9   |    112|   7 |S18  |  125.5|   7");
 
   SetUp();
@@ -280,13 +280,13 @@ TEST_F(RelSLU, SaldatureInterneConTrattini) {
   r = Relazione();
   EXPECT_EQ(Dopo(r, TITOLI_LISTA, 9), "|S9   |      -|   - |S18  |  125.5|   7");
   Saldature(20);
-  r = Relazione();                                       // dashes on the right as well: 9 and 19 in one row
+  r = Relazione();  // dashes on the right as well: 9 and 19 in one row
   EXPECT_EQ(Dopo(r, TITOLI_LISTA, 9), "|S9   |      -|   - |S19  |      -|   -");
 }
 
 TEST_F(RelSLU, LunghezzaMinimaDellaSaldatura) {
   Sestetti(1);
-  ris.Saldature[1].Lung = 0.0001;                        // not above it: no row
+  ris.Saldature[1].Lung = 0.0001;  // not above it: no row
   ris.Saldature[2].Lung = 0.0002;
   const RigheFile r = Relazione();
   EXPECT_EQ(Dopo(r, TITOLI_SALDATURE, 1).substr(0, 6), "|   S2");
@@ -295,9 +295,9 @@ TEST_F(RelSLU, LunghezzaMinimaDellaSaldatura) {
 TEST_F(RelSLU, TipoNodoUnoSenzaBloccoNervature) {
   nodo.TipoNodo = 1;
   Sestetti(1);
-  ris.SNerv[1][3] = 1000;                                // stale: neither shown nor judged
+  ris.SNerv[1][3] = 1000;  // stale: neither shown nor judged
   const RigheFile r = Relazione();
-  EXPECT_EQ(Conta(r, "|2(Y) |  500|  150|    8"), 1u);   // the geometry is written all the same
+  EXPECT_EQ(Conta(r, "|2(Y) |  500|  150|    8"), 1u);  // the geometry is written all the same
   EXPECT_EQ(Conta(r, "Verifica nervature"), 0u);
   EXPECT_EQ(Dopo(r, TITOLI_PIASTRA, 3), "Verifica pressione sul calcestruzzo");
   EXPECT_EQ(r.back(), std::string(VERIFICATO) + "Soll 1");
@@ -306,13 +306,11 @@ TEST_F(RelSLU, TipoNodoUnoSenzaBloccoNervature) {
 // ---- limits: each value on its limit passes, a little above fails
 
 // Strengths that divide evenly: fd 2000 (thin) and 1800 daN/cm2, SLim 1700 and 2000, fcd 141.1.
-void Acciaio235() {
-  nodo.MatAcc.Nome = "S 235", nodo.MatAcc.Fyk = 2000, nodo.MatAcc.Fyk40 = 1800, nodo.MatAcc.GammaM = 1;
-}
+void Acciaio235() { nodo.MatAcc.Nome = "S 235", nodo.MatAcc.Fyk = 2000, nodo.MatAcc.Fyk40 = 1800, nodo.MatAcc.GammaM = 1; }
 
 struct CasoLimite {
   const char* nome;
-  void (*imposta)();               // everything zero but this
+  void (*imposta)();  // everything zero but this
   bool passa;
 };
 // clang-format off
@@ -356,7 +354,7 @@ TEST_F(RelSLU, OgniVerificaEStretta) {
     EXPECT_EQ(r.back(), std::string(caso.passa ? VERIFICATO : NON_VERIFICATO) + "Soll 1") << caso.nome;
     EXPECT_EQ(lavoro.verificato, caso.passa) << caso.nome;
     EXPECT_EQ(registratore.eventi[0] == BOX_NON_VERIFICATO, !caso.passa) << caso.nome;
-    std::size_t no = 0;                                  // one row says NO, and no more
+    std::size_t no = 0;  // one row says NO, and no more
     for (const std::string& riga : r) no += riga.ends_with("| NO");
     EXPECT_EQ(no, caso.passa ? 0u : 1u) << caso.nome;
   }
@@ -367,7 +365,7 @@ TEST_F(RelSLU, UnoVirgolaZeroZeroQuattroMostraUno) {
   ris.Co1[1][1] = 1.004, ris.Co2[1][1] = 0.125, ris.Co3[1][1] = 100;
   const RigheFile r = Relazione();
   EXPECT_EQ(Dopo(r, TITOLI_TIRAFONDI, 1), "|1  |      0|     70| 120.01|      0| 141.12|    300| 95.006|   1|0.12| 100| NO");
-  EXPECT_EQ(RigheCriterio(lavoro, 1, SLU_TIR_CO2)[0].domanda, 0.12);     // tie to even
+  EXPECT_EQ(RigheCriterio(lavoro, 1, SLU_TIR_CO2)[0].domanda, 0.12);  // tie to even
 }
 
 TEST_F(RelSLU, SestettiConLoStessoNome) {
@@ -456,7 +454,7 @@ TEST_F(RelSLU, FattoreDeiBulloniNullo) {
 
 TEST_F(RelSLU, NessunNonNumeroNelFile) {
   Sestetti(2);
-  ris.SMaxPiastra[2] = 1e308;                            // overflows in daN/cm2
+  ris.SMaxPiastra[2] = 1e308;  // overflows in daN/cm2
   EXPECT_FALSE(GiudicaEScrivi(MetodoSLU));
   Fermo(2, SLU_PIASTRA, 0);
   ris.SMaxPiastra[2] = 1e300, suite.FattTensioni = 1e7;  // or in the unit shown
@@ -470,9 +468,10 @@ TEST_F(RelSLU, NessunNonNumeroNelFile) {
 TEST_F(RelSLU, FileCheNonSiApre) {
   suite.DirLavoro += "/manca";
   EXPECT_FALSE(GiudicaEScrivi(MetodoSLU));
-  EXPECT_FALSE(FaultAritmetico());                       // the box was shown, and there is no second one
-  EXPECT_EQ(registratore.eventi, (std::vector<std::string>{"[messaggio] critica | NODO COLONNA - PLINTO | Impossibile scrivere il file " + suite.DirLavoro +
-                                                           "\\RelSLU_QB07_Prova.txt: la cartella o il file dietro il collegamento non esiste."}));
+  EXPECT_FALSE(FaultAritmetico());  // the box was shown, and there is no second one
+  EXPECT_EQ(registratore.eventi,
+            (std::vector<std::string>{"[messaggio] critica | NODO COLONNA - PLINTO | Impossibile scrivere il file " + suite.DirLavoro +
+                                      "\\RelSLU_QB07_Prova.txt: la cartella o il file dietro il collegamento non esiste."}));
 }
 
 }  // namespace

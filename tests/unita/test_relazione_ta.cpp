@@ -41,7 +41,7 @@ RigheFile Testata4Saldature() {
     "",
     "\tTirafondi num.: 4",
     "\tNum.\tZ\tY\tFi\tArea",
-    "\t1\t350\t50\t20\t245",                             // Z: 400 - 50
+    "\t1\t350\t50\t20\t245",  // Z: 400 - 50
     "\t2\t50\t50\t20\t245",
     "\t3\t350\t460\t20\t245",
     "\t4\t50\t460\t20\t245",
@@ -53,7 +53,7 @@ RigheFile Testata4Saldature() {
     "",
     "\tNome\tl\th\ts",
     "\tY\t500\t150\t8",
-    "\tZ\t92\t150\t8",                                   // (400 - 200) / 2 - 8
+    "\tZ\t92\t150\t8",  // (400 - 200) / 2 - 8
     "",
     "SALDATURE",
     "",
@@ -69,16 +69,16 @@ RigheFile Testata4Saldature() {
     "\t\t\tAcciaio S 275 (FE 430), S_adm\t\tCls C25/30",
     "\t\t\tsp <= 40mm\tsp > 40mm\tS_adm",
     "\tComb. car. I\t190\t\t170\t\t1,1",
-    "\tComb. car. II\t213,75\t\t191,25\t",               // 2137.5 and 1912.5 daN/cm2
+    "\tComb. car. II\t213,75\t\t191,25\t",  // 2137.5 and 1912.5 daN/cm2
     "\t\t\tAcciaio tirafondi 8.8, S_adm\t\t",
-    "\tComb. car. I\t320,8",                             // 6400 / 1.5 / 1.33 = 3208.0200
-    "\tComb. car. II\t360,9",                            // x 1.125 = 3609.0226
+    "\tComb. car. I\t320,8",   // 6400 / 1.5 / 1.33 = 3208.0200
+    "\tComb. car. II\t360,9",  // x 1.125 = 3609.0226
     "",
     "",
     "SOLLECITAZIONI AGENTI E STATO TENSIONALE",
     "",
     "\tCoefficiente di rifollamento",
-    "\t2",                                               // (500 - 460) / 20
+    "\t2",  // (500 - 460) / 20
   };
 }
 
@@ -107,26 +107,26 @@ TEST_F(RelTA, TestataESestettoRigaPerRiga) {
     "",
     "\tTirafondi",
     "\t\tS_adm tf\tT_adm tf\tTiro max tf\tS_rf_adm p",
-    "\t\t320,8\t\t185,21\t\t78,6\t\t380",                // bond 245 x 3208 / 100 = 7859.6 daN = 78.596 kN, two decimals
+    "\t\t320,8\t\t185,21\t\t78,6\t\t380",  // bond 245 x 3208 / 100 = 7859.6 daN = 78.596 kN, two decimals
     "\tNum.\tSigma\t\tTau\tCoeff\tTiro tf\t\tS_rf p",
-    "\t1\t100\t\t50\t0,17\t24,5\t\t20",                  // (500 / 1852.1)^2 + (1000 / 3208)^2 = 0.07288 + 0.09717
+    "\t1\t100\t\t50\t0,17\t24,5\t\t20",  // (500 / 1852.1)^2 + (1000 / 3208)^2 = 0.07288 + 0.09717
     "\t2\t0\t\t0\t0\t0\t\t0",
-    "\t3\t-123,45\t\t0\t0,15\t-30,245\t\t0",             // (1234.5 / 3208)^2 = 0.1481; -30.24525 kN
+    "\t3\t-123,45\t\t0\t0,15\t-30,245\t\t0",  // (1234.5 / 3208)^2 = 0.1481; -30.24525 kN
     "\t4\t0\t\t0\t0\t0\t\t0",
     "",
     "\tSaldature",
     "\tNome\tS_prp\tTau_pa\tTau_pe\t% su adm",
-    "\tS1\t30\t40\t0\t0,38",                             // 500 / 0.7 / 1900 = 0.3759
+    "\tS1\t30\t40\t0\t0,38",  // 500 / 0.7 / 1900 = 0.3759
     "\tS2\t0\t0\t0\t0",
-    "\tS3\t0\t0\t-25\t0,19",                             // point 3: 250 / 0.7 / 1900 = 0.1880
+    "\tS3\t0\t0\t-25\t0,19",  // point 3: 250 / 0.7 / 1900 = 0.1880
     "\tS4\t0\t0\t0\t0",
     "",
     "\tPiastra\tS_max\t\tS_adm",
     "\t\t155,5\t\t190",
     "",
     "\tFazz.\tS_id max\tS_adm",
-    "\tZ\t72,5\t\t190",                                  // positions 3, 4, 7, 8
-    "\tY\t45\t\t190",                                    // positions 1, 2, 5, 6
+    "\tZ\t72,5\t\t190",  // positions 3, 4, 7, 8
+    "\tY\t45\t\t190",    // positions 1, 2, 5, 6
     "",
     "\tPlinto\tS_max\t\tS_adm",
     "\t\t1,05\t\t1,1",
@@ -184,9 +184,9 @@ TEST_F(RelTA, GeometriaSenzaArrotondamento) {
 TEST_F(RelTA, TipoNodoUnoSenzaBloccoNervature) {
   nodo.TipoNodo = 1;
   Sestetti(1);
-  ris.SNerv[1][3] = 1000;                                // stale: neither shown nor judged
+  ris.SNerv[1][3] = 1000;  // stale: neither shown nor judged
   const RigheFile r = Relazione();
-  EXPECT_EQ(Conta(r, "NERVATURE"), 1u);                  // the geometry is written all the same
+  EXPECT_EQ(Conta(r, "NERVATURE"), 1u);  // the geometry is written all the same
   EXPECT_EQ(Conta(r, "\tFazz.\tS_id max\tS_adm"), 0u);
   EXPECT_EQ(Dopo(r, "\tPiastra\tS_max\t\tS_adm", 3), "\tPlinto\tS_max\t\tS_adm");
   EXPECT_EQ(r.back(), std::string(VERIFICATO) + "Soll 1");
@@ -196,7 +196,7 @@ TEST_F(RelTA, TipoNodoUnoSenzaBloccoNervature) {
 
 struct CasoLimite {
   const char* nome;
-  void (*imposta)();               // everything zero but this
+  void (*imposta)();  // everything zero but this
   bool passa;
 };
 void Acciaio235() { nodo.MatAcc.Nome = "S 235 (FE 360)", nodo.MatAcc.SAmm = 1000; }
@@ -258,7 +258,7 @@ TEST_F(RelTA, OgniVerificaEStretta) {
 TEST_F(RelTA, UnSestettoFallitoTraBuoni) {
   Sestetti(3);
   ris.SMaxPiastra[2] = 20;
-  nodo.SollNome[3] = nodo.SollNome[1];                   // two blocks under one name
+  nodo.SollNome[3] = nodo.SollNome[1];  // two blocks under one name
   const RigheFile r = Relazione();
   EXPECT_EQ(Conta(r, "Combinazione di sollecitazioni agenti Soll 1"), 2u);
   EXPECT_EQ(Conta(r, std::string(VERIFICATO) + "Soll 1"), 2u);
@@ -271,7 +271,7 @@ TEST_F(RelTA, MostratoEGiudicatoConRegoleDiverse) {
   UnitaDaN();
   suite.DecTensioni = 0;
   Sestetti(1);
-  nodo.MatAcc.SAmm = 1902.5;                             // the limit itself shows 1902 (tie to even)
+  nodo.MatAcc.SAmm = 1902.5;  // the limit itself shows 1902 (tie to even)
   ris.SMaxPiastra[1] = 19.025;
   const RigheFile r = Relazione();
   EXPECT_EQ(Dopo(r, "\tPiastra\tS_max\t\tS_adm", 1), "\t\t1902\t\t1902");
@@ -285,25 +285,25 @@ TEST_F(RelTA, ClasseIIAlzaGliAcciaiNonIlCalcestruzzo) {
   ris.SMaxPiastra[1] = 21, ris.SMaxCls[1] = 0.115;
   const RigheFile r = Relazione();
   EXPECT_EQ(Conta(r, "Combinazione di carico tipo II"), 1u);
-  EXPECT_EQ(Conta(r, "\t\t360.9\t\t208.37\t\t88.42\t\t427.5"), 1u);          // 245 x 3609 / 100 = 8842.05 daN
-  EXPECT_EQ(Conta(r, "\tS1\t30\t40\t0\t0.33"), 1u);                          // 500 / 0.7 / 2137.5 = 0.3342
+  EXPECT_EQ(Conta(r, "\t\t360.9\t\t208.37\t\t88.42\t\t427.5"), 1u);  // 245 x 3609 / 100 = 8842.05 daN
+  EXPECT_EQ(Conta(r, "\tS1\t30\t40\t0\t0.33"), 1u);                  // 500 / 0.7 / 2137.5 = 0.3342
   EXPECT_EQ(Dopo(r, "\tPiastra\tS_max\t\tS_adm", 1), "\t\t210\t\t213.75");
   EXPECT_EQ(Dopo(r, "\tFazz.\tS_id max\tS_adm", 1), "\tZ\t0\t\t213.75");
   EXPECT_EQ(Dopo(r, "\tPlinto\tS_max\t\tS_adm", 1), "\t\t1.15\t\t1.1");
-  EXPECT_EQ(r.back(), std::string(NON_VERIFICATO) + "Soll 1");               // by the concrete alone
+  EXPECT_EQ(r.back(), std::string(NON_VERIFICATO) + "Soll 1");  // by the concrete alone
 }
 
 // The limits' line shows the bond of each block: it never rises again.
 TEST_F(RelTA, TiroMassimoNonRisale) {
   suite.DecTensioni = 1;
   Sestetti(4);
-  nodo.SollCC[1] = 1, nodo.SollCC[3] = 1;                // II, I, II, I
+  nodo.SollCC[1] = 1, nodo.SollCC[3] = 1;  // II, I, II, I
   ris.TadRd = 8900;
-  ris.TiroTir[3][1] = 8000;                              // under the class II limit, over the one kept from sextet 2
+  ris.TiroTir[3][1] = 8000;  // under the class II limit, over the one kept from sextet 2
   const RigheFile r = Relazione();
   const std::string titoli = "\t\tS_adm tf\tT_adm tf\tTiro max tf\tS_rf_adm p";
-  EXPECT_EQ(Dopo(r, titoli, 1, 1), "\t\t360.9\t\t208.4\t\t88.4\t\t427.5");   // min(8900, 8842.05)
-  EXPECT_EQ(Dopo(r, titoli, 1, 2), "\t\t320.8\t\t185.2\t\t78.6\t\t380");     // 7859.6
+  EXPECT_EQ(Dopo(r, titoli, 1, 1), "\t\t360.9\t\t208.4\t\t88.4\t\t427.5");  // min(8900, 8842.05)
+  EXPECT_EQ(Dopo(r, titoli, 1, 2), "\t\t320.8\t\t185.2\t\t78.6\t\t380");    // 7859.6
   EXPECT_EQ(Dopo(r, titoli, 1, 3), "\t\t360.9\t\t208.4\t\t78.6\t\t427.5");
   EXPECT_EQ(Dopo(r, titoli, 1, 4), "\t\t320.8\t\t185.2\t\t78.6\t\t380");
   EXPECT_EQ(Conta(r, std::string(NON_VERIFICATO) + "Soll 3"), 1u);
@@ -329,27 +329,27 @@ TEST_F(RelTA, OgniTensioneCoiSuoiDecimali) {
   ris.SMaxPiastra[1] = 1.2345, ris.SNerv[1][3] = 1.2345, ris.SNerv[1][5] = 0.5671, ris.SMaxCls[1] = 0.1049;
   const RigheFile r = Relazione();
   const std::string prima = "\tComb. car. I\t", seconda = "\tComb. car. II\t";
-  EXPECT_EQ(Conta(r, prima + "23.76\t\t21.26\t\t0.15"), 1u);        // 23.75625, 21.25875, 0.14625
-  EXPECT_EQ(Conta(r, seconda + "26.73\t\t23.92\t"), 1u);            // 2138.0625 and 1913.2875 daN/cm2: 26.7258, 23.9161
-  EXPECT_EQ(Conta(r, prima + "41.07"), 1u);                          // 6555 / 1.5 / 1.33 = 3285.7143: 41.0714
-  EXPECT_EQ(Conta(r, seconda + "46.21"), 1u);                        // x 1.125: 46.2054
+  EXPECT_EQ(Conta(r, prima + "23.76\t\t21.26\t\t0.15"), 1u);  // 23.75625, 21.25875, 0.14625
+  EXPECT_EQ(Conta(r, seconda + "26.73\t\t23.92\t"), 1u);      // 2138.0625 and 1913.2875 daN/cm2: 26.7258, 23.9161
+  EXPECT_EQ(Conta(r, prima + "41.07"), 1u);                   // 6555 / 1.5 / 1.33 = 3285.7143: 41.0714
+  EXPECT_EQ(Conta(r, seconda + "46.21"), 1u);                 // x 1.125: 46.2054
   // 3285.7: 41.07125; 3285.7 / 1.7320508 = 1897: 23.7125; bond 245 x 3285.7 / 100 = 8049.965 daN; 1900.5 x 2 = 3801: 47.5125
   EXPECT_EQ(Conta(r, "\t\t41.07\t\t23.71\t\t80.5\t\t47.51"), 1u);
-  EXPECT_EQ(Conta(r, "\t1\t1.54\t\t0.71\t0\t0\t\t2.93"), 1u);       // 1.543125, 0.708875, 2.932125
-  EXPECT_EQ(Conta(r, "\tS1\t0.57\t0.71\t0.85\t0.07"), 1u);          // 0.570875, 0.708875, 0.848625; 99.553 / 0.7 / 1900.5
+  EXPECT_EQ(Conta(r, "\t1\t1.54\t\t0.71\t0\t0\t\t2.93"), 1u);  // 1.543125, 0.708875, 2.932125
+  EXPECT_EQ(Conta(r, "\tS1\t0.57\t0.71\t0.85\t0.07"), 1u);     // 0.570875, 0.708875, 0.848625; 99.553 / 0.7 / 1900.5
   EXPECT_EQ(Conta(r, "\t\t1.54\t\t23.76"), 1u);
   EXPECT_EQ(Conta(r, "\tZ\t1.54\t\t23.76"), 1u);
   EXPECT_EQ(Conta(r, "\tY\t0.71\t\t23.76"), 1u);
-  EXPECT_EQ(Conta(r, "\t\t0.13\t\t0.15"), 1u);                       // 0.131125, 0.14625
+  EXPECT_EQ(Conta(r, "\t\t0.13\t\t0.15"), 1u);  // 0.131125, 0.14625
 }
 
 // Ratios are rounded with halves upward, unlike the printed stresses.
 TEST_F(RelTA, RapportiAlCentesimoPerEccesso) {
   Sestetti(1);
   suite.DecTensioni = 4;
-  Acciaio235(), nodo.MatTir.Fyk = 5152;                  // limits 2582.5, and 2582.5 / 1.7320508 = 1491.007: 1491
-  ris.SigmaTir[1][1] = 6.45625, ris.TauTir[1][1] = 3.7275;   // a quarter of each: 0.25^2 + 0.25^2 = 0.125
-  ris.Saldature[1].SPrp[1][1] = 1.0625;                  // 106.25 / 0.85 / 1000 = 0.125
+  Acciaio235(), nodo.MatTir.Fyk = 5152;                     // limits 2582.5, and 2582.5 / 1.7320508 = 1491.007: 1491
+  ris.SigmaTir[1][1] = 6.45625, ris.TauTir[1][1] = 3.7275;  // a quarter of each: 0.25^2 + 0.25^2 = 0.125
+  ris.Saldature[1].SPrp[1][1] = 1.0625;                     // 106.25 / 0.85 / 1000 = 0.125
   const RigheFile r = Relazione();
   EXPECT_EQ(Conta(r, "\t1\t64.5625\t\t37.275\t0.13\t0\t\t0"), 1u);
   EXPECT_EQ(Conta(r, "\tS1\t10.625\t0\t0\t0.13"), 1u);
@@ -376,9 +376,9 @@ TEST_F(RelTA, PiastraEFazzolettiOltre40mm) {
 TEST_F(RelTA, SaldatureInterneSoloConSaldInt) {
   Sestetti(1);
   Saldature(20);
-  ris.Saldature[9].SPrp[1][1] = 100;                     // stale, far over the limit
+  ris.Saldature[9].SPrp[1][1] = 100;  // stale, far over the limit
   RigheFile r = Relazione();
-  EXPECT_EQ(Conta(r, "\tNum. saldature: 20"), 1u);       // counted, not listed
+  EXPECT_EQ(Conta(r, "\tNum. saldature: 20"), 1u);  // counted, not listed
   EXPECT_EQ(Dopo(r, "\tNome\tLungh.\tLato", 8), "\tS8\t110.5\t7");
   EXPECT_EQ(Dopo(r, "\tNome\tLungh.\tLato", 9), "\tS10\t113.5\t7");
   EXPECT_EQ(Dopo(r, "\tNome\tLungh.\tLato", 18), "\tS20\t128.5\t7");
@@ -394,7 +394,7 @@ TEST_F(RelTA, SaldatureInterneSoloConSaldInt) {
   r = Relazione();
   EXPECT_EQ(Dopo(r, "\tNome\tLungh.\tLato", 9), "\tS9\t112\t7");
   EXPECT_EQ(Dopo(r, "\tNome\tLungh.\tLato", 19), "\tS19\t127\t7");
-  EXPECT_EQ(Dopo(r, "\tNome\tS_prp\tTau_pa\tTau_pe\t% su adm", 9), "\tS9\t130\t0\t0\t0.98");   // 1300 / 1330
+  EXPECT_EQ(Dopo(r, "\tNome\tS_prp\tTau_pa\tTau_pe\t% su adm", 9), "\tS9\t130\t0\t0\t0.98");  // 1300 / 1330
   EXPECT_EQ(Dopo(r, "\tNome\tS_prp\tTau_pa\tTau_pe\t% su adm", 19), "\tS19\t0\t0\t0\t0");
 }
 
@@ -410,7 +410,7 @@ TEST_F(RelTA, TestiInWindows1252) {
 TEST_F(RelTA, AcciaioSconosciuto) {
   Sestetti(2);
   nodo.MatAcc.Nome = "S 450";
-  ris.Saldature[3].TauPa[1][1] = 1;                      // welds 1 and 2 have no stress: ratio 0
+  ris.Saldature[3].TauPa[1][1] = 1;  // welds 1 and 2 have no stress: ratio 0
   ris.SMaxPiastra[1] = 5;
   EXPECT_FALSE(GiudicaEScrivi(MetodoTA));
   Fermo(1, TA_SALD, 3);
@@ -440,10 +440,10 @@ TEST_F(RelTA, TirafondoSenzaResistenza) {
 
 TEST_F(RelTA, NessunNonNumeroNelFile) {
   Sestetti(1);
-  ris.SMaxCls[1] = 1e308;                                // overflows in daN/cm2
+  ris.SMaxCls[1] = 1e308;  // overflows in daN/cm2
   EXPECT_FALSE(GiudicaEScrivi(MetodoTA));
   Fermo(1, TA_CLS, 0);
-  ris.SMaxCls[1] = 1e300, suite.FattTensioni = 1e7;      // or in the unit shown
+  ris.SMaxCls[1] = 1e300, suite.FattTensioni = 1e7;  // or in the unit shown
   EXPECT_FALSE(GiudicaEScrivi(MetodoTA));
   EXPECT_TRUE(FaultAritmetico());
   EXPECT_FALSE(lavoro.fermo.c_e);

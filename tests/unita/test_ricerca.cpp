@@ -39,7 +39,7 @@ TEST_F(Ricerca, ElementoCercato) {
   ScriviByte(lavoro + "/SondaOut.txt", "vecchia\r\n");
   registratore.programmi = true;
   registratore.eseguito = [](const std::string&, const std::string&) {
-    EXPECT_FALSE(EsisteFile(PercorsoRisposta()));         // the former answer is gone
+    EXPECT_FALSE(EsisteFile(PercorsoRisposta()));  // the former answer is gone
     ScriviByte(suite.DirLavoro + "/SondaOut.txt", " 12,15 \r\n");
     return true;
   };
@@ -50,7 +50,7 @@ TEST_F(Ricerca, ElementoCercato) {
   ASSERT_EQ(registratore.eventi.size(), 1u);
   EXPECT_EQ(registratore.eventi[0], "[programma] c:\\suite\\progra\\Sonda.exe |Diroot=c:\\suite|");
   CercaElemento("Titolo", campo, ELEMENTO_NODO, true);
-  EXPECT_EQ(campo, "12");                                 // the first element only
+  EXPECT_EQ(campo, "12");  // the first element only
 }
 
 TEST_F(Ricerca, PrimoElementoPrimaDelTrattino) {
@@ -67,13 +67,13 @@ TEST_F(Ricerca, PrimoElementoPrimaDelTrattino) {
     return true;
   };
   CercaElemento("t", campo, ELEMENTO_NODO, true);
-  EXPECT_EQ(campo, "18");                                 // no separator: the whole line
+  EXPECT_EQ(campo, "18");  // no separator: the whole line
   registratore.eseguito = [](const std::string&, const std::string&) {
     ScriviByte(suite.DirLavoro + "/SondaOut.txt", ",4\r\n");
     return true;
   };
   CercaElemento("t", campo, ELEMENTO_NODO, true);
-  EXPECT_EQ(campo, "18");                                 // an empty first element: as it was
+  EXPECT_EQ(campo, "18");  // an empty first element: as it was
 }
 
 TEST_F(Ricerca, AnnullatoORigaVuotaLasciaIlCampo) {
@@ -101,10 +101,12 @@ TEST_F(Ricerca, CartellaNonScrivibile) {
   suite.DirLavoro = lavoro + "\\manca";
   std::string campo;
   CercaElemento("t", campo, ELEMENTO_NODO);
-  EXPECT_EQ(registratore.eventi[0], "[messaggio] nessuna | ATTENZIONE! | Impossibile scrivere il file di ingresso. Specificare l'elemento da selezionare");
+  EXPECT_EQ(registratore.eventi[0],
+            "[messaggio] nessuna | ATTENZIONE! | Impossibile scrivere il file di ingresso. Specificare l'elemento da selezionare");
   registratore.eventi.clear();
   CercaNodi("t");
-  EXPECT_EQ(registratore.eventi[0], "[messaggio] nessuna | ATTENZIONE | Impossibile scrivere il file di ingresso. Specificare l'elemento da selezionare");
+  EXPECT_EQ(registratore.eventi[0],
+            "[messaggio] nessuna | ATTENZIONE | Impossibile scrivere il file di ingresso. Specificare l'elemento da selezionare");
 }
 
 TEST_F(Ricerca, AltroLavoro) {
@@ -156,8 +158,8 @@ TEST_F(Ricerca, SoloLaPrimaAstaDelNodo) {
   CercaAste(Nodi{20}, tutte, lista);
   EXPECT_EQ(lista, "5,");
   CercaAste(Nodi{30}, tutte, lista);
-  EXPECT_EQ(lista, "5,7,");                               // bar 6 has colour 10, which never passes
-  CercaAste(Nodi{99}, tutte, lista);                      // no such node: nothing is said
+  EXPECT_EQ(lista, "5,7,");           // bar 6 has colour 10, which never passes
+  CercaAste(Nodi{99}, tutte, lista);  // no such node: nothing is said
   EXPECT_EQ(lista, "5,7,");
   EXPECT_TRUE(registratore.eventi.empty());
 }
@@ -172,7 +174,7 @@ TEST_F(Ricerca, PiuNodiInOrdine) {
   EXPECT_EQ(lista, "7,5,7,");
   EXPECT_TRUE(registratore.eventi.empty());
   lista.clear();
-  CercaAste(Nodi{10, 40, 30}, tutte, lista);              // no bar meets at node 40
+  CercaAste(Nodi{10, 40, 30}, tutte, lista);  // no bar meets at node 40
   EXPECT_EQ(lista, "5,");
   ASSERT_EQ(registratore.eventi.size(), 1u);
   EXPECT_TRUE(registratore.eventi[0].ends_with("che concorra nel nodo 40"));
@@ -180,12 +182,13 @@ TEST_F(Ricerca, PiuNodiInOrdine) {
 
 // Nodes of one name: the last one counts. A bar with both ends at its node counts as any other.
 TEST_F(Ricerca, NodiDiUnSoloNome) {
-  ScriviByte(lavoro + "/struttur.str", "release\r\n0\r\n3\r\n1,0,0,7,a\r\n2,0,0,7,b\r\n3.5,0,0,8,c\r\n4\r\n1,1,0,0\r\n4 1\r\n2,2,0,0\r\n5 1\r\n3,4,0,0\r\n6 1\r\n"
+  ScriviByte(lavoro + "/struttur.str",
+             "release\r\n0\r\n3\r\n1,0,0,7,a\r\n2,0,0,7,b\r\n3.5,0,0,8,c\r\n4\r\n1,1,0,0\r\n4 1\r\n2,2,0,0\r\n5 1\r\n3,4,0,0\r\n6 1\r\n"
              "0,1,0,0\r\n7 1\r\n0\r\n");
   std::string lista;
   CercaAste(Nodi{7}, tutte, lista);
   EXPECT_EQ(lista, "5,");
-  CercaAste(Nodi{8}, tutte, lista);                       // no bar ends at a number that is not whole
+  CercaAste(Nodi{8}, tutte, lista);  // no bar ends at a number that is not whole
   EXPECT_EQ(lista, "5,");
   EXPECT_EQ(registratore.eventi.size(), 1u);
 }
@@ -219,17 +222,18 @@ TEST_F(Ricerca, FiltriPerColoreLineaENome) {
 // Colours 0 to 9 and line types 0 to 4 are those that a filter can let pass; the first bar within them is taken.
 TEST_F(Ricerca, ColoriELineeFuoriDalFiltro) {
   ScriviByte(lavoro + "/struttur.str", "release\r\n0\r\n1\r\n1,0,0,1,a\r\n6\r\n1,2,5,0\r\n11 1\r\n1,2,-1,0\r\n12 1\r\n1,2,0,10\r\n13 1\r\n"
-             "1,2,0,-1\r\n14 1\r\n1,2,4,9\r\n0 1\r\n1,2,4,9\r\n16 1\r\n0\r\n");
+                                       "1,2,0,-1\r\n14 1\r\n1,2,4,9\r\n0 1\r\n1,2,4,9\r\n16 1\r\n0\r\n");
   std::string lista;
   CercaAste(Nodi{1}, tutte, lista);
-  EXPECT_EQ(lista, "16,");                                // nor does a bar of number 0
+  EXPECT_EQ(lista, "16,");  // nor does a bar of number 0
 }
 
 TEST_F(Ricerca, StrutturaAssente) {
   suite.DirLavoro = lavoro + "\\manca";
   std::string lista;
   CercaAste(Nodi{20}, tutte, lista);
-  EXPECT_EQ(registratore.eventi.back(), "[messaggio] esclamazione | ERRORE | Errore: file " + suite.DirLavoro + "\\struttur.str errato o mancante.");
+  EXPECT_EQ(registratore.eventi.back(),
+            "[messaggio] esclamazione | ERRORE | Errore: file " + suite.DirLavoro + "\\struttur.str errato o mancante.");
 }
 
 TEST_F(Ricerca, AltroLavoroSoloAccantoAQuesto) {
@@ -244,8 +248,8 @@ TEST_F(Ricerca, IlNodoSiCercaPerNomeEGliEstremiPerNumero) {
   ScriviByte(lavoro + "/struttur.str", "release\r\n0\r\n2\r\n1,0,0,900,a\r\n2,0,0,1,b\r\n2\r\n2,2,0,0\r\n4 1\r\n1,2,0,0\r\n5 1\r\n0\r\n");
   std::string lista;
   CercaAste(Nodi{900}, tutte, lista);
-  EXPECT_EQ(lista, "5,");                                 // bar 4 does not touch node number 1
-  CercaAste(Nodi{2}, tutte, lista);                       // no node of that name
+  EXPECT_EQ(lista, "5,");            // bar 4 does not touch node number 1
+  CercaAste(Nodi{2}, tutte, lista);  // no node of that name
   EXPECT_EQ(lista, "5,");
 }
 
@@ -303,7 +307,7 @@ TEST_F(Ricerca, EsportazioneDeiCarichi) {
   EXPECT_EQ(LeggiByte(lavoro + "/c.txt"), "Unit\xE0 di misura: kN         cm\r\nses\tdescr.Ses.\tN\tTy\tTz\tMt\tMy\tMz\r\n");
   e.primo = 2;
   e.conteggio = 1;
-  ASSERT_EQ(EsportaSollecitazioni(lavoro + "\\d.txt", e), EsitoEsporta::Scritto);   // the ordinals count from the first group
+  ASSERT_EQ(EsportaSollecitazioni(lavoro + "\\d.txt", e), EsitoEsporta::Scritto);  // the ordinals count from the first group
   EXPECT_TRUE(LeggiByte(lavoro + "/d.txt").ends_with("\tMz\r\n1\tCaso 7 As. 5 Nd. 20\t.5\t0\t-.01\t0\t.0001\t0\t\r\n"));
   EXPECT_EQ(EsportaSollecitazioni(lavoro + "\\manca\\c.txt", e), EsitoEsporta::NonAperto);
 }

@@ -35,7 +35,7 @@ void Invio(Controllo& c) { ASSERT_TRUE(Scatena(InsDati, c, Evento::Invio)); }
 }  // namespace
 
 TEST_F(Ridisegno, Sezione) {
-  ASSERT_TRUE(UtenteSceglie(InsDati, insDati.TraveP, 19));             // P20: 120 x 70
+  ASSERT_TRUE(UtenteSceglie(InsDati, insDati.TraveP, 19));  // P20: 120 x 70
   EXPECT_TRUE(Linea(-35, 60, 35, 60));
 }
 
@@ -68,7 +68,7 @@ TEST_F(Ridisegno, Nervature) {
   const std::size_t senza = tratti.size();
   EXPECT_EQ(Cerchi(), 4);
   ASSERT_TRUE(UtenteSceglie(InsDati, insDati.Op_Tip[1], 1));
-  EXPECT_EQ(tratti.size(), senza + 20);      // ten lines a side
+  EXPECT_EQ(tratti.size(), senza + 20);  // ten lines a side
   Scrivi(insDati.HFazzTxt[1], "15");
   Invio(insDati.HFazzTxt[1]);
   const double x = nodo.Sezione.B / 2 + 15;
@@ -78,8 +78,8 @@ TEST_F(Ridisegno, Nervature) {
 TEST_F(Ridisegno, NonDopoUnPassoFallito) {
   ASSERT_TRUE(UtenteSceglie(InsDati, insDati.OptionNTir[1], 1));
   const std::size_t prima = tratti.size();
-  Scrivi(insDati.DTf[1], "1e400");           // no double holds it
-  ASSERT_TRUE(UtenteSceglie(InsDati, insDati.OptionNTir[0], 1));       // reads the distance again
+  Scrivi(insDati.DTf[1], "1e400");                                // no double holds it
+  ASSERT_TRUE(UtenteSceglie(InsDati, insDati.OptionNTir[0], 1));  // reads the distance again
   EXPECT_EQ(tratti.size(), prima);
   EXPECT_EQ(nodo.NTir, 4);
 }
@@ -90,7 +90,7 @@ TEST_F(Ridisegno, DopoUnPassoFallitoSeguonoSoloGliSmussi) {
   passi.fallito = true;
   RidisegnaNodo();
   EXPECT_TRUE(tratti.empty());
-  EXPECT_EQ(nodo.NervTaglio, 30);            // 90 / 3
+  EXPECT_EQ(nodo.NervTaglio, 30);  // 90 / 3
   passi = {};
   RidisegnaNodo();
   EXPECT_FALSE(tratti.empty());

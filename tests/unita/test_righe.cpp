@@ -66,8 +66,8 @@ struct RigheTest : testing::Test {
 struct Prova {
   int metodo, criterio, elemento;
   double* (*dove)();
-  double limite;                   // of the row
-  double al_limite, oltre;         // the number on its limit; just beyond it, 0: the next double that changes the demand
+  double limite;            // of the row
+  double al_limite, oltre;  // the number on its limit; just beyond it, 0: the next double that changes the demand
 };
 
 double* Sigma2() { return &ris.SigmaTir[1][2]; }
@@ -79,7 +79,10 @@ double* Parallela3() { return &ris.Saldature[4].TauPa[1][3]; }
 double* Trasversale1() { return &ris.Saldature[1].TauPe[1][1]; }
 double* Lamiera() { return &ris.SMaxPiastra[1]; }
 double* Pressione() { return &ris.SMaxCls[1]; }
-template <int p> double* Nervatura() { return &ris.SNerv[1][p]; }
+template <int p>
+double* Nervatura() {
+  return &ris.SNerv[1][p];
+}
 double* Rapporto1() { return &ris.Co1[1][1]; }
 double* Rapporto2() { return &ris.Co2[1][4]; }
 double* Rapporto3() { return &ris.Co3[1][2]; }
@@ -135,7 +138,7 @@ const Prova PROVE[] = {
 };
 // clang-format on
 
-constexpr double FCD_200 = 0.85 * 0.83 * 200;            // 141.1 but for its last binary digit
+constexpr double FCD_200 = 0.85 * 0.83 * 200;  // 141.1 but for its last binary digit
 
 }  // namespace
 
@@ -160,7 +163,7 @@ TEST_F(RigheTest, OgniConfronto) {
     EXPECT_TRUE(lavoro.passa[1] && lavoro.verificato) << nome;
     double v = p.oltre;
     RigaControllo no = si;
-    for (int passi = 0; v == 0 && passi < 9; ++passi) {            // the next double whose hundredfold is another one
+    for (int passi = 0; v == 0 && passi < 9; ++passi) {  // the next double whose hundredfold is another one
       const double u = std::nextafter(*p.dove(), p.al_limite > 0 ? 1e9 : -1e9);
       no = giudica(u);
       if (no.domanda > p.limite) v = u;
@@ -173,15 +176,17 @@ TEST_F(RigheTest, OgniConfronto) {
     // It alone turned, and not by the other side of its limit: half of the demand passes.
     for (const RigaControllo& r : lavoro.righe) {
       const bool lei = r.criterio == p.criterio && r.elemento == p.elemento;
-      const bool compagna = p.metodo == MetodoSLU && p.criterio == SLU_SALD_1;     // the sum of one stress is that stress, its limit 2000
+      const bool compagna = p.metodo == MetodoSLU && p.criterio == SLU_SALD_1;  // the sum of one stress is that stress, its limit 2000
       EXPECT_EQ(r.passa, !lei) << nome << ": " << int{r.criterio};
-      if (!lei && !compagna) { EXPECT_EQ(r.domanda, 0) << nome << ": " << int{r.criterio}; }
+      if (!lei && !compagna) {
+        EXPECT_EQ(r.domanda, 0) << nome << ": " << int{r.criterio};
+      }
     }
     EXPECT_TRUE(giudica(p.al_limite / 2).passa) << nome;
   }
 }
 
-TEST_F(RigheTest, SommaDelleTensioniDellaSaldatura) {    // 1000 + 1000 on its limit, while their root stays under 1700
+TEST_F(RigheTest, SommaDelleTensioniDellaSaldatura) {  // 1000 + 1000 on its limit, while their root stays under 1700
   ris.Saldature[2].SPrp[1][3] = 10;
   ris.Saldature[2].TauPe[1][3] = -10;
   Righe(MetodoSLU);
@@ -199,11 +204,11 @@ TEST_F(RigheTest, SommaDelleTensioniDellaSaldatura) {    // 1000 + 1000 on its l
   EXPECT_FALSE(lavoro.verificato);
 }
 
-TEST_F(RigheTest, PressioneSulCalcestruzzoSLU) {         // fcd is not a round number: the last double that passes, and the next
+TEST_F(RigheTest, PressioneSulCalcestruzzoSLU) {  // fcd is not a round number: the last double that passes, and the next
   double v = FCD_200 / 100;
   while (v * 100 > FCD_200) v = std::nextafter(v, 0.0);
   while (std::nextafter(v, 2.0) * 100 <= FCD_200) v = std::nextafter(v, 2.0);
-  for (const double segno : { 1.0, -1.0 }) {
+  for (const double segno : {1.0, -1.0}) {
     ris.SMaxCls[1] = segno * v;
     Righe(MetodoSLU);
     EXPECT_EQ(Riga(1, SLU_CLS, 0)->limite, FCD_200);
@@ -236,7 +241,7 @@ TEST_F(RigheTest, ValoriAssoluti) {
   EXPECT_EQ(Riga(1, TA_NERV_Y, 0)->domanda, -5000);
   EXPECT_EQ(Riga(1, TA_CLS, 0)->domanda, -5000);
   Righe(MetodoSLU);
-  for (const int c : { SLU_PIASTRA, SLU_NERV_Z, SLU_NERV_Y, SLU_CLS }) {
+  for (const int c : {SLU_PIASTRA, SLU_NERV_Z, SLU_NERV_Y, SLU_CLS}) {
     EXPECT_EQ(Riga(1, c, 0)->domanda, 5000) << c;
     EXPECT_FALSE(Riga(1, c, 0)->passa) << c;
   }
@@ -249,7 +254,7 @@ TEST_F(RigheTest, ValoriAssoluti) {
 
 // What is judged is rounded; what it was before is kept beside it.
 TEST_F(RigheTest, GrezzaEArrotondata) {
-  ris.SigmaTir[1][1] = 10;                               // (1 / 2)^2 and (1 / 4)^2
+  ris.SigmaTir[1][1] = 10;  // (1 / 2)^2 and (1 / 4)^2
   ris.TauTir[1][1] = 11.547 / 4;
   ris.SRfTir[1][1] = -12.34567;
   ris.TiroTir[1][1] = -123.456789;
@@ -263,7 +268,7 @@ TEST_F(RigheTest, GrezzaEArrotondata) {
   EXPECT_EQ(riga(TA_TIR_COEFF, 1).domanda, 0.31);
   EXPECT_DOUBLE_EQ(riga(TA_TIR_RIF, 1).grezza, 1234.567);
   EXPECT_DOUBLE_EQ(riga(TA_TIR_RIF, 1).domanda, 1234.567);
-  EXPECT_EQ(riga(TA_TIR_TIRO, 1).grezza, 123.456789);    // a force: daN, as the table has it
+  EXPECT_EQ(riga(TA_TIR_TIRO, 1).grezza, 123.456789);  // a force: daN, as the table has it
   EXPECT_EQ(riga(TA_TIR_TIRO, 1).domanda, 123.456789);
   EXPECT_DOUBLE_EQ(riga(TA_PIASTRA, 0).grezza, 123.456);
   EXPECT_EQ(riga(TA_PIASTRA, 0).domanda, 123.5);
@@ -274,7 +279,7 @@ TEST_F(RigheTest, GrezzaEArrotondata) {
   EXPECT_DOUBLE_EQ(riga(TA_CLS, 0).grezza, 1.2345);
   EXPECT_EQ(riga(TA_CLS, 0).domanda, 1.2);
 
-  ris.Co1[1][1] = 0.125, ris.Co2[1][1] = 0.625, ris.Co3[1][1] = 0.125;             // ties to even
+  ris.Co1[1][1] = 0.125, ris.Co2[1][1] = 0.625, ris.Co3[1][1] = 0.125;  // ties to even
   ris.Co1[1][2] = 0.375, ris.Co2[1][2] = 0.12501, ris.Co3[1][2] = 0.875;
   ris.Saldature[1].SPrp[1][1] = 1.23456;
   ris.Saldature[1].TauPe[1][1] = -2.34567;
@@ -294,8 +299,8 @@ TEST_F(RigheTest, GrezzaEArrotondata) {
   EXPECT_DOUBLE_EQ(riga(SLU_CLS, 0).domanda, 1.2345);
 }
 
-TEST_F(RigheTest, RapportoAlCentesimoPerEccesso) {       // by allowable stresses halves go up: 0.25 of each, 0.125
-  nodo.MatTir.Fyk = 5152;                                // 2582.5, and 2582.5 / 1.7320508 = 1491.007: 1491
+TEST_F(RigheTest, RapportoAlCentesimoPerEccesso) {  // by allowable stresses halves go up: 0.25 of each, 0.125
+  nodo.MatTir.Fyk = 5152;                           // 2582.5, and 2582.5 / 1.7320508 = 1491.007: 1491
   ris.SigmaTir[1][1] = 6.45625;
   ris.TauTir[1][1] = 3.7275;
   Righe(MetodoTA);
@@ -337,8 +342,8 @@ TEST_F(RigheTest, NomiUnitaClausole) {
 TEST_F(RigheTest, OrdinePerSestettoControlloElemento) {
   nodo.NumSoll = 3;
   Saldature(20);
-  ris.Saldature[5].Lung = 0;                             // by limit states alone a weld without length has no row
-  for (const int metodo : { MetodoTA, MetodoSLU }) {
+  ris.Saldature[5].Lung = 0;  // by limit states alone a weld without length has no row
+  for (const int metodo : {MetodoTA, MetodoSLU}) {
     Righe(metodo);
     std::vector<std::tuple<int, int, int>> attese, lette;
     const int criteri = metodo == MetodoTA ? 8 : 9;
@@ -365,16 +370,16 @@ TEST_F(RigheTest, OrdinePerSestettoControlloElemento) {
 
 TEST_F(RigheTest, SaldatureInterne) {
   Saldature(20);
-  ris.Saldature[9].SPrp[1][1] = 100;                     // stale, far over any limit
+  ris.Saldature[9].SPrp[1][1] = 100;  // stale, far over any limit
   const auto elementi = [](int criterio) {
     std::vector<int> w;
     for (const RigaControllo& r : RigheCriterio(lavoro, 1, criterio)) w.push_back(r.elemento);
     return w;
   };
-  for (const std::int16_t si : { std::int16_t(0), std::int16_t(2), std::int16_t(-1) }) {
+  for (const std::int16_t si : {std::int16_t(0), std::int16_t(2), std::int16_t(-1)}) {
     nodo.SaldInt = si;
     Righe(MetodoTA);
-    EXPECT_EQ(elementi(TA_SALD), (std::vector<int>{ 1, 2, 3, 4, 5, 6, 7, 8, 10, 11, 12, 13, 14, 15, 16, 17, 18, 20 })) << si;
+    EXPECT_EQ(elementi(TA_SALD), (std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8, 10, 11, 12, 13, 14, 15, 16, 17, 18, 20})) << si;
     EXPECT_TRUE(lavoro.verificato) << si;
   }
   nodo.SaldInt = 1;
@@ -387,7 +392,7 @@ TEST_F(RigheTest, SaldatureInterne) {
   Righe(MetodoSLU);
   EXPECT_EQ(elementi(SLU_SALD_1).size(), 20u);
   EXPECT_FALSE(lavoro.verificato);
-  ris.Saldature[9].Lung = 0.0001;                        // not above it
+  ris.Saldature[9].Lung = 0.0001;  // not above it
   ris.Saldature[10].Lung = 0.0002;
   Righe(MetodoSLU);
   EXPECT_EQ(elementi(SLU_SALD_1).size(), 19u);
@@ -397,12 +402,12 @@ TEST_F(RigheTest, SaldatureInterne) {
   EXPECT_TRUE(lavoro.verificato);
 }
 
-TEST_F(RigheTest, SenzaNervature) {                      // what the ribs' positions still hold is neither told nor judged
+TEST_F(RigheTest, SenzaNervature) {  // what the ribs' positions still hold is neither told nor judged
   for (double& S : ris.SNerv[1]) S = 1000;
-  for (const std::int16_t tipo : { std::int16_t(1), std::int16_t(0), std::int16_t(3) }) {
+  for (const std::int16_t tipo : {std::int16_t(1), std::int16_t(0), std::int16_t(3)}) {
     nodo.TipoNodo = tipo;
     Righe(MetodoTA);
-    const std::size_t quanteTA[] = { 4, 4, 4, 4, 1, 0, 0, 1 }, quanteSLU[] = { 4, 4, 4, 4, 4, 1, 0, 0, 1 };
+    const std::size_t quanteTA[] = {4, 4, 4, 4, 1, 0, 0, 1}, quanteSLU[] = {4, 4, 4, 4, 4, 1, 0, 0, 1};
     for (int c = 0; c < 8; ++c) EXPECT_EQ(RigheCriterio(lavoro, 1, c).size(), quanteTA[c]) << tipo << ' ' << c;
     EXPECT_TRUE(lavoro.verificato) << tipo;
     Righe(MetodoSLU);
@@ -413,7 +418,7 @@ TEST_F(RigheTest, SenzaNervature) {                      // what the ribs' posit
 
 TEST_F(RigheTest, SenzaSestetti) {
   nodo.NumSoll = 0;
-  for (const int metodo : { MetodoTA, MetodoSLU }) {
+  for (const int metodo : {MetodoTA, MetodoSLU}) {
     Righe(metodo);
     EXPECT_TRUE(lavoro.righe.empty());
     EXPECT_TRUE(lavoro.verificato);
@@ -425,7 +430,7 @@ TEST_F(RigheTest, SenzaSestetti) {
 TEST_F(RigheTest, UnSestettoFallitoTraBuoni) {
   nodo.NumSoll = 3;
   ris.SMaxPiastra[2] = 50;
-  for (const int metodo : { MetodoTA, MetodoSLU }) {
+  for (const int metodo : {MetodoTA, MetodoSLU}) {
     Righe(metodo);
     EXPECT_TRUE(lavoro.passa[1] && lavoro.passa[3]);
     EXPECT_FALSE(lavoro.passa[2] || lavoro.verificato);
@@ -439,19 +444,19 @@ TEST_F(RigheTest, UnSestettoFallitoTraBuoni) {
 
 TEST_F(RigheTest, LimitiTA) {
   nodo.NumSoll = 2;
-  nodo.SollCC[2] = 1;                                    // class II: 1.125
+  nodo.SollCC[2] = 1;  // class II: 1.125
   nodo.SpNerv = 40.01;
   Righe(MetodoTA);
   EXPECT_EQ(lavoro.CoeffRifollamento, 2);
-  const double attesi[][8] = { { 1, 2000, 5000, 1, 1000, 900, 900, 11 },
-                               { 1, 2250, 5000, 1, 1125, 1012.5, 1012.5, 11 } };   // the concrete and the bond do not rise
+  const double attesi[][8] = {{1, 2000, 5000, 1, 1000, 900, 900, 11},
+                              {1, 2250, 5000, 1, 1125, 1012.5, 1012.5, 11}};  // the concrete and the bond do not rise
   for (int s = 1; s <= 2; ++s)
     for (int c = 0; c < 8; ++c)
       for (const RigaControllo& r : RigheCriterio(lavoro, s, c)) EXPECT_EQ(r.limite, attesi[s - 1][c]) << s << ' ' << c;
   EXPECT_EQ(lavoro.limitiTA[1].SAdmTir, 2000);
   EXPECT_EQ(lavoro.limitiTA[1].TauAdmTir, 1154.7);
   EXPECT_EQ(lavoro.limitiTA[2].SAdmTir, 2250);
-  EXPECT_EQ(lavoro.limitiTA[2].TauAdmTir, 1299);         // 2250 / 1.7320508 = 1299.0381
+  EXPECT_EQ(lavoro.limitiTA[2].TauAdmTir, 1299);  // 2250 / 1.7320508 = 1299.0381
   EXPECT_EQ(lavoro.limitiTA[2].SAdmSald, 1125);
   // The weld's ratio and the anchor's sum follow the class: 850 / 0.85 / 1125, (2000 / 2250)^2.
   for (int s = 1; s <= 2; ++s) ris.Saldature[3].SPrp[s][1] = 8.5, ris.SigmaTir[s][1] = 20;
@@ -465,17 +470,17 @@ TEST_F(RigheTest, LimitiSLU) {
   nodo.MatCls.GammaC = 1.6;
   nodo.MatAcc.GammaM = 1.25;
   nodo.SpessPiastra = 40.01;
-  nodo.SollCC[1] = 1;                                    // no effect
+  nodo.SollCC[1] = 1;  // no effect
   Righe(MetodoSLU);
   // 1800 / 1.25, 2000 / 1.25, 0.85 x 0.83 x 200 / 1.6; the welds by Fyk of thin plates, without a factor
-  const double attesi[] = { 1, 1, 1, 1700, 2000, 1440, 1600, 1600, 88.1875 };
+  const double attesi[] = {1, 1, 1, 1700, 2000, 1440, 1600, 1600, 88.1875};
   for (int c = 0; c < 9; ++c)
     for (const RigaControllo& r : RigheCriterio(lavoro, 1, c)) EXPECT_NEAR(r.limite, attesi[c], 1e-12) << c;
   nodo.MatAcc.Nome = "S 275";
   Righe(MetodoSLU);
   EXPECT_NEAR(Riga(1, SLU_SALD_1, 1)->limite, 1400, 1e-12);
   EXPECT_NEAR(Riga(1, SLU_SALD_2, 1)->limite, 1700, 1e-12);
-  nodo.MatAcc.Nome = "ignoto";                           // no factor: a weld without stress passes, any other does not
+  nodo.MatAcc.Nome = "ignoto";  // no factor: a weld without stress passes, any other does not
   ris.Saldature[2].TauPa[1][1] = 1e-9;
   Righe(MetodoSLU);
   EXPECT_EQ(Riga(1, SLU_SALD_1, 1)->limite, 0);
@@ -489,20 +494,20 @@ TEST_F(RigheTest, AderenzaNonRisale) {
   nodo.SollCC[1] = nodo.SollCC[3] = 1;
   for (int s = 1; s <= 4; ++s) ris.TiroTir[s][1] = 5300;
   Righe(MetodoTA);
-  const double limiti[] = { 5625, 5000, 5000, 5000 };
+  const double limiti[] = {5625, 5000, 5000, 5000};
   for (int s = 1; s <= 4; ++s) {
     EXPECT_EQ(lavoro.limitiTA[s].TadRd, limiti[s - 1]) << s;
     for (int i = 1; i <= 4; ++i) EXPECT_EQ(Riga(s, TA_TIR_TIRO, i)->limite, limiti[s - 1]) << s;
     EXPECT_EQ(Riga(s, TA_TIR_TIRO, 1)->passa, s == 1);
   }
   EXPECT_EQ(ris.TadRd, 5000);
-  Righe(MetodoTA);                                       // on the same tables once more: no sextet begins higher
+  Righe(MetodoTA);  // on the same tables once more: no sextet begins higher
   EXPECT_EQ(lavoro.limitiTA[1].TadRd, 5000);
-  ris.TadRd = 5400;                                      // the bond itself, where it is the lesser
+  ris.TadRd = 5400;  // the bond itself, where it is the lesser
   Righe(MetodoTA);
   EXPECT_EQ(lavoro.limitiTA[1].TadRd, 5400);
   EXPECT_EQ(lavoro.limitiTA[4].TadRd, 5000);
-  ris.TadRd = 6000;                                      // by limit states nothing lowers it
+  ris.TadRd = 6000;  // by limit states nothing lowers it
   Righe(MetodoSLU);
   EXPECT_EQ(ris.TadRd, 6000);
 }
@@ -557,7 +562,7 @@ TEST_F(RigheTest, DoveIlFault) {
     EXPECT_EQ(lavoro.fermo.criterio, g.criterio) << g.nome << ' ' << g.metodo;
     EXPECT_EQ(lavoro.fermo.elemento, g.elemento) << g.nome << ' ' << g.metodo;
   }
-  ris.SMaxCls[2] = ris.SMaxPiastra[2] = ris.SRfTir[3][1] = 0;      // the next judgement is without it
+  ris.SMaxCls[2] = ris.SMaxPiastra[2] = ris.SRfTir[3][1] = 0;  // the next judgement is without it
   Righe(MetodoTA);
   EXPECT_FALSE(lavoro.fermo.c_e || FaultAritmetico());
   EXPECT_EQ(lavoro.righe.size(), 3u * 20);
@@ -589,13 +594,23 @@ Coppia DueNodi() {
 
 // Every number that a run makes and shows.
 std::vector<double> Impronta(const Lavoro& l) {
-  std::vector<double> v = { l.verifica.AreaTf, l.verifica.IzSald, l.verifica.LungTy, l.ris.TadRd, l.ris.FvRd, l.SAmmCls, l.TauCls,
-                            l.CoeffRifollamento, l.limitiSLU.SLim1, double(l.NumSaldature), double(l.verificato), double(l.diagnosi.size()) };
+  std::vector<double> v = {l.verifica.AreaTf,
+                           l.verifica.IzSald,
+                           l.verifica.LungTy,
+                           l.ris.TadRd,
+                           l.ris.FvRd,
+                           l.SAmmCls,
+                           l.TauCls,
+                           l.CoeffRifollamento,
+                           l.limitiSLU.SLim1,
+                           double(l.NumSaldature),
+                           double(l.verificato),
+                           double(l.diagnosi.size())};
   for (const RigaControllo& r : l.righe)
-    v.insert(v.end(), { double(r.sestetto), double(r.criterio), double(r.elemento), r.grezza, r.domanda, r.limite, double(r.passa) });
+    v.insert(v.end(), {double(r.sestetto), double(r.criterio), double(r.elemento), r.grezza, r.domanda, r.limite, double(r.passa)});
   for (int s = 1; s <= l.nodo->NumSoll; ++s) {
     const PianoSestetto& p = l.piani[s];
-    v.insert(v.end(), { l.ris.SMaxCls[s], l.ris.SMaxPiastra[s], p.P[1], p.P[2], p.P[3], double(p.IterPres) });
+    v.insert(v.end(), {l.ris.SMaxCls[s], l.ris.SMaxPiastra[s], p.P[1], p.P[2], p.P[3], double(p.IterPres)});
     v.insert(v.end(), std::begin(l.ris.SigmaTir[s]), std::end(l.ris.SigmaTir[s]));
     v.insert(v.end(), std::begin(l.ris.SNerv[s]), std::end(l.ris.SNerv[s]));
     for (const Saldatura& d : l.ris.Saldature) v.insert(v.end(), std::begin(d.TauPa[s]), std::end(d.TauPa[s]));
@@ -611,14 +626,14 @@ TEST_F(RigheTest, DueLavoriNonSiConoscono) {
   const std::vector<double> a = Impronta(soli.a->l);
   ASSERT_TRUE(EseguiVerifica(soli.b->l));
   const std::vector<double> b = Impronta(soli.b->l);
-  EXPECT_EQ(Impronta(soli.a->l), a);                     // the other one's run changed nothing here
+  EXPECT_EQ(Impronta(soli.a->l), a);  // the other one's run changed nothing here
   EXPECT_NE(a, b);
   const Coppia misti = DueNodi();
   ASSERT_TRUE(EseguiVerifica(misti.b->l));
   ASSERT_TRUE(EseguiVerifica(misti.a->l));
   EXPECT_EQ(Impronta(misti.a->l), a);
   EXPECT_EQ(Impronta(misti.b->l), b);
-  EXPECT_TRUE(lavoro.righe.empty());                     // nor on the panels
+  EXPECT_TRUE(lavoro.righe.empty());  // nor on the panels
   EXPECT_EQ(ris.SMaxCls[1], 0);
   EXPECT_TRUE(registratore.eventi.empty());
 }
@@ -704,7 +719,7 @@ TEST_F(RigheTest, CioCheResta) {
   EXPECT_EQ(Impronta(u->l), Impronta(v->l));
   // Notes, rows, verdict and the place of a fault are of the last run alone.
   u->l.diagnosi.push_back({});
-  u->l.fermo = { true, 1, 2, 3 };
+  u->l.fermo = {true, 1, 2, 3};
   ASSERT_TRUE(EseguiVerifica(u->l));
   EXPECT_EQ(Impronta(u->l), Impronta(v->l));
   EXPECT_FALSE(u->l.fermo.c_e);

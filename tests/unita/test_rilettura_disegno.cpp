@@ -132,12 +132,17 @@ TEST_P(Rilettura, Dxf) {
   const Disegno& d = disegno;
   Lettore f(LeggiByte(cartella + "/f.dxf"));
   while (f.Riga() != "ENTITIES") ASSERT_LT(f.n, f.righe.size());
-  const auto codice = [&](const char* c) { EXPECT_EQ(f.Riga(), c); return f.Riga(); };
+  const auto codice = [&](const char* c) {
+    EXPECT_EQ(f.Riga(), c);
+    return f.Riga();
+  };
   const auto punto = [&](const char* cx, const char* cy, int i) {
     EXPECT_NEAR(std::stod(codice(cx)), d.CoordX[i], 1e-14 * std::abs(d.CoordX[i]));
     EXPECT_NEAR(std::stod(codice(cy)), d.CoordY[i], 1e-14 * std::abs(d.CoordY[i]));
   };
-  const auto salta = [&] { while (f.n < f.righe.size() && f.righe[f.n] != " 0") f.n += 2; };
+  const auto salta = [&] {
+    while (f.n < f.righe.size() && f.righe[f.n] != " 0") f.n += 2;
+  };
   for (int i = 0; i < d.NumLinee; ++i) {
     ASSERT_EQ(codice(" 0"), "LINE");
     codice(" 8");
@@ -163,6 +168,8 @@ TEST_P(Rilettura, Dxf) {
   EXPECT_EQ(f.n, f.righe.size());
 }
 
-INSTANTIATE_TEST_SUITE_P(Nodi, Rilettura, ::testing::Values(Caso{0, 1, 0, 0}, Caso{1, 2, 1, 1}, Caso{2, 2, 0, 0}, Caso{3, 1, 1, 0}, Caso{1, 1, 2, 0}, Caso{3, 2, 0, 1}));
+INSTANTIATE_TEST_SUITE_P(Nodi, Rilettura,
+                         ::testing::Values(Caso{0, 1, 0, 0}, Caso{1, 2, 1, 1}, Caso{2, 2, 0, 0}, Caso{3, 1, 1, 0}, Caso{1, 1, 2, 0},
+                                           Caso{3, 2, 0, 1}));
 
 }  // namespace

@@ -36,7 +36,10 @@ struct SaldatureTest : testing::Test {
 };
 
 // Points 1 (f end) and 3 (i end) on the throat's mid-line, and the length.
-struct Posto { int w; double z1, y1, z3, y3, lung; };
+struct Posto {
+  int w;
+  double z1, y1, z3, y3, lung;
+};
 
 void Confronta(const Posto& p) {
   const Saldatura& d = ris.Saldature[p.w];
@@ -90,47 +93,47 @@ TEST_F(SaldatureTest, Direzioni) {
   const double p = 3.141592;
   EXPECT_EQ(Direzione(1, 2, 1, 5), p / 2);
   EXPECT_EQ(Direzione(1, 5, 1.00009, 2), -p / 2);
-  EXPECT_EQ(Direzione(1, 2, 1, 2), -p / 2);            // equal points
+  EXPECT_EQ(Direzione(1, 2, 1, 2), -p / 2);  // equal points
   EXPECT_EQ(Direzione(1, 2, 4, 2.00009), 0);
   EXPECT_EQ(Direzione(4, 2, 1, 2), p);
   EXPECT_DOUBLE_EQ(Direzione(0, 0, 2, 1), std::atan(0.5));
   EXPECT_DOUBLE_EQ(Direzione(0, 0, 2, -1), std::atan(-0.5));
   EXPECT_DOUBLE_EQ(Direzione(-5, 0, -4.5, 1), std::atan(2.0));
   EXPECT_DOUBLE_EQ(Direzione(3, 0, 1, 1), std::atan(0.5) + p / 2);
-  EXPECT_DOUBLE_EQ(Direzione(0, 0, -2, 1), std::atan(0.5) + p / 2);       // second quadrant: the true direction at 45 degrees only
+  EXPECT_DOUBLE_EQ(Direzione(0, 0, -2, 1), std::atan(0.5) + p / 2);  // second quadrant: the true direction at 45 degrees only
   EXPECT_DOUBLE_EQ(Direzione(0, 0, -2, -1), std::atan(-0.5) - p / 2);
-  EXPECT_DOUBLE_EQ(Direzione(1, 2, 3, 5), std::atan(1.5));                // neither point on an axis
+  EXPECT_DOUBLE_EQ(Direzione(1, 2, 3, 5), std::atan(1.5));  // neither point on an axis
   EXPECT_DOUBLE_EQ(Direzione(3, 1, 1, 4), std::atan(1.5) + p / 2);
-  EXPECT_DOUBLE_EQ(Direzione(0, 0, 1e-4, 1), std::atan(1e4));             // 0.0001 itself is no longer the same place
+  EXPECT_DOUBLE_EQ(Direzione(0, 0, 1e-4, 1), std::atan(1e4));  // 0.0001 itself is no longer the same place
   EXPECT_DOUBLE_EQ(Direzione(0, 0, 1, 1e-4), std::atan(1e-4));
 }
 
 TEST_F(SaldatureTest, Aggiunta) {
-  AggiungiSaldatura(lavoro, 30, 10, 30, 110.04, -1, 7);        // along Y, L = 100.04
+  AggiungiSaldatura(lavoro, 30, 10, 30, 110.04, -1, 7);  // along Y, L = 100.04
   const Saldatura& d = ris.Saldature[7];
   EXPECT_EQ(d.Nome, "S7");
-  EXPECT_EQ(d.Lung, 100);                              // to one decimal
-  EXPECT_DOUBLE_EQ(d.Iz, std::pow(100.04, 3) * 5 / 12);    // of the length that is not rounded
+  EXPECT_EQ(d.Lung, 100);                                // to one decimal
+  EXPECT_DOUBLE_EQ(d.Iz, std::pow(100.04, 3) * 5 / 12);  // of the length that is not rounded
   EXPECT_DOUBLE_EQ(d.Iy, 125 * 100.04 / 12);
   EXPECT_DOUBLE_EQ(d.Ip, d.Iz + d.Iy);
   EXPECT_DOUBLE_EQ(d.Ang[1], std::atan(10.0 / 30));
   EXPECT_DOUBLE_EQ(d.Ang[3], std::atan(110.04 / 30));
   EXPECT_EQ(d.Ang[2], 3.141592 / 2);
-  EXPECT_NEAR(d.PZ[1], 32.5, 1e-6);                    // z + 2.5 for lato -1
-  AggiungiSaldatura(lavoro, -30, 10, 50, 10, 1, 8);            // along Z: inertias exchanged
+  EXPECT_NEAR(d.PZ[1], 32.5, 1e-6);                  // z + 2.5 for lato -1
+  AggiungiSaldatura(lavoro, -30, 10, 50, 10, 1, 8);  // along Z: inertias exchanged
   EXPECT_DOUBLE_EQ(ris.Saldature[8].Iy, 512000.0 * 5 / 12);
   EXPECT_DOUBLE_EQ(ris.Saldature[8].Iz, 125.0 * 80 / 12);
   EXPECT_DOUBLE_EQ(ris.Saldature[8].PY[2], 12.5);
   AggiungiSaldatura(lavoro, 0, 0, 0, 100.25, 1, 8);
-  EXPECT_EQ(ris.Saldature[8].Lung, 100.3);             // halves go up
-  AggiungiSaldatura(lavoro, 0, 0, 1e-4, 80, 1, 8);             // 0.0001 off: no longer along Y
+  EXPECT_EQ(ris.Saldature[8].Lung, 100.3);          // halves go up
+  AggiungiSaldatura(lavoro, 0, 0, 1e-4, 80, 1, 8);  // 0.0001 off: no longer along Y
   EXPECT_NEAR(ris.Saldature[8].Iz, 125.0 * 80 / 12, 1e-6);
-  AggiungiSaldatura(lavoro, 5, 5, 5, 5, 1, 9);                 // no length: direction -pi/2, no inertia
+  AggiungiSaldatura(lavoro, 5, 5, 5, 5, 1, 9);  // no length: direction -pi/2, no inertia
   EXPECT_EQ(ris.Saldature[9].Ang[2], -3.141592 / 2);
   EXPECT_EQ(ris.Saldature[9].Iz + ris.Saldature[9].Iy + ris.Saldature[9].Ip, 0);
 }
 
-TEST_F(SaldatureTest, GolaNulla) {                     // the record stays; the count is set all the same
+TEST_F(SaldatureTest, GolaNulla) {  // the record stays; the count is set all the same
   ris.Saldature[3].Lung = 77;
   nodo.Gola = 0;
   nodo.TipoNodo = 2;
@@ -138,7 +141,7 @@ TEST_F(SaldatureTest, GolaNulla) {                     // the record stays; the 
   EXPECT_EQ(ris.Saldature[3].Lung, 77);
   EXPECT_EQ(ris.Saldature[1].Nome, "");
   EXPECT_EQ(lavoro.NumSaldature, 40);
-  nodo.Gola = -8;                                      // only 0 stops it
+  nodo.Gola = -8;  // only 0 stops it
   AggiungiSaldatura(lavoro, 0, 0, 0, 10, 1, 3);
   EXPECT_EQ(ris.Saldature[3].Lung, 10);
 }
@@ -164,11 +167,11 @@ TEST_F(SaldatureTest, TabellaInterne) {
   EXPECT_EQ(lavoro.NumSaldature, 44);
   for (const Posto& p : NERVATURE)
     if (p.w != 23) Confronta(p);
-  Confronta({ 23, 97.5, -250, 97.5, -95, 155 });
+  Confronta({23, 97.5, -250, 97.5, -95, 155});
   for (const Posto& p : INTERNE) Confronta(p);
-  for (const std::int16_t altro : { std::int16_t(2), std::int16_t(-1) }) {
+  for (const std::int16_t altro : {std::int16_t(2), std::int16_t(-1)}) {
     SetUp();
-    Nervato(altro);                                    // counted with any value but 0, made with 1 only
+    Nervato(altro);  // counted with any value but 0, made with 1 only
     EXPECT_EQ(lavoro.NumSaldature, 44) << altro;
     EXPECT_EQ(ris.Saldature[9].Nome + ris.Saldature[19].Nome + ris.Saldature[41].Nome, "") << altro;
   }
@@ -177,12 +180,14 @@ TEST_F(SaldatureTest, TabellaInterne) {
 TEST_F(SaldatureTest, InerzieColonna) {
   CostruisciSaldature(lavoro);
   Inerzie();
-  EXPECT_NEAR(verifica.LungTy, 268, 1e-9);             // 1, 5
+  EXPECT_NEAR(verifica.LungTy, 268, 1e-9);  // 1, 5
   EXPECT_NEAR(verifica.LungTz, 4 * 78.8 + 400, 1e-9);
   // Own inertias of the true lengths 134, 78.75, 200; areas of the rounded ones: 670, 394, 1000 mm2.
-  const double Iz = 2 * (134.0 * 134 * 134 * 5 / 12) + 4 * (125 * 78.75 / 12 + 394 * 82.5 * 82.5) + 2 * (125 * 200.0 / 12 + 1000 * 97.5 * 97.5);
-  const double Iy = 2 * (125 * 134.0 / 12 + 670 * 5.75 * 5.75) + 4 * (std::pow(78.75, 3) * 5 / 12 + 394 * 60.625 * 60.625) + 2 * (8e6 * 5 / 12);
-  EXPECT_NEAR(verifica.IzSald, Iz, 1e-6 * Iz);         // 31751685
+  const double Iz =
+    2 * (134.0 * 134 * 134 * 5 / 12) + 4 * (125 * 78.75 / 12 + 394 * 82.5 * 82.5) + 2 * (125 * 200.0 / 12 + 1000 * 97.5 * 97.5);
+  const double Iy =
+    2 * (125 * 134.0 / 12 + 670 * 5.75 * 5.75) + 4 * (std::pow(78.75, 3) * 5 / 12 + 394 * 60.625 * 60.625) + 2 * (8e6 * 5 / 12);
+  EXPECT_NEAR(verifica.IzSald, Iz, 1e-6 * Iz);  // 31751685
   EXPECT_NEAR(verifica.IySald, Iy, 1e-6 * Iy);
   EXPECT_NEAR(verifica.IpSald, Iz + Iy, 1e-6 * (Iz + Iy));
 }
@@ -196,28 +201,40 @@ TEST_F(SaldatureTest, InerzieNervature) {
   Nervato(1);
   EXPECT_NEAR(verifica.LungTy, 268 + 2 * (170 + 4 * 155) + 340, 1e-9);
   const double Iz9 = std::pow(170, 3) * 5 / 12, Iy9 = 125 * 170.0 / 12 + 850 * 102.5 * 102.5;
-  const double z23 = 775 * (97.5 * 97.5 - 102.5 * 102.5);                  // weld 23 changed side
+  const double z23 = 775 * (97.5 * 97.5 - 102.5 * 102.5);  // weld 23 changed side
   EXPECT_NEAR(verifica.IzSald - Iz0, 2 * Iz9, 100);
   EXPECT_NEAR(verifica.IySald - Iy0, 2 * Iy9 + z23, 100);
   EXPECT_NEAR(verifica.IpSald - Ip0, 2 * (Iz9 + Iy9) + z23, 200);
   nodo.SaldInt = 0;
   Inerzie();
   EXPECT_NEAR(verifica.LungTy, 268 + 2 * (170 + 4 * 155) + 340, 1e-9);
-  EXPECT_NEAR(verifica.IzSald, Iz0, 1);           // but for weld 23, the inner ones are left out again
+  EXPECT_NEAR(verifica.IzSald, Iz0, 1);  // but for weld 23, the inner ones are left out again
   nodo.TipoNodo = 1;
   Inerzie();
-  EXPECT_NEAR(verifica.LungTy, 268, 1e-9);             // records of the ribs stay, and are not looked at
+  EXPECT_NEAR(verifica.LungTy, 268, 1e-9);  // records of the ribs stay, and are not looked at
 }
 
-TEST_F(SaldatureTest, InerziaDellaNervatura) {         // the ribs' part, weld by weld
+TEST_F(SaldatureTest, InerziaDellaNervatura) {  // the ribs' part, weld by weld
   Nervato(0);
   double Iz = 0, Iy = 0;
-  const auto lungoY = [&](double L, double z, double y) { Iz += std::pow(L, 3) * 5 / 12 + 5 * L * y * y; Iy += 125 * L / 12 + 5 * L * z * z; };
-  const auto lungoZ = [&](double L, double z, double y) { Iz += 125 * L / 12 + 5 * L * y * y; Iy += std::pow(L, 3) * 5 / 12 + 5 * L * z * z; };
-  for (const double z : { 102.5, 97.5, 112.5, 107.5 }) { lungoY(155, z, 172.5); lungoY(155, z, 172.5); }
+  const auto lungoY = [&](double L, double z, double y) {
+    Iz += std::pow(L, 3) * 5 / 12 + 5 * L * y * y;
+    Iy += 125 * L / 12 + 5 * L * z * z;
+  };
+  const auto lungoZ = [&](double L, double z, double y) {
+    Iz += 125 * L / 12 + 5 * L * y * y;
+    Iy += std::pow(L, 3) * 5 / 12 + 5 * L * z * z;
+  };
+  for (const double z : {102.5, 97.5, 112.5, 107.5}) {
+    lungoY(155, z, 172.5);
+    lungoY(155, z, 172.5);
+  }
   lungoY(170, 112.5, 0);
   lungoY(170, 112.5, 0);
-  for (const double y : { 92.5, 82.5, 87.5, 97.5 }) { lungoZ(90, 155, y); lungoZ(90, 155, y); }
+  for (const double y : {92.5, 82.5, 87.5, 97.5}) {
+    lungoZ(90, 155, y);
+    lungoZ(90, 155, y);
+  }
   const double IzN = verifica.IzSald, IyN = verifica.IySald;
   nodo.TipoNodo = 1;
   Inerzie();
@@ -232,24 +249,24 @@ TEST_F(SaldatureTest, TensioniColonna) {
   Azioni(9832, 1340, 3576, 0, -0.02 * verifica.IySald, 0.01 * verifica.IzSald);
   TensioniSaldaturePiastra(lavoro, 4);
   const Saldatura &w1 = ris.Saldature[1], &w3 = ris.Saldature[3];
-  EXPECT_NEAR(w1.SPrp[4][1], 2 + 0.67 - 0.115, 1e-6);      // at (5.75, 67)
+  EXPECT_NEAR(w1.SPrp[4][1], 2 + 0.67 - 0.115, 1e-6);  // at (5.75, 67)
   EXPECT_NEAR(w1.SPrp[4][2], 2 + 0 - 0.115, 1e-6);
   EXPECT_NEAR(w1.SPrp[4][3], 2 - 0.67 - 0.115, 1e-6);
-  EXPECT_NEAR(w3.SPrp[4][1], 2 + 0.975 + 2, 1e-6);         // at (-100, 97.5)
+  EXPECT_NEAR(w3.SPrp[4][1], 2 + 0.975 + 2, 1e-6);  // at (-100, 97.5)
   for (int k = 1; k <= 3; ++k) {
-    EXPECT_NEAR(w1.TauPa[4][k], 1, 1e-12);                 // Ty / 2 / G / Lung = 1340 / 2 / 5 / 134
-    EXPECT_NEAR(w3.TauPa[4][k], 1, 1e-12);                 // Tz / LungTz / G = 3576 / 715.2 / 5
-    EXPECT_EQ(w1.TauPe[4][k], 0);                          // no torque
+    EXPECT_NEAR(w1.TauPa[4][k], 1, 1e-12);  // Ty / 2 / G / Lung = 1340 / 2 / 5 / 134
+    EXPECT_NEAR(w3.TauPa[4][k], 1, 1e-12);  // Tz / LungTz / G = 3576 / 715.2 / 5
+    EXPECT_EQ(w1.TauPe[4][k], 0);           // no torque
     EXPECT_EQ(w3.TauPe[4][k], 0);
   }
-  for (const int w : { 1, 5 }) EXPECT_NEAR(ris.Saldature[w].TauPa[4][1], 1, 1e-12);
-  ris.Saldature[5].Lung = 67;                          // each web weld by its own length
+  for (const int w : {1, 5}) EXPECT_NEAR(ris.Saldature[w].TauPa[4][1], 1, 1e-12);
+  ris.Saldature[5].Lung = 67;  // each web weld by its own length
   TensioniSaldaturePiastra(lavoro, 4);
   EXPECT_NEAR(w1.TauPa[4][1], 1, 1e-12);
   EXPECT_NEAR(ris.Saldature[5].TauPa[4][1], 2, 1e-12);
   Azioni(0, 1340, 0, 0, 0, 0);
   TensioniSaldaturePiastra(lavoro, 4);
-  for (const int w : { 2, 3, 4, 6, 7, 8 }) EXPECT_EQ(ris.Saldature[w].TauPa[4][2], 0) << w;
+  for (const int w : {2, 3, 4, 6, 7, 8}) EXPECT_EQ(ris.Saldature[w].TauPa[4][2], 0) << w;
 }
 
 TEST_F(SaldatureTest, Torsione) {
@@ -286,10 +303,10 @@ TEST_F(SaldatureTest, TensioniPiastraNervata) {
   for (int w = 1; w <= 28; ++w)
     for (int k = 1; k <= 3; ++k) {
       EXPECT_NEAR(ris.Saldature[w].TauPa[1][k], letter[static_cast<std::size_t>(w)] == 'z' ? 2 : w == 9 || w == 19 ? 0 : 1, 1e-12) << w;
-      EXPECT_NEAR(ris.Saldature[w].SPrp[1][k], 3, 1e-12) << w;             // 9 and 19 too, though never built
+      EXPECT_NEAR(ris.Saldature[w].SPrp[1][k], 3, 1e-12) << w;  // 9 and 19 too, though never built
     }
   EXPECT_EQ(ris.Saldature[29].SPrp[1][1], 0);
-  Nervato(1);                                          // LungTy 2188
+  Nervato(1);  // LungTy 2188
   Azioni(0, 10940, 0, 0, 0, 0);
   TensioniSaldaturePiastra(lavoro, 1);
   EXPECT_NEAR(ris.Saldature[9].TauPa[1][1], 1, 1e-12);
@@ -303,7 +320,7 @@ TEST_F(SaldatureTest, SaldatureDellaColonnaNervata) {
   presInfl.PianoDef[3] = -0.1 / 3122.0185778;
   const double zc = 95 + 5 / std::sqrt(2.0), yc = 100 - 5 / std::sqrt(2.0);
   Azioni(-6800, 0, 0, 0, 0.5 * yc * 3000, 0.25 * zc * 3000);
-  ris.Saldature[29].TauPa[1][2] = 1000;                // replaced, not raised
+  ris.Saldature[29].TauPa[1][2] = 1000;  // replaced, not raised
   TensioniSaldatureColonna(lavoro, 1);
   for (int k = 1; k <= 3; ++k) {
     EXPECT_NEAR(ris.Saldature[29].TauPa[1][k], -1 + 0.25 + 0.5, 1e-9);
@@ -323,39 +340,40 @@ TEST_F(SaldatureTest, SaldatureDellaColonnaNervata) {
   };
   // clang-format on
   for (const auto& [w, v] : ATTESI) EXPECT_NEAR(ris.Saldature[w].TauPa[1][3], -0.5 + v, 1e-9) << w;
-  nodo.SaldInt = -1;                                   // any value but 0
+  nodo.SaldInt = -1;  // any value but 0
   ris.Saldature[44].TauPa[1][3] = 0;
   TensioniSaldatureColonna(lavoro, 1);
   EXPECT_NEAR(ris.Saldature[44].TauPa[1][3], -0.5 - a * zi - b, 1e-9);
 }
 
-TEST_F(SaldatureTest, MomentiDelCalcestruzzo) {        // what the concrete under the column carries is deducted from the moments
+TEST_F(SaldatureTest, MomentiDelCalcestruzzo) {  // what the concrete under the column carries is deducted from the moments
   Nervato(0);
-  presInfl.PianoDef[1] = 1e-7;                         // value 1e-7 q + 2e-7 p - 1e-3, all compressed
+  presInfl.PianoDef[1] = 1e-7;  // value 1e-7 q + 2e-7 p - 1e-3, all compressed
   presInfl.PianoDef[2] = -2e-7;
   presInfl.PianoDef[3] = -1e-3;
-  const double E = 3122.0185778, V = -1e-3 * E * 38000, Mq = 1e-7 * E * 190 * 190 * 190 / 12 * 200, Mp = 2e-7 * E * 8e6 / 12 * 190 * (1 - 1e-4);
-  Azioni(V, 0, 0, 0, Mp, Mq);                          // exactly what it carries
+  const double E = 3122.0185778, V = -1e-3 * E * 38000, Mq = 1e-7 * E * 190 * 190 * 190 / 12 * 200,
+               Mp = 2e-7 * E * 8e6 / 12 * 190 * (1 - 1e-4);
+  Azioni(V, 0, 0, 0, Mp, Mq);  // exactly what it carries
   TensioniSaldatureColonna(lavoro, 1);
-  for (const int w : { 29, 31, 36, 38 }) EXPECT_NEAR(ris.Saldature[w].TauPa[1][1], 0, 1e-9) << w;
+  for (const int w : {29, 31, 36, 38}) EXPECT_NEAR(ris.Saldature[w].TauPa[1][1], 0, 1e-9) << w;
 }
 
-TEST_F(SaldatureTest, EquivalentiEMassime) {          // daN/cm2, from daN/mm2
+TEST_F(SaldatureTest, EquivalentiEMassime) {  // daN/cm2, from daN/mm2
   lavoro.NumSaldature = 2;
   Saldatura& d = ris.Saldature[2];
-  const double sp[] = { 0, -2, 90, 3 }, pa[] = { 0, 3, 90, -4 }, pe[] = { 0, -6, 90, 1 };
+  const double sp[] = {0, -2, 90, 3}, pa[] = {0, 3, 90, -4}, pe[] = {0, -6, 90, 1};
   for (int k = 1; k <= 3; ++k) {
     d.SPrp[5][k] = sp[k];
     d.TauPa[5][k] = pa[k];
     d.TauPe[5][k] = pe[k];
   }
   TensioniEquivalentiSaldature(lavoro, 5);
-  EXPECT_EQ(d.SEq1[5], 700);                           // 100 (4 + 9 + 36)^0.5 against (9 + 16 + 1)^0.5; point 2 is not looked at
-  EXPECT_EQ(d.SEq2[5], 800);                           // 2 + 6 against 3 + 1
+  EXPECT_EQ(d.SEq1[5], 700);  // 100 (4 + 9 + 36)^0.5 against (9 + 16 + 1)^0.5; point 2 is not looked at
+  EXPECT_EQ(d.SEq2[5], 800);  // 2 + 6 against 3 + 1
   ris.Saldature[1] = d;
   ris.Saldature[1].SEq1[5] = 0;
   TensioniEquivalentiSaldature(lavoro, 5);
-  EXPECT_EQ(ris.Saldature[1].SEq1[5], 700);            // from the first weld on
+  EXPECT_EQ(ris.Saldature[1].SEq1[5], 700);  // from the first weld on
   double a, b, c;
   MaxTensioniSaldatura(lavoro, a, b, c, 2, 5);
   EXPECT_EQ(a, 300);
@@ -367,5 +385,5 @@ TEST_F(SaldatureTest, EquivalentiEMassime) {          // daN/cm2, from daN/mm2
   TensioniEquivalentiSaldature(lavoro, 5);
   EXPECT_EQ(d.SEq1[5], 700);
   EXPECT_EQ(d.SEq2[5], 800);
-  EXPECT_EQ(d.SPrp[5][3], -2);                         // the tables stay in daN/mm2
+  EXPECT_EQ(d.SPrp[5][3], -2);  // the tables stay in daN/mm2
 }

@@ -45,7 +45,7 @@ TEST_F(Struttura, SezioneDiUnAsta) {
   EXPECT_EQ(SezioneDiAsta(5), 1);
   EXPECT_EQ(SezioneDiAsta(6), 2);
   EXPECT_EQ(SezioneDiAsta(99), -1);
-  EXPECT_EQ(SezioneDiAsta(4), -1);                        // bars with a greater number follow
+  EXPECT_EQ(SezioneDiAsta(4), -1);  // bars with a greater number follow
   EXPECT_TRUE(registratore.eventi.empty());
 }
 
@@ -69,7 +69,7 @@ TEST_F(Struttura, IlNomeInMaiuscolePerLaSezioneDiUnAsta) {
 TEST_F(Struttura, VersioneVecchiaSiDiceESiLeggeDallaStessaRiga) {
   std::string t = STRUTTURA_MINIMA;
   t.erase(0, t.find('\n') + 1);
-  t.replace(t.find("1 2 3"), 1, "9");                     // taken for the counter, the line behind " 2 altro" would skip nine records
+  t.replace(t.find("1 2 3"), 1, "9");  // taken for the counter, the line behind " 2 altro" would skip nine records
   Scrivi("Struttur.Str", t);
   EXPECT_EQ(SezioneDiAsta(7), 1);
   AttesoSolo("[messaggio] critica | ATTENZIONE! | Versione 3.8 o precedente. Caricare e risalvare la struttura in 'Ambiente Grafico'");
@@ -94,9 +94,9 @@ TEST_F(Struttura, IlPrimoBloccoSiSaltaAValoriOARighe) {
 }
 
 TEST_F(Struttura, ProfiloDallaSezioneConPrefissoEBlank) {
-  EXPECT_EQ(ProfiloDaAsta(5), 2);                         // "P_HE A 200" is HEA200 without its prefix and blanks
+  EXPECT_EQ(ProfiloDaAsta(5), 2);  // "P_HE A 200" is HEA200 without its prefix and blanks
   Scrivi("sezioni_", "1\r\n1,\"HEA 200\",0\r\nr\r\nr\r\nr\r\nr\r\n");
-  EXPECT_EQ(ProfiloDaAsta(5), 2);                         // here a name without the prefix counts too
+  EXPECT_EQ(ProfiloDaAsta(5), 2);  // here a name without the prefix counts too
   EXPECT_TRUE(registratore.eventi.empty());
 }
 
@@ -140,7 +140,7 @@ TEST_F(Struttura, ProfiloNonApplicabileOFileAssente) {
   EXPECT_EQ(ProfiloDaAsta(6), 0);
   AttesoSolo("[messaggio] critica | INFORMAZIONE | Il profilo della colonna non è applicabile");
   registratore.eventi.clear();
-  EXPECT_EQ(ProfiloDaAsta(99), 0);                        // a bar that is not there: nothing is said
+  EXPECT_EQ(ProfiloDaAsta(99), 0);  // a bar that is not there: nothing is said
   EXPECT_TRUE(registratore.eventi.empty());
   suite.DirLavoro = CartellaProva("senza_sezioni");
   ScriviByte(suite.DirLavoro + "/struttur.str", STRUTTURA_MINIMA);
@@ -155,7 +155,7 @@ TEST_F(Struttura, AsteDiUnNodo) {
   EXPECT_EQ(collegamento.AsteNodo[2], 6);
   EXPECT_EQ(collegamento.AsteNodo[3], 7);
   EXPECT_EQ(collegamento.SezAsteNodo[2], 2);
-  EXPECT_EQ(AsteDelNodo(40), EsitoAste::Trovate);         // a node without bars
+  EXPECT_EQ(AsteDelNodo(40), EsitoAste::Trovate);  // a node without bars
   EXPECT_EQ(collegamento.NumAsteNodo, 0);
 }
 
@@ -173,8 +173,8 @@ TEST_F(Struttura, AsteDiNumeroZeroONegativoNonContano) {
 
 TEST_F(Struttura, NodoInesistenteEFileAssente) {
   ASSERT_EQ(AsteDelNodo(20), EsitoAste::Trovate);
-  EXPECT_EQ(AsteDelNodo(25), EsitoAste::Fallito);         // between the model's 20 and 30
-  EXPECT_EQ(collegamento.NumAsteNodo, 3);                 // the list is emptied only for a node that exists
+  EXPECT_EQ(AsteDelNodo(25), EsitoAste::Fallito);  // between the model's 20 and 30
+  EXPECT_EQ(collegamento.NumAsteNodo, 3);          // the list is emptied only for a node that exists
   AttesoSolo("[messaggio] nessuna | ERRORE | Errore: nodo inesistente");
   registratore.eventi.clear();
   EXPECT_EQ(AsteDelNodo(50), EsitoAste::Fallito);
@@ -200,7 +200,7 @@ TEST_F(Struttura, SezioniDelleAste) {
   suite.ProfiliLib[2].E = 10;
   ASSERT_EQ(AsteDelNodo(20), EsitoAste::Trovate);
   ASSERT_EQ(SezioniAsteNodo(), EsitoAste::Trovate);
-  for (const int i : {1, 3}) {                            // bars 5 and 7 share section 1
+  for (const int i : {1, 3}) {  // bars 5 and 7 share section 1
     const Sezione& s = collegamento.SezioniStr[i];
     EXPECT_EQ(s.Nome, "HEA200            ");
     EXPECT_EQ(s.H, 190);
@@ -209,7 +209,7 @@ TEST_F(Struttura, SezioniDelleAste) {
     EXPECT_EQ(s.E, 10);
     EXPECT_EQ(s.R, 18);
   }
-  EXPECT_EQ(collegamento.SezioniStr[2].Nome, "Non app. Composta ");   // cut to 18 characters
+  EXPECT_EQ(collegamento.SezioniStr[2].Nome, "Non app. Composta ");  // cut to 18 characters
   EXPECT_EQ(collegamento.SezioniStr[2].H, 0);
   // Without "P_" also a name of the library is refused, and with it one that the library lacks; a section that the file lacks has no name.
   Scrivi("sezioni_", "2\r\n2,\"HEA 200\",0\r\nr\r\nr\r\nr\r\nr\r\n3,P_HEA200,0\r\nr\r\nr\r\nr\r\nr\r\n");
@@ -226,9 +226,9 @@ TEST_F(Struttura, FileDelleSezioniAssenteOConUnConteggioFuoriMisura) {
   ASSERT_EQ(AsteDelNodo(20), EsitoAste::Trovate);
   Scrivi("sezioni_", "99999999999\r\n1,\"P_HEA200\",0\r\nr\r\nr\r\nr\r\nr\r\n");
   EXPECT_EQ(SezioniAsteNodo(), EsitoAste::Troppe);
-  EXPECT_TRUE(registratore.eventi.empty());               // the panel's box
+  EXPECT_TRUE(registratore.eventi.empty());  // the panel's box
   Scrivi("sezioni_", "");
-  EXPECT_EQ(SezioniAsteNodo(), EsitoAste::Trovate);       // truncated: partial data, nothing is said
+  EXPECT_EQ(SezioniAsteNodo(), EsitoAste::Trovate);  // truncated: partial data, nothing is said
   suite.DirLavoro = CartellaProva("senza_sezioni");
   EXPECT_EQ(SezioniAsteNodo(), EsitoAste::Fallito);
   AttesoSolo("[messaggio] nessuna | ERRORE | Errore: file " + suite.DirLavoro + "\\sezioni_ errato o mancante.");
@@ -245,7 +245,7 @@ TEST_F(Struttura, IlNumeroDelNodoEIlPrimoValore) {
   Nodi({1});
   ASSERT_TRUE(NodiAste());
   EXPECT_EQ(collegamento.LatoAsta[1], 1);
-  Nodi({2});                                              // named 1, but its number is 2
+  Nodi({2});  // named 1, but its number is 2
   ASSERT_TRUE(NodiAste());
   EXPECT_EQ(collegamento.LatoAsta[1], 2);
 }
@@ -256,33 +256,33 @@ TEST_F(Struttura, LatoDelleAste) {
   ASSERT_TRUE(NodiAste());
   EXPECT_EQ(collegamento.AstaNodo[1], 0);
   EXPECT_EQ(collegamento.AstaNodo[3], 2);
-  EXPECT_EQ(collegamento.LatoAsta[1], 1);                 // node 10 is bar 5's first end
-  EXPECT_EQ(collegamento.LatoAsta[2], 1);                 // node 20 is bar 6's first end
-  EXPECT_EQ(collegamento.LatoAsta[3], 2);                 // and bar 7's second
+  EXPECT_EQ(collegamento.LatoAsta[1], 1);  // node 10 is bar 5's first end
+  EXPECT_EQ(collegamento.LatoAsta[2], 1);  // node 20 is bar 6's first end
+  EXPECT_EQ(collegamento.LatoAsta[3], 2);  // and bar 7's second
 }
 
 TEST_F(Struttura, IlNodoDellaStessaPosizionePrimaDegliAltri) {
   Nodi({20, 10});
   Aste({5});
   ASSERT_TRUE(NodiAste());
-  EXPECT_EQ(collegamento.LatoAsta[1], 2);                 // position 1 is node 20, the second end; 10 would give the first
+  EXPECT_EQ(collegamento.LatoAsta[1], 2);  // position 1 is node 20, the second end; 10 would give the first
   Nodi({30, 20});
   ASSERT_TRUE(NodiAste());
-  EXPECT_EQ(collegamento.LatoAsta[1], 2);                 // 30 is on neither end: any listed node, here 20
+  EXPECT_EQ(collegamento.LatoAsta[1], 2);  // 30 is on neither end: any listed node, here 20
   Nodi({30, 20, 10});
   ASSERT_TRUE(NodiAste());
-  EXPECT_EQ(collegamento.LatoAsta[1], 1);                 // both ends are listed: the first end before the second
+  EXPECT_EQ(collegamento.LatoAsta[1], 1);  // both ends are listed: the first end before the second
   Nodi({10, 20});
   Aste({6, 5});
   ASSERT_TRUE(NodiAste());
-  EXPECT_EQ(collegamento.LatoAsta[2], 2);                 // the last position: node 20, bar 5's second end, before the listed 10
+  EXPECT_EQ(collegamento.LatoAsta[2], 2);  // the last position: node 20, bar 5's second end, before the listed 10
   std::string s = STRUTTURA_MINIMA;
   s.replace(s.find("20,30,2,10"), 5, "20,20");
   Scrivi("Struttur.Str", s);
   Nodi({20});
   Aste({6});
   ASSERT_TRUE(NodiAste());
-  EXPECT_EQ(collegamento.LatoAsta[1], 1);                 // a bar that ends where it begins
+  EXPECT_EQ(collegamento.LatoAsta[1], 1);  // a bar that ends where it begins
 }
 
 TEST_F(Struttura, AstaAssenteSiNegaENodoAssenteFerma) {
@@ -292,7 +292,7 @@ TEST_F(Struttura, AstaAssenteSiNegaENodoAssenteFerma) {
   EXPECT_EQ(collegamento.AsteNodo[1], 5);
   EXPECT_EQ(collegamento.AsteNodo[2], -99);
   EXPECT_EQ(collegamento.AstaNodo[2], -1);
-  Aste({99});                                             // at a place that a former search found
+  Aste({99});  // at a place that a former search found
   ASSERT_TRUE(NodiAste());
   EXPECT_EQ(collegamento.AsteNodo[1], -99);
   EXPECT_EQ(collegamento.AstaNodo[1], -1);

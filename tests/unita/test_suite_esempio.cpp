@@ -42,8 +42,11 @@ TEST_F(SuiteEsempio, CatalogoConOgniLingua) {
     Catalogo();
     ASSERT_EQ(materiali.NumAcciai, 20);
     // NTC 2008 table 11.3.IX (fyk, ftk up to 40 mm), CNR 10011/88 table 2-II (sigma amm), 4.2.4.1.1: gamma M0 1.05
-    const struct { const char* nome; double s, s40, fyk, ftk; } attesi[] = {
-        {"S 235 (FE 360)", 1600, 1400, 2350, 3600}, {"S 275 (FE 430)", 1900, 1700, 2750, 4300}, {"S 355 (FE 510)", 2400, 2100, 3550, 5100}};
+    const struct {
+      const char* nome;
+      double s, s40, fyk, ftk;
+    } attesi[] = {
+      {"S 235 (FE 360)", 1600, 1400, 2350, 3600}, {"S 275 (FE 430)", 1900, 1700, 2750, 4300}, {"S 355 (FE 510)", 2400, 2100, 3550, 5100}};
     int i = 0;
     for (const auto& a : attesi) {
       const MatAcciaio& m = materiali.AcciaiBase[++i];
@@ -55,19 +58,19 @@ TEST_F(SuiteEsempio, CatalogoConOgniLingua) {
       EXPECT_EQ(m.GammaM, 1.05);
       EXPECT_EQ(m.GammaMT, 1.1);
     }
-    EXPECT_EQ(materiali.AcciaiBase[1].Fyk40, 2150);        // 40 to 80 mm
+    EXPECT_EQ(materiali.AcciaiBase[1].Fyk40, 2150);  // 40 to 80 mm
     EXPECT_EQ(materiali.AcciaiBase[2].Ftk40, 4100);
     EXPECT_EQ(materiali.AcciaiBase[20].Nome, "ACCIAIO DOLCE (RD 2229/39)");
-    EXPECT_EQ(materiali.AcciaiBase[20].SAmm, 1373);        // 1400 kg/cm2 9.81 / 10
+    EXPECT_EQ(materiali.AcciaiBase[20].SAmm, 1373);  // 1400 kg/cm2 9.81 / 10
     EXPECT_FALSE(MaterialeValido(false, "PROFILI", materiali.AcciaiBase[20]));
     EXPECT_EQ(materiali.NumAcciaiChiusi, 7);
     EXPECT_EQ(materiali.AcciaiChiusiBase[7].Nome, "S 460 NH");
     ASSERT_EQ(materiali.NumViti, 5);
-    EXPECT_EQ(materiali.VitiBase[1].Nome, "8.8");          // gamma M2 1.25, NTC 2008 4.2.8.1.1
+    EXPECT_EQ(materiali.VitiBase[1].Nome, "8.8");  // gamma M2 1.25, NTC 2008 4.2.8.1.1
     EXPECT_EQ(materiali.VitiBase[1].GammaM2, 1.25);
     EXPECT_EQ(materiali.VitiBase[5].Ft, 10000);
     ASSERT_GE(materiali.NumCls, 16);
-    EXPECT_EQ(materiali.ClsBase[3].Nome, "C25/30");        // the class of a new node without job materials
+    EXPECT_EQ(materiali.ClsBase[3].Nome, "C25/30");  // the class of a new node without job materials
     EXPECT_EQ(materiali.ClsBase[3].Rck, 300);
     for (int c = 1; c <= materiali.NumCls; ++c) {
       EXPECT_EQ(materiali.ClsBase[c].GammaC, 1.5) << c;
@@ -82,7 +85,7 @@ TEST_F(SuiteEsempio, CatalogoConOgniLingua) {
 TEST_F(SuiteEsempio, DiametriComeGliInterni) {
   LeggiDiametri();
   EXPECT_EQ(suite.NumDiam, 22);
-  EXPECT_EQ(suite.DiamNome[6], "M20");                     // row 7 of a new node
+  EXPECT_EQ(suite.DiamNome[6], "M20");  // row 7 of a new node
   EXPECT_EQ(suite.DiamVal[6], 20);
   EXPECT_EQ(suite.DiamArea[6], 245);
   EXPECT_EQ(suite.DiamNome[21], "M68");
@@ -97,7 +100,7 @@ TEST_F(SuiteEsempio, Opzioni) {
   EXPECT_EQ(suite.ParNodo[27], 2);
 }
 
-TEST_F(SuiteEsempio, UnitaDelLavoro) {                     // daN, cm
+TEST_F(SuiteEsempio, UnitaDelLavoro) {  // daN, cm
   ASSERT_TRUE(ImpostaUnita());
   EXPECT_EQ(suite.AccelG, 9.81);
   EXPECT_EQ(suite.FattLung, 1);
@@ -118,13 +121,13 @@ TEST_F(SuiteEsempio, MaterialiDelLavoro) {
   EXPECT_TRUE(materiali.MatDaBase);
   EXPECT_EQ(materiali.MatBaseCls.Nome, "C25/30");
   EXPECT_EQ(materiali.MatBaseCls.Rck, 300);
-  EXPECT_EQ(materiali.MatBaseCls.Fck, 249);                // 0.83 Rck
+  EXPECT_EQ(materiali.MatBaseCls.Fck, 249);  // 0.83 Rck
   EXPECT_EQ(materiali.MatBaseAcc1.Nome, "S 275 (FE 430)");
   EXPECT_EQ(materiali.MatBaseAcc1.Fyd40, 2428.57);
   EXPECT_EQ(materiali.MatBaseAcc2.Nome, "S 275 H (FE 430)");
   EXPECT_EQ(materiali.ModuloEBase, 210000);
   EXPECT_EQ(materiali.GammaMBase[3], 1.25);
-  bool acciaio = false, cls = false;                       // both names are the catalogue's
+  bool acciaio = false, cls = false;  // both names are the catalogue's
   for (int i = 1; i <= materiali.NumAcciai; ++i) acciaio |= materiali.AcciaiBase[i].Nome == materiali.MatBaseAcc1.Nome;
   for (int i = 1; i <= materiali.NumCls; ++i) cls |= materiali.ClsBase[i].Nome == materiali.MatBaseCls.Nome;
   EXPECT_TRUE(acciaio);

@@ -26,7 +26,7 @@ struct UnitaLavoro : testing::Test {
     AzzeraFault();
     EXPECT_FALSE(Imposta(byte)) << byte;
     EXPECT_TRUE(FaultAritmetico()) << byte;
-    EXPECT_TRUE(registratore.eventi.empty());              // the box is the caller's
+    EXPECT_TRUE(registratore.eventi.empty());  // the box is the caller's
   }
 };
 
@@ -42,7 +42,7 @@ TEST_F(UnitaLavoro, UnitaInterne) {
   ASSERT_TRUE(Imposta(File("9.81", "cm", "daN", "daNcm", "daN8cm2", "mm", "daN8m2")));
   EXPECT_EQ(suite.AccelG, 9.81);
   EXPECT_EQ(suite.NordGeo, 15);
-  EXPECT_EQ(suite.UnitaTensioni, "daN/cm2");               // trimmed, 8 is the slash
+  EXPECT_EQ(suite.UnitaTensioni, "daN/cm2");  // trimmed, 8 is the slash
   EXPECT_EQ(suite.UnitaCarichi, "daN/m2");
   EXPECT_EQ(suite.UnitaLung, "cm");
   EXPECT_EQ(suite.UnitaSezioni, "mm");
@@ -52,13 +52,13 @@ TEST_F(UnitaLavoro, UnitaInterne) {
   EXPECT_EQ(suite.FattForze, 1);
   EXPECT_EQ(suite.DecForze, 1);
   EXPECT_EQ(suite.FattMomenti, 1);
-  EXPECT_EQ(suite.DecMomenti, 1);                          // 1 - 0 - 0
+  EXPECT_EQ(suite.DecMomenti, 1);  // 1 - 0 - 0
   EXPECT_EQ(suite.FattTensioni, 1);
-  EXPECT_EQ(suite.DecTensioni, 1);                         // 1 - 0 + 2 0
+  EXPECT_EQ(suite.DecTensioni, 1);  // 1 - 0 + 2 0
   EXPECT_EQ(suite.FattSezioni, 10);
   EXPECT_EQ(suite.DecSezioni, 0);
-  EXPECT_NEAR(suite.FattCarichi, 1e4, 1e-8);               // 1 / 0.01^2
-  EXPECT_EQ(suite.DecCarichi, 1);                          // 5 - 0 + 2 (1 - 3)
+  EXPECT_NEAR(suite.FattCarichi, 1e4, 1e-8);  // 1 / 0.01^2
+  EXPECT_EQ(suite.DecCarichi, 1);             // 5 - 0 + 2 (1 - 3)
 }
 
 TEST_F(UnitaLavoro, ChiloNewtonEMetri) {
@@ -67,26 +67,26 @@ TEST_F(UnitaLavoro, ChiloNewtonEMetri) {
   EXPECT_EQ(suite.DecLung, 3);
   EXPECT_EQ(suite.FattForze, 0.01);
   EXPECT_EQ(suite.DecForze, 3);
-  EXPECT_DOUBLE_EQ(suite.FattMomenti, 1e-4);               // 0.01 0.01
-  EXPECT_EQ(suite.DecMomenti, 5);                          // 1 + 2 + 2
-  EXPECT_DOUBLE_EQ(suite.FattTensioni, 0.1);               // 10 / 100
-  EXPECT_EQ(suite.DecTensioni, 2);                         // 1 - 1 + 2 1
-  EXPECT_NEAR(suite.FattCarichi, 100, 1e-10);              // 0.01 / 0.01^2
-  EXPECT_EQ(suite.DecCarichi, 3);                          // 5 + 2 - 4
+  EXPECT_DOUBLE_EQ(suite.FattMomenti, 1e-4);   // 0.01 0.01
+  EXPECT_EQ(suite.DecMomenti, 5);              // 1 + 2 + 2
+  EXPECT_DOUBLE_EQ(suite.FattTensioni, 0.1);   // 10 / 100
+  EXPECT_EQ(suite.DecTensioni, 2);             // 1 - 1 + 2 1
+  EXPECT_NEAR(suite.FattCarichi, 100, 1e-10);  // 0.01 / 0.01^2
+  EXPECT_EQ(suite.DecCarichi, 3);              // 5 + 2 - 4
 }
 
 TEST_F(UnitaLavoro, ConLaGravita) {
   ASSERT_TRUE(Imposta(File("9.81", "mm", "t", "t8m", "kgf8cm2", "m", "t8m2")));
   EXPECT_EQ(suite.FattLung, 10);
   EXPECT_EQ(suite.DecLung, 0);
-  EXPECT_NEAR(suite.FattForze, 0.00101936799184506, 1e-16);      // 0.01 / 9.81
+  EXPECT_NEAR(suite.FattForze, 0.00101936799184506, 1e-16);  // 0.01 / 9.81
   EXPECT_EQ(suite.DecForze, 4);
   EXPECT_NEAR(suite.FattMomenti, 0.0000101936799184506, 1e-18);
-  EXPECT_EQ(suite.DecMomenti, 6);                          // 1 - (1 - 4) - (1 - 3)
-  EXPECT_NEAR(suite.FattTensioni, 1.01936799184506, 1e-12);      // 10 / 9.81
+  EXPECT_EQ(suite.DecMomenti, 6);                            // 1 - (1 - 4) - (1 - 3)
+  EXPECT_NEAR(suite.FattTensioni, 1.01936799184506, 1e-12);  // 10 / 9.81
   EXPECT_EQ(suite.DecTensioni, 1);
   EXPECT_NEAR(suite.FattCarichi, 10.1936799184506, 1e-11);
-  EXPECT_EQ(suite.DecCarichi, 4);                          // 5 + 3 - 4
+  EXPECT_EQ(suite.DecCarichi, 4);  // 5 + 3 - 4
 }
 
 TEST_F(UnitaLavoro, DecimaliNonSottoZero) {
@@ -94,14 +94,14 @@ TEST_F(UnitaLavoro, DecimaliNonSottoZero) {
   EXPECT_EQ(suite.FattForze, 10);
   EXPECT_EQ(suite.DecForze, 0);
   EXPECT_EQ(suite.FattMomenti, 100);
-  EXPECT_EQ(suite.DecMomenti, 0);                          // 1 - 1 - 1 = -1
+  EXPECT_EQ(suite.DecMomenti, 0);  // 1 - 1 - 1 = -1
   EXPECT_NEAR(suite.FattTensioni, 100, 1e-10);
-  EXPECT_EQ(suite.DecTensioni, 0);                         // 1 + 2 - 4 = -1
-  EXPECT_EQ(suite.DecCarichi, 6);                          // 5 - 1 + 2
+  EXPECT_EQ(suite.DecTensioni, 0);  // 1 + 2 - 4 = -1
+  EXPECT_EQ(suite.DecCarichi, 6);   // 5 - 1 + 2
   ASSERT_TRUE(Imposta(File("9.81", "cm", "N", "Ncm", "daN8mm2", "cm", "daN8cm2")));
-  EXPECT_DOUBLE_EQ(suite.FattTensioni, 0.01);              // one per square millimetre takes "mm"
-  EXPECT_EQ(suite.DecTensioni, 3);                         // 1 - 0 + 2
-  EXPECT_EQ(suite.DecMomenti, 0);                          // 1 - 1 - 0
+  EXPECT_DOUBLE_EQ(suite.FattTensioni, 0.01);  // one per square millimetre takes "mm"
+  EXPECT_EQ(suite.DecTensioni, 3);             // 1 - 0 + 2
+  EXPECT_EQ(suite.DecMomenti, 0);              // 1 - 1 - 0
   EXPECT_EQ(suite.FattCarichi, 1);
   EXPECT_EQ(suite.DecCarichi, 5);
 }
@@ -116,7 +116,7 @@ TEST_F(UnitaLavoro, TensioniSenzaBarra) {
   suite.DecTensioni = 7;
   ASSERT_TRUE(Imposta(File("9.81", "cm", "daN", "daNcm", "bar", "cm", "daN8m2")));
   EXPECT_EQ(suite.FattTensioni, 0);
-  EXPECT_EQ(suite.DecTensioni, 7);                         // as it was
+  EXPECT_EQ(suite.DecTensioni, 7);  // as it was
 }
 
 // A text that would end in the calculator's arguments as one of its own, or break a line, counts as one that no table knows.
@@ -126,7 +126,7 @@ TEST_F(UnitaLavoro, TestiCheNonSonoUnita) {
     ASSERT_TRUE(Imposta(File("9.81", "cm", forze, "daNcm", "daN8cm2", "cm", "daN8m2"))) << forze;
     EXPECT_EQ(suite.UnitaForze, std::string_view(forze) == "xyz" ? "xyz" : "") << forze;
     EXPECT_EQ(suite.FattForze, 0) << forze;
-    EXPECT_EQ(suite.DecForze, 7) << forze;                 // as it was
+    EXPECT_EQ(suite.DecForze, 7) << forze;  // as it was
     EXPECT_EQ(suite.UnitaMomenti, "daNcm") << forze;
   }
   ASSERT_TRUE(Imposta(File("9.81", "mm|", "daN", "daN|cm", "MPa\"", "'m'", "daN8m2")));
@@ -134,7 +134,7 @@ TEST_F(UnitaLavoro, TestiCheNonSonoUnita) {
   EXPECT_EQ(suite.FattMomenti, 0);
   EXPECT_EQ(suite.FattTensioni, 0);
   EXPECT_EQ(suite.FattSezioni, 0);
-  for (const char* superficie : {"xyz8w", "daN|8cm2", "'daN/cm2'"}) {   // divided by a length that is not known
+  for (const char* superficie : {"xyz8w", "daN|8cm2", "'daN/cm2'"}) {  // divided by a length that is not known
     AttesoGuasto(File("9.81", "cm", "daN", "daNcm", superficie, "cm", "daN8m2"));
     AttesoGuasto(File("9.81", "cm", "daN", "daNcm", "daN8cm2", "cm", superficie));
   }
@@ -150,11 +150,11 @@ TEST_F(UnitaLavoro, Tabelle) {
   EXPECT_EQ(d, 1);
   EXPECT_EQ(FattLunghezza("m", d), 0.01);
   EXPECT_EQ(d, 3);
-  EXPECT_EQ(FattLunghezza("CM", d), 0);                    // case counts
+  EXPECT_EQ(FattLunghezza("CM", d), 0);  // case counts
   EXPECT_EQ(d, 3);
   EXPECT_EQ(FattLunghezza("in", d), 0);
-  EXPECT_EQ(FattLunghezza("cm/mm"), 10);                   // mm is tried first, then cm
-  EXPECT_EQ(FattForza("t kgf kN"), 0.01);                  // kN before N, kgf before t
+  EXPECT_EQ(FattLunghezza("cm/mm"), 10);   // mm is tried first, then cm
+  EXPECT_EQ(FattForza("t kgf kN"), 0.01);  // kN before N, kgf before t
   EXPECT_EQ(FattForza("t kgf"), 1);
   EXPECT_EQ(FattForza("daN", d), 1);
   EXPECT_EQ(d, 1);
@@ -162,13 +162,13 @@ TEST_F(UnitaLavoro, Tabelle) {
   EXPECT_EQ(d, 3);
   EXPECT_EQ(FattForza("N", d), 10);
   EXPECT_EQ(d, 0);
-  EXPECT_EQ(FattForza("kgf", d), 1);                       // 10 / 10
+  EXPECT_EQ(FattForza("kgf", d), 1);  // 10 / 10
   EXPECT_EQ(d, 1);
   EXPECT_EQ(FattForza("t", d), 0.001);
   EXPECT_EQ(d, 4);
   EXPECT_EQ(FattForza("lb", d), 0);
   EXPECT_EQ(d, 4);
-  EXPECT_EQ(FattTensione("MPa kPa", d), 100);              // kPa is tried first
+  EXPECT_EQ(FattTensione("MPa kPa", d), 100);  // kPa is tried first
   EXPECT_EQ(FattTensione("MPa"), 0.1);
   EXPECT_EQ(FattForza("kgf"), 1);
   EXPECT_EQ(FattLunghezza("mm"), 10);
@@ -176,21 +176,22 @@ TEST_F(UnitaLavoro, Tabelle) {
 
 TEST_F(UnitaLavoro, OrdineDelleChiavi) {
   ScriviByte(cartella + "/parametrilavoro",
-             "9.81 [accelerazione_g] forze\n"              // goes on to the unit keys; 8 becomes the slash
+             "9.81 [accelerazione_g] forze\n"  // goes on to the unit keys; 8 becomes the slash
              "x, y\n");
-  EXPECT_FALSE(LeggiParametriLavoro());                    // first line was the value dropped, second has no bracket
+  EXPECT_FALSE(LeggiParametriLavoro());  // first line was the value dropped, second has no bracket
   AzzeraFault();
-  ScriviByte(cartella + "/parametrilavoro",
-             "via\n9.81 [accelerazione_g] forze\na [forze lunghezze]\nb [TENSIONI dati_sezioni coppie_momenti]\nc [carichi_superficie forze]\n"
-             "dati_sezioni [x]\n");
+  ScriviByte(
+    cartella + "/parametrilavoro",
+    "via\n9.81 [accelerazione_g] forze\na [forze lunghezze]\nb [TENSIONI dati_sezioni coppie_momenti]\nc [carichi_superficie forze]\n"
+    "dati_sezioni [x]\n");
   ASSERT_TRUE(LeggiParametriLavoro());
   EXPECT_EQ(suite.AccelG, 9.81);
   EXPECT_EQ(suite.UnitaLung, "a");
-  EXPECT_EQ(suite.UnitaForze, "c");                        // forze is tried before carichi_superficie
+  EXPECT_EQ(suite.UnitaForze, "c");  // forze is tried before carichi_superficie
   EXPECT_EQ(suite.UnitaMomenti, "b");
   EXPECT_EQ(suite.UnitaCarichi, "");
   EXPECT_EQ(suite.UnitaTensioni, "");
-  EXPECT_EQ(suite.UnitaSezioni, "dati_sezioni");           // the value counts as part of the key
+  EXPECT_EQ(suite.UnitaSezioni, "dati_sezioni");  // the value counts as part of the key
 }
 
 // Each key gives way to those before it, and only to them; every 8 of the value becomes a slash.
@@ -222,24 +223,24 @@ TEST_F(UnitaLavoro, PrimoValoreFinoAllaVirgola) {
   ScriviByte(cartella + "/parametrilavoro", "via,cm [lunghezze]\r\n9,81 [accelerazione_g]\r\n");
   ASSERT_TRUE(LeggiParametriLavoro());
   EXPECT_EQ(suite.UnitaLung, "cm");
-  EXPECT_EQ(suite.AccelG, 9);                              // always the point
+  EXPECT_EQ(suite.AccelG, 9);  // always the point
 }
 
 TEST_F(UnitaLavoro, Guasti) {
-  EXPECT_FALSE(ImpostaUnita());                            // no file
-  EXPECT_FALSE(LeggiParametriLavoro());                    // the missing file itself, not the factors of empty units
+  EXPECT_FALSE(ImpostaUnita());          // no file
+  EXPECT_FALSE(LeggiParametriLavoro());  // the missing file itself, not the factors of empty units
   EXPECT_TRUE(FaultAritmetico());
   const std::string buono = File("9.81", "cm", "daN", "daNcm", "daN8cm2", "cm", "daN8m2");
   AttesoGuasto("");
-  AttesoGuasto(buono + "\r\n");                            // a blank line
+  AttesoGuasto(buono + "\r\n");  // a blank line
   AttesoGuasto(buono + "senza parentesi");
   AttesoGuasto("via\r\nsenza parentesi\r\n" + buono.substr(11));
   AttesoGuasto("via\r\n1e400 [accelerazione_g]\r\n");
   AttesoGuasto("via\r\n1e400 [nord_geografico]\r\n");
-  AttesoGuasto(File("0", "cm", "kgf", "daNcm", "daN8cm2", "cm", "daN8m2"));      // 10 / 0
+  AttesoGuasto(File("0", "cm", "kgf", "daNcm", "daN8cm2", "cm", "daN8m2"));  // 10 / 0
   AttesoGuasto(File("0", "cm", "t", "daNcm", "daN8cm2", "cm", "daN8m2"));
-  AttesoGuasto(File("9.81", "cm", "daN", "daNcm", "daN8in2", "cm", "daN8m2"));   // 1 / 0
-  AttesoGuasto(File("9.81", "cm", "daN", "daNcm", "daN8cm2", "cm", "x"));        // 0 / 0
+  AttesoGuasto(File("9.81", "cm", "daN", "daNcm", "daN8in2", "cm", "daN8m2"));  // 1 / 0
+  AttesoGuasto(File("9.81", "cm", "daN", "daNcm", "daN8cm2", "cm", "x"));       // 0 / 0
   AzzeraFault();
   EXPECT_TRUE(Imposta(buono));
   EXPECT_FALSE(FaultAritmetico());
@@ -257,7 +258,7 @@ TEST_F(UnitaLavoro, UnitaIgnotaFattoreZero) {
 TEST_F(UnitaLavoro, RigaDiUnita) {
   EXPECT_EQ(ComponiUnita(" a ", "b", " c", "d  "), "a                   b                  c                  d");
   //                                                 1234567890123456789012345678901234567890
-  EXPECT_EQ(ComponiUnita("Lunghezze più lunghe di venti", "", "", ""), "Lunghezze più lunghe");   // 20 characters, not bytes
+  EXPECT_EQ(ComponiUnita("Lunghezze più lunghe di venti", "", "", ""), "Lunghezze più lunghe");  // 20 characters, not bytes
   EXPECT_EQ(ComponiUnita("", "", "", ""), "");
   const std::string lungo(30, 'x');
   EXPECT_EQ(ComponiUnita(lungo, lungo, lungo, lungo), std::string(20 + 3 * 19, 'x'));

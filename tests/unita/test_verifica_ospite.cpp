@@ -60,7 +60,7 @@ TEST_F(VerificaOspite, UnProcessoCheMuoreNonEEseguito) {
               "2|pilastro_A1.qb7: verificato|muore.qb7: non eseguito|controvento_E1.qb7: non verificato");
     errno = 0;
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
-    EXPECT_EQ(errno, ECHILD);                   // every process was reaped
+    EXPECT_EQ(errno, ECHILD);  // every process was reaped
   }
 }
 
@@ -79,10 +79,14 @@ TEST_F(VerificaOspite, IlMotivoDiChiMuore) {
   testing::internal::CaptureStderr();
   testing::internal::CaptureStdout();
   EXPECT_EQ(VerificaNodi({Nodo("muore"), Nodo("esce")}, 2), 2);
-  EXPECT_EQ(testing::internal::GetCapturedStdout(), "[prova] intera\nNODO " + Nodo("muore") + ": non eseguito\n"
-                                                    "[prova] intera\nNODO " + Nodo("esce") + ": non eseguito\n");
-  EXPECT_EQ(testing::internal::GetCapturedStderr(), "NODO " + Nodo("muore") + ": il processo è stato terminato dal segnale 9 (SIGKILL)\n"
-                                                    "NODO " + Nodo("esce") + ": il processo è finito con lo stato 7\n");
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "[prova] intera\nNODO " + Nodo("muore") +
+                                                      ": non eseguito\n"
+                                                      "[prova] intera\nNODO " +
+                                                      Nodo("esce") + ": non eseguito\n");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "NODO " + Nodo("muore") +
+                                                      ": il processo è stato terminato dal segnale 9 (SIGKILL)\n"
+                                                      "NODO " +
+                                                      Nodo("esce") + ": il processo è finito con lo stato 7\n");
 }
 
 // The name of a node that is not there says that another is verified: it stays one line, of its own outcome.
@@ -98,7 +102,7 @@ TEST_F(VerificaOspite, UnNomeNonFaUnaRiga) {
 
 // --- an end from outside ------------------------------------------------------------------------------------------------------------
 
-static int presenti[2];            // a worker that waits for ever writes its number here; nobody holds the writing end any more: all have ended
+static int presenti[2];  // a worker that waits for ever writes its number here; nobody holds the writing end any more: all have ended
 
 static bool ScegliEAspetta(const RichiestaFile&, std::string& percorso, int& filtro) {
   percorso = ospite.file.front().percorso;
@@ -125,7 +129,7 @@ static void ChiediLaFine(int segnale, const std::vector<std::string>& nodi) {
   ASSERT_EQ(pipe(uscita), 0);
   const pid_t lista = fork();
   if (lista == 0) {
-    for (const int s : {SIGINT, SIGTERM, SIGHUP}) signal(s, SIG_DFL);      // a runner in the background may have them ignored
+    for (const int s : {SIGINT, SIGTERM, SIGHUP}) signal(s, SIG_DFL);  // a runner in the background may have them ignored
     dup2(uscita[1], STDOUT_FILENO);
     for (const int d : {uscita[0], uscita[1], presenti[0]}) close(d);
     piattaforma.scegliFile = ScegliEAspetta;
@@ -159,7 +163,7 @@ TEST_F(VerificaOspite, ChiLavoraFinisceConLaLista) {
   const std::vector<std::string> nodi = {Nodo("pilastro_A1"), Nodo("controvento_E1"), Nodo("pilastro_B1"), Nodo("tirante_G1")};
   for (const int segnale : {SIGINT, SIGTERM, SIGHUP}) ChiediLaFine(segnale, nodi);
 #ifdef __linux__
-  ChiediLaFine(SIGKILL, nodi);             // elsewhere they end at the next line that they print
+  ChiediLaFine(SIGKILL, nodi);  // elsewhere they end at the next line that they print
 #endif
 }
 
@@ -209,13 +213,12 @@ TEST_F(VerificaOspite, LoStessoNomeInFila) {
   piattaforma.scegliFile = ScegliOMuori;
   EXPECT_EQ(Verifica({Nodo("controvento_E1"), altro}, 2), "1|controvento_E1.qb7: non verificato|Controvento_E1.qb7: verificato");
   EXPECT_EQ(LeggiByte(CartellaLavoro(radice) + "RelSLU_QB07_Controvento_E1.txt"), sua);
-  EXPECT_EQ(LeggiByte(relazione), "");          // one file, in the spelling that was there
+  EXPECT_EQ(LeggiByte(relazione), "");  // one file, in the spelling that was there
 }
 
 TEST_F(VerificaOspite, LoStatoEIlPiuAlto) {
   EXPECT_EQ(Verifica({Nodo("pilastro_A1")}, 4), "0|pilastro_A1.qb7: verificato");
-  EXPECT_EQ(Verifica({Nodo("controvento_E1"), Nodo("pilastro_A1")}, 4),
-            "1|controvento_E1.qb7: non verificato|pilastro_A1.qb7: verificato");
+  EXPECT_EQ(Verifica({Nodo("controvento_E1"), Nodo("pilastro_A1")}, 4), "1|controvento_E1.qb7: non verificato|pilastro_A1.qb7: verificato");
   EXPECT_EQ(Verifica({Nodo("manca"), Nodo("controvento_E1")}, 4), "2|manca.qb7: non eseguito|controvento_E1.qb7: non verificato");
 }
 
@@ -224,7 +227,8 @@ TEST_F(VerificaOspite, SenzaSestetti) {
   std::string file = LeggiByte(Nodo("tirante_G1"));
   const std::size_t classe = file.find("C25/30");
   ASSERT_NE(classe, std::string::npos);
-  file = file.substr(0, file.find('\n', file.find('\n', classe) + 1) + 1) + " 0 \r\n 0 \r\n1\r\n";   // exposure, then no sextet, no node, method
+  file =
+    file.substr(0, file.find('\n', file.find('\n', classe) + 1) + 1) + " 0 \r\n 0 \r\n1\r\n";  // exposure, then no sextet, no node, method
   ScriviByte(Nodo("vuoto"), file);
   EXPECT_EQ(Verifica({Nodo("vuoto")}, 1), "0|vuoto.qb7: verificato");
 }
@@ -233,7 +237,8 @@ TEST_F(VerificaOspite, SenzaSestetti) {
 TEST_F(VerificaOspite, IlMetodoDellOpzioneVinceSuQuelloDelFile) {
   const auto relazioni = [&](const char* nome) {
     const std::string cartella = CartellaLavoro(radice), coda = std::string("_QB07_") + nome + ".txt";
-    return std::string(LeggiByte(cartella + "RelTA" + coda).empty() ? "" : "TA") + (LeggiByte(cartella + "RelSLU" + coda).empty() ? "" : "SLU");
+    return std::string(LeggiByte(cartella + "RelTA" + coda).empty() ? "" : "TA") +
+           (LeggiByte(cartella + "RelSLU" + coda).empty() ? "" : "SLU");
   };
   ospite.opzioni.metodo = 1;
   Verifica({Nodo("montante_C1"), Nodo("pilastro_A1")}, 1);

@@ -9,11 +9,11 @@
 #include <utility>
 #include <vector>
 
-constexpr int STATO_MASSIMO = 2;           // of the program
+constexpr int STATO_MASSIMO = 2;  // of the program
 
 namespace {
 struct Andamento {
-  std::size_t prossimo = 0;                // the next one to start
+  std::size_t prossimo = 0;  // the next one to start
   std::size_t consegnati = 0;
   std::map<std::size_t, EsitoCompito> esiti;                 // ended, their turn not yet come
   std::vector<std::pair<std::size_t, std::string>> risorse;  // of those at work
@@ -23,7 +23,7 @@ struct Andamento {
 static EsitoCompito EsitoDi(Figlio& f) {
   EsitoCompito e;
   e.uscita = std::move(f.uscita);
-  e.uscita.resize(e.uscita.rfind('\n') + 1);                 // no line end: nothing is left
+  e.uscita.resize(e.uscita.rfind('\n') + 1);  // no line end: nothing is left
   if (f.segnale != 0) e.motivo = "il processo è stato terminato dal segnale " + NomeSegnale(f.segnale);
   else if (f.stato < 0) e.motivo = "il processo è finito senza dire come";
   else if (f.stato > STATO_MASSIMO) e.motivo = "il processo è finito con lo stato " + std::to_string(f.stato);
@@ -47,7 +47,7 @@ static void AvviaQuanti(const Compiti& c, Andamento& a) {
     }
     if (AvviaFiglio(k, [&] { Esci(c.esegui(k)); })) continue;
     std::erase_if(a.risorse, [k](const auto& r) { return r.first == k; });
-    if (!figli.empty()) return;            // the system has no room for it now: after the next one has ended
+    if (!figli.empty()) return;  // the system has no room for it now: after the next one has ended
     a.esiti[k].motivo = "il processo non è partito";
   }
 }

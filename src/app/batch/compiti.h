@@ -10,16 +10,16 @@
 #include <string>
 
 struct EsitoCompito {
-  std::string uscita;              // whole lines that it printed; one that was cut short by its end is dropped
-  int stato = 2;                   // 0, 1 or 2
-  std::string motivo;              // Italian; empty: it ended by itself
+  std::string uscita;  // whole lines that it printed; one that was cut short by its end is dropped
+  int stato = 2;       // 0, 1 or 2
+  std::string motivo;  // Italian; empty: it ended by itself
 };
 
 struct Compiti {
-  std::size_t quanti = 0;          // pieces of work, by their position from 0
-  int insieme = 1;                 // as many at most at a time
-  std::function<int(std::size_t)> esegui;                            // in its own process: prints by Stampa, returns 0, 1 or 2
-  std::function<std::string(std::size_t)> risorsa;                   // two of one text are never at work together, the earlier goes first; null: any
-  std::function<void(std::size_t, const EsitoCompito&)> consegna;    // in this process
+  std::size_t quanti = 0;                           // pieces of work, by their position from 0
+  int insieme = 1;                                  // as many at most at a time
+  std::function<int(std::size_t)> esegui;           // in its own process: prints by Stampa, returns 0, 1 or 2
+  std::function<std::string(std::size_t)> risorsa;  // two of one text are never at work together, the earlier goes first; null: any
+  std::function<void(std::size_t, const EsitoCompito&)> consegna;  // in this process
 };
 void EseguiCompiti(const Compiti& c);

@@ -34,12 +34,12 @@ static std::string_view Parola(std::string_view& resto) {
 }
 
 namespace {
-struct Bersaglio {                        // the control that an instruction names
+struct Bersaglio {  // the control that an instruction names
   const Pannello* pannello = nullptr;
   const RigaPannello* riga = nullptr;
   Controllo* controllo = nullptr;
-  bool intera = false;                    // an exclusive choice named without index: its first entry stands for all
-  std::string nome;                       // as typed
+  bool intera = false;  // an exclusive choice named without index: its first entry stands for all
+  std::string nome;     // as typed
 };
 }  // namespace
 
@@ -221,8 +221,8 @@ std::string ValoreControllo(const Controllo& c, bool intera) {
 }
 
 AzioniUtente AzioniSuiRecord() {
-  return {UtenteScrive, UtenteSceglie, Scatena, PassaSulPannello, Visibile, Abilitato, ValoreControllo,
-          [](const Controllo& c) { return c.voci; }};
+  return {UtenteScrive, UtenteSceglie, Scatena,         PassaSulPannello,
+          Visibile,     Abilitato,     ValoreControllo, [](const Controllo& c) { return c.voci; }};
 }
 
 static bool Mostra(std::string_view resto) {
@@ -246,7 +246,7 @@ static bool Voci(std::string_view resto) {
 static bool Modello(std::string_view resto) {
   const std::string nome(Rifila(resto));
   std::string valore;
-  const std::span<const RigaNome> altri[] = { NomiLavoro(), NomiCollegamento(), NomiDisegno(), NomiPannelli() };
+  const std::span<const RigaNome> altri[] = {NomiLavoro(), NomiCollegamento(), NomiDisegno(), NomiPannelli()};
   if (nome.empty() || !ValoreModello(nome, valore, altri)) return false;
   Stampa(nome + " = " + SuUnaRiga(valore));
   return true;

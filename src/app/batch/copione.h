@@ -12,8 +12,8 @@
 
 struct StatoCopione {
   std::vector<std::string> righe;
-  std::size_t prossima = 0;               // position of the next line
-  bool fermato = false;                   // a line could not be carried out
+  std::size_t prossima = 0;  // position of the next line
+  bool fermato = false;      // a line could not be carried out
 };
 inline StatoCopione copione;
 
@@ -26,15 +26,15 @@ struct AzioniUtente {
   void (*passaSulPannello)(const Pannello& p);
   bool (*visibile)(const Pannello& p, const Controllo& c);
   bool (*abilitato)(const Pannello& p, const Controllo& c);
-  std::string (*valore)(const Controllo& c, bool intera);          // as ValoreControllo
+  std::string (*valore)(const Controllo& c, bool intera);  // as ValoreControllo
   std::vector<std::string> (*voci)(const Controllo& c);
 };
 AzioniUtente AzioniSuiRecord();
 inline AzioniUtente azioniUtente = AzioniSuiRecord();
 
-void CaricaCopione(std::string_view testo);          // lines ended by LF or CR LF, UTF-8
-bool EseguiRiga(std::string_view riga);              // one line; false: could not be carried out
-void EseguiCopione(const Pannello* modale);          // to the end, a stop, or until that modal panel has closed
+void CaricaCopione(std::string_view testo);  // lines ended by LF or CR LF, UTF-8
+bool EseguiRiga(std::string_view riga);      // one line; false: could not be carried out
+void EseguiCopione(const Pannello* modale);  // to the end, a stop, or until that modal panel has closed
 
 // What `mostra` prints behind the equals sign, without the marks; intera: an exclusive choice as a whole.
 std::string ValoreControllo(const Controllo& c, bool intera);

@@ -8,7 +8,7 @@
 #include "core/eventi.h"
 
 void Errore(const std::string& testo) {
-  const char* pulisci = ospite.progresso ? "\r\033[K" : "";        // the count that stands there
+  const char* pulisci = ospite.progresso ? "\r\033[K" : "";  // the count that stands there
   std::fprintf(stderr, "%serrore: %s\n", pulisci, PercorsoSuUnaRiga(testo).c_str());
 }
 

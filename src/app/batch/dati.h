@@ -2,6 +2,6 @@
 #pragma once
 #include <string>
 
-void Errore(const std::string& testo);    // "errore: ..." on standard error, one line
+void Errore(const std::string& testo);  // "errore: ..." on standard error, one line
 // The quiet host mounted and the whole start; its boxes are told on standard error. False: it ended, the reason is told.
 bool AvviaPerDati();

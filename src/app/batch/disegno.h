@@ -3,5 +3,5 @@
 #pragma once
 #include <string>
 
-bool FormatoAmmesso(const std::string& uscita);      // the extension, in any case, is one of the formats
+bool FormatoAmmesso(const std::string& uscita);  // the extension, in any case, is one of the formats
 int DisegnaNodoOspite(const std::string& percorso, const std::string& uscita);

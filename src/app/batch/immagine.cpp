@@ -37,7 +37,8 @@ int ComandoImmagine() {
   }
   const int s = o.sestetto > 0 ? o.sestetto : SestettoGovernante(lavoro);
   if (s < 1 || s > nodo.NumSoll) {
-    Errore(n.percorso + ": " + (nodo.NumSoll == 0 ? "nessun sestetto" : "il sestetto " + std::to_string(s) + " non c'è, sono " + std::to_string(nodo.NumSoll)));
+    Errore(n.percorso + ": " +
+           (nodo.NumSoll == 0 ? "nessun sestetto" : "il sestetto " + std::to_string(s) + " non c'è, sono " + std::to_string(nodo.NumSoll)));
     return 2;
   }
   if (SostituisciByte(o.argomenti[1], InSvg(ImmagineSestetto(lavoro, s)))) return 0;

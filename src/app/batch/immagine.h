@@ -3,4 +3,4 @@
 #pragma once
 
 int ComandoImmagine();
-bool UscitaImmagineAmmessa();             // the output ends in .svg, in any case
+bool UscitaImmagineAmmessa();  // the output ends in .svg, in any case

@@ -10,9 +10,9 @@
 #include <new>
 #include <string>
 
-constexpr std::size_t RISERVA = 1u << 16;     // bytes given back before the message goes out
+constexpr std::size_t RISERVA = 1u << 16;  // bytes given back before the message goes out
 
-static std::string riga;                      // composed while there is memory
+static std::string riga;  // composed while there is memory
 static void* riserva = nullptr;
 
 static void MemoriaEsaurita() {

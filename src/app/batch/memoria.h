@@ -2,4 +2,4 @@
 // nobody could go on with a joint half loaded. Files that were being written are as a killed run leaves them.
 #pragma once
 
-void PreparaMemoria();                    // at the start; holds for the processes that this one forks, too
+void PreparaMemoria();  // at the start; holds for the processes that this one forks, too

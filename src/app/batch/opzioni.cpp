@@ -61,11 +61,11 @@ static bool NomeFile(Opzioni& o, std::string_view v) {
 
 namespace {
 struct RigaOpzione {
-  std::string_view nome;                  // with its equals sign where a value follows
+  std::string_view nome;  // with its equals sign where a value follows
   const char* valori;
   const char* aiuto;
   bool (*leggi)(Opzioni& o, std::string_view valore);
-  bool comune;                            // of every verb
+  bool comune;  // of every verb
 };
 }  // namespace
 
@@ -105,7 +105,7 @@ const Verbo* TrovaVerbo(std::span<const Verbo> verbi, std::string_view nome) {
 }
 
 static bool LeggiArgomenti(int argc, const char* const* argv, Opzioni& o, std::vector<const RigaOpzione*>& usate, std::string& motivo) {
-  int posto = 0;                          // arguments that are no option, so far
+  int posto = 0;  // arguments that are no option, so far
   for (int k = 1; k < argc; ++k) {
     const std::string_view a = argv[k];
     const RigaOpzione* riga = nullptr;

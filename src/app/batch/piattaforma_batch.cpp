@@ -16,7 +16,7 @@ void Stampa(const std::string& riga) { StampaTesto(riga + '\n'); }
 void StampaTesto(const std::string& testo) {
   std::string motivo;
   if (ScriviUscita(testo, motivo)) return;
-  FinisciSeRichiesto();                   // no loss: a signal that asks for the end broke off the write
+  FinisciSeRichiesto();  // no loss: a signal that asks for the end broke off the write
   std::fprintf(stderr, "%suscita standard persa: %s\n", ospite.dati ? "errore: " : "", motivo.c_str());
   Esci(2);
 }
@@ -59,7 +59,7 @@ void Esci(int stato) {
   FermaFigli();
   std::fflush(stdout);
   std::fflush(stderr);
-  std::_Exit(stato);                      // ends at once, as the program does: nothing is written at the end of a run
+  std::_Exit(stato);  // ends at once, as the program does: nothing is written at the end of a run
 }
 
 static void OspiteMessaggio(const std::string& testo, const std::string& titolo, Icona icona) {
@@ -120,7 +120,7 @@ static void OspiteTimer(Temporizzatore quale, int ms, void (*scaduto)()) {
 static void OspiteApri(const Pannello& p, bool modale) {
   PannelloMostrato(p, modale);
   if (!modale) return;
-  if (ospite.dentroModale == nullptr) Esci(2);          // nobody could close it
+  if (ospite.dentroModale == nullptr) Esci(2);  // nobody could close it
   ospite.dentroModale(p);
   // The script has ended inside it: the run ends where it stands, as a process that is taken down.
   if (p.aperto != nullptr && *p.aperto) Esci(StatoUscita());
@@ -140,7 +140,7 @@ void AvanzaTempo(int ms) {
     if (primo == nullptr) break;
     ospite.orologio = primo->scadenza;
     primo->attivo = false;
-    if (primo->scaduto != nullptr) primo->scaduto();     // may start a timer again
+    if (primo->scaduto != nullptr) primo->scaduto();  // may start a timer again
   }
   ospite.orologio = fine;
 }
@@ -158,7 +158,7 @@ void MontaPiattaforma() {
   piattaforma.timer = OspiteTimer;
   piattaforma.apri = OspiteApri;
   piattaforma.chiudi = PannelloNascosto;
-  piattaforma.aggiorna = [](Controllo&) {};      // nothing to paint
+  piattaforma.aggiorna = [](Controllo&) {};  // nothing to paint
   piattaforma.fuoco = [](Controllo&) {};
   piattaforma.attesa = [](bool) {};
   piattaforma.diario = [](const std::string& riga) { Stampa(RigaDiario(riga)); };

@@ -10,45 +10,45 @@
 #include <vector>
 
 struct RispostaFile {
-  bool scelto = false;                    // false: Annulla
+  bool scelto = false;  // false: Annulla
   std::string percorso;
-  int filtro = 1;                         // from 1
+  int filtro = 1;  // from 1
 };
 
 struct TimerOspite {
   bool attivo = false;
-  long long scadenza = 0;                 // on the timers' clock, ms
+  long long scadenza = 0;  // on the timers' clock, ms
   void (*scaduto)() = nullptr;
 };
 
 struct ProgrammaAvviato {
   int processo = 0;
-  std::string finestra;                   // title of its window: the one looked for in vain before the start
+  std::string finestra;  // title of its window: the one looked for in vain before the start
 };
 
 struct StatoOspite {
   Opzioni opzioni;
-  std::deque<bool> risposte;              // to the next questions; then as the options say
-  std::deque<RispostaFile> file;          // to the next file dialogs; then Annulla
-  long long orologio = 0;                 // the timers' time, ms since the start
-  TimerOspite timer[2];                   // by Temporizzatore
+  std::deque<bool> risposte;      // to the next questions; then as the options say
+  std::deque<RispostaFile> file;  // to the next file dialogs; then Annulla
+  long long orologio = 0;         // the timers' time, ms since the start
+  TimerOspite timer[2];           // by Temporizzatore
   std::vector<ProgrammaAvviato> avviati;
-  std::string finestraCercata;            // the last window that was not found
-  bool avviato = false;                   // the start has ended well
-  bool dati = false;                      // the output is data or information: failures go to standard error, as "errore: ..."
-  bool progresso = false;                 // a count stands on the terminal's line
-  bool lavorante = false;                 // a worker: its output is a channel
-  bool nonVerificato = false;             // a verification of this run found a sextet that is not verified
-  void (*dentroModale)(const Pannello& p) = nullptr;   // works inside a modal panel until it closes; null: nobody does
+  std::string finestraCercata;                        // the last window that was not found
+  bool avviato = false;                               // the start has ended well
+  bool dati = false;                                  // the output is data or information: failures go to standard error, as "errore: ..."
+  bool progresso = false;                             // a count stands on the terminal's line
+  bool lavorante = false;                             // a worker: its output is a channel
+  bool nonVerificato = false;                         // a verification of this run found a sextet that is not verified
+  void (*dentroModale)(const Pannello& p) = nullptr;  // works inside a modal panel until it closes; null: nobody does
 };
 inline StatoOspite ospite;
 
-void MontaPiattaforma();                  // fills piattaforma
-void Stampa(const std::string& riga);     // one line on standard output, at once; output that cannot be written ends the run, status 2
+void MontaPiattaforma();                     // fills piattaforma
+void Stampa(const std::string& riga);        // one line on standard output, at once; output that cannot be written ends the run, status 2
 void StampaTesto(const std::string& testo);  // the same without a line end
-bool LeggiTestoOspite(const std::string& percorso, std::string& testo);   // a file, or standard input for "-"
-bool LeggiFlusso(const std::string& percorso, std::string& testo);        // the same of anything that can be read, a pipe too
-int ProcessiInsieme();                    // as many as the options say, or one a core
-void AvanzaTempo(int ms);                  // fires the timers that come due, the earliest first
-int StatoUscita();                        // 0, 1 or 2 for a run that ends now, its last line carried out
-[[noreturn]] void Esci(int stato);        // ends the workers too
+bool LeggiTestoOspite(const std::string& percorso, std::string& testo);  // a file, or standard input for "-"
+bool LeggiFlusso(const std::string& percorso, std::string& testo);       // the same of anything that can be read, a pipe too
+int ProcessiInsieme();                                                   // as many as the options say, or one a core
+void AvanzaTempo(int ms);                                                // fires the timers that come due, the earliest first
+int StatoUscita();                                                       // 0, 1 or 2 for a run that ends now, its last line carried out
+[[noreturn]] void Esci(int stato);                                       // ends the workers too

@@ -25,9 +25,9 @@
 constexpr int ENTRAMBI[] = {MetodoTA, MetodoSLU};
 
 namespace {
-struct Incarico {                  // one node by one method
+struct Incarico {  // one node by one method
   std::string percorso;
-  int metodo = -1;                 // -1: the file's own
+  int metodo = -1;  // -1: the file's own
 };
 
 struct CorsaRiepilogo {
@@ -36,10 +36,10 @@ struct CorsaRiepilogo {
   std::vector<RigaRipresa> ripresa;
   FormatoRiepilogo formato = FormatoRiepilogo::Json;
   std::string suiteSha;
-  std::string uscita;              // gathered, when it goes to a file
-  FotografiaProgramma inizio;      // the panels right behind the start
-  bool toccato = false;            // in a worker: a joint was loaded since
-  std::map<std::size_t, std::string> fatti;      // objects that wait for their turn
+  std::string uscita;                        // gathered, when it goes to a file
+  FotografiaProgramma inizio;                // the panels right behind the start
+  bool toccato = false;                      // in a worker: a joint was loaded since
+  std::map<std::size_t, std::string> fatti;  // objects that wait for their turn
   std::size_t emessi = 0;
   std::string ultimoErrore;
   int stato = 0;
@@ -97,7 +97,8 @@ static bool LeggiRipresa(CorsaRiepilogo& c) {
     RigaRipresa r;
     const EsitoRipresa e = LeggiRigaRipresa(righe[k], finita || k + 1 < righe.size(), r);
     if (e == EsitoRipresa::Letta) c.ripresa.push_back(std::move(r));
-    if (e == EsitoRipresa::Troncata) std::fprintf(stderr, "avviso: %s: l'ultima riga è troncata, sarà rifatta\n", SuUnaRiga(c.o.riprendi).c_str());
+    if (e == EsitoRipresa::Troncata)
+      std::fprintf(stderr, "avviso: %s: l'ultima riga è troncata, sarà rifatta\n", SuUnaRiga(c.o.riprendi).c_str());
     if (e != EsitoRipresa::NonValida) continue;
     Errore("--riprendi=" + c.o.riprendi + ": riga " + std::to_string(k + 1) + ": non è un risultato di riepilogo");
     return false;
@@ -107,7 +108,7 @@ static bool LeggiRipresa(CorsaRiepilogo& c) {
 
 // ---- one piece of work, in its own process ----
 
-constexpr char PRESA = '=';        // in front of the position of an earlier line that holds
+constexpr char PRESA = '=';  // in front of the position of an earlier line that holds
 
 // Without reading the whole: inside a text the quotes of this member would be escaped.
 static int StatoOggetto(std::string_view oggetto) {
@@ -164,7 +165,8 @@ static std::string Lavora(CorsaRiepilogo& c, const Incarico& i) {
 static void DiErrore(CorsaRiepilogo& c, std::string_view oggetto) {
   json::Letto v;
   if (!json::Leggi(oggetto, v)) return;
-  const std::string testo = std::string(json::TestoDi(json::Cerca(v, "percorso"))) + ": " + std::string(json::TestoDi(json::Cerca(v, "motivo")));
+  const std::string testo =
+    std::string(json::TestoDi(json::Cerca(v, "percorso"))) + ": " + std::string(json::TestoDi(json::Cerca(v, "motivo")));
   if (testo != c.ultimoErrore) Errore(testo);
   c.ultimoErrore = testo;
 }
@@ -220,7 +222,8 @@ static std::vector<Blocco> InBlocchi(std::size_t quanti, std::size_t processi) {
 // those behind it come again, each in a process of its own.
 static void Ritira(CorsaRiepilogo& c, const Blocco& b, const EsitoCompito& e, std::vector<Blocco>& ancora) {
   std::vector<std::string> righe = Righe(e.uscita);
-  std::erase_if(righe, [](const std::string& r) { return !r.starts_with('{') && !r.starts_with(PRESA); });     // the message of a lack of memory
+  std::erase_if(righe,
+                [](const std::string& r) { return !r.starts_with('{') && !r.starts_with(PRESA); });  // the message of a lack of memory
   for (std::size_t k = 0; k < b.size(); ++k) {
     if (k < righe.size()) c.fatti[b[k]] = std::move(righe[k]);
     else if (k > righe.size()) ancora.push_back({b[k]});

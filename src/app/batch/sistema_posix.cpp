@@ -21,14 +21,14 @@ extern char** environ;
 
 // ---- standard channels ---------------------------------------------------------------------------------------------------------------
 
-constexpr int SCRITTURE[] = {SIGPIPE, SIGXFSZ};                 // what they say, the failed write says too
+constexpr int SCRITTURE[] = {SIGPIPE, SIGXFSZ};  // what they say, the failed write says too
 
 void PreparaCanali() {
-  constexpr int MODI[] = {O_WRONLY, O_RDONLY, O_WRONLY};         // of descriptors 0 to 2; the lowest free number is the one that is missing
+  constexpr int MODI[] = {O_WRONLY, O_RDONLY, O_WRONLY};  // of descriptors 0 to 2; the lowest free number is the one that is missing
   for (int d = 0; d <= STDERR_FILENO; ++d)
     if (fcntl(d, F_GETFD) < 0 && errno == EBADF && open("/dev/null", MODI[d]) != d) std::_Exit(2);
   for (const int s : SCRITTURE) signal(s, SIG_IGN);
-  signal(SIGCHLD, SIG_DFL);                // ignored by whoever started us, no process would leave its status
+  signal(SIGCHLD, SIG_DFL);  // ignored by whoever started us, no process would leave its status
 }
 
 static std::string Motivo(int errore) {
@@ -57,7 +57,7 @@ bool ScriviUscita(std::string_view testo, std::string& motivo) {
       motivo = Motivo(errore);
       return false;
     }
-    pollfd uscita = {STDOUT_FILENO, POLLOUT, 0};             // a channel that does not wait by itself
+    pollfd uscita = {STDOUT_FILENO, POLLOUT, 0};  // a channel that does not wait by itself
     if (errore == EAGAIN) poll(&uscita, 1, -1);
   }
   return true;
@@ -94,7 +94,8 @@ static pid_t Lancia(const std::string& programma, const std::string& argomento) 
 static int Raccolto(pid_t processo) {
   int stato = 0;
   pid_t esito = 0;
-  while ((esito = waitpid(processo, &stato, 0)) < 0 && errno == EINTR) {}
+  while ((esito = waitpid(processo, &stato, 0)) < 0 && errno == EINTR) {
+  }
   return esito == processo ? stato : -1;
 }
 
@@ -155,7 +156,7 @@ void FinisciSeRichiesto() {
   FermaFigli();
   signal(segnale, SIG_DFL);
   raise(segnale);
-  std::_Exit(128 + segnale);               // the signal was blocked
+  std::_Exit(128 + segnale);  // the signal was blocked
 }
 
 namespace {
@@ -202,7 +203,7 @@ static void DiventaFiglio(pid_t genitore, int canale) {
 bool AvviaFiglio(std::size_t compito, const std::function<void()>& lavoro) {
   int canale[2];
   if (pipe(canale) != 0) return false;
-  figli.emplace_back();                    // before the copy: no memory can fail behind it
+  figli.emplace_back();  // before the copy: no memory can fail behind it
   sigset_t richieste, prima;
   sigemptyset(&richieste);
   for (const int s : RICHIESTE) sigaddset(&richieste, s);
@@ -248,7 +249,7 @@ static void Raccogli(Figlio& f) {
 
 void AttendiFigli() {
   std::vector<pollfd> canali;
-  for (const Figlio& f : figli) canali.push_back({f.canale, POLLIN, 0});       // a negative one is passed over
+  for (const Figlio& f : figli) canali.push_back({f.canale, POLLIN, 0});  // a negative one is passed over
   canali.push_back({segnali.sveglia[0], POLLIN, 0});
   if (poll(canali.data(), static_cast<nfds_t>(canali.size()), -1) <= 0 || segnali.giunto != 0) return;
   for (std::size_t k = 0; k < figli.size(); ++k)

@@ -34,7 +34,7 @@ int VerificaNodi(const std::vector<std::string>& percorsi, int processi) {
   c.quanti = percorsi.size();
   c.insieme = processi;
   c.esegui = [&](std::size_t k) { return VerificaNodo(percorsi[k]); };
-  c.risorsa = [&](std::size_t k) { return Minuscolo(NomeSenzaEstensione(percorsi[k])); };   // two nodes of one stem write the same report
+  c.risorsa = [&](std::size_t k) { return Minuscolo(NomeSenzaEstensione(percorsi[k])); };  // two nodes of one stem write the same report
   c.consegna = [&](std::size_t k, const EsitoCompito& e) {
     const std::string testa = "NODO " + PercorsoSuUnaRiga(percorsi[k]) + ": ";
     if (!e.motivo.empty()) std::fprintf(stderr, "%s%s\n", testa.c_str(), e.motivo.c_str());

@@ -8,4 +8,4 @@
 
 int VerificaNodi(const std::vector<std::string>& percorsi, int processi);
 int VerificaNodo(const std::string& percorso);       // one node, in this process; 0, 1 or 2 as above
-bool CaricaNodoOspite(const std::string& percorso);   // as the load command does; false: cancelled or ended in its failure box
+bool CaricaNodoOspite(const std::string& percorso);  // as the load command does; false: cancelled or ended in its failure box

@@ -5,7 +5,7 @@
 #include "app/libreria/nodo_libreria.h"
 #include "results/governanti.h"
 
-static constexpr const char* UNITA_C[] = {"N/mm2", "kN", "-"};         // by Grandezza, ended by NUL
+static constexpr const char* UNITA_C[] = {"N/mm2", "kN", "-"};  // by Grandezza, ended by NUL
 
 static qb07_riga InRiga(const RigaControllo& r, int metodo) {
   const RigaUscita u = InUscita(r, metodo);
@@ -62,7 +62,8 @@ static qb07_fatti InFatti(const EsitoLib& e, std::size_t s) {
 }
 
 // Reads a result: `dove` is where the answer goes.
-template <class Dove, class F> static int Leggi(const qb07_esito* esito, Dove* dove, F&& corpo) {
+template <class Dove, class F>
+static int Leggi(const qb07_esito* esito, Dove* dove, F&& corpo) {
   return Proteggi([&]() -> int {
     const std::shared_ptr<EsitoLib> e = Trova<EsitoLib>(esito);
     if (e == nullptr) return QB07_MANIGLIA;
@@ -79,9 +80,7 @@ extern "C" {
 
 const char* qb07_versione(void) { return VERSIONE; }
 
-const char* qb07_testo_errore(int codice) {
-  return TestoErrore(codice);
-}
+const char* qb07_testo_errore(int codice) { return TestoErrore(codice); }
 
 const char* qb07_ultimo_errore(void) { return ultimoErrore.c_str(); }
 

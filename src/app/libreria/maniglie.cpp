@@ -52,7 +52,7 @@ int Rifiuta(int codice, const char* nome, std::string_view cosa) {
 
 // ---- handles ----
 
-constexpr std::uintptr_t PASSO = 16;         // looks like an aligned address
+constexpr std::uintptr_t PASSO = 16;  // looks like an aligned address
 
 std::uintptr_t NuovaManiglia(GenereManiglia genere, std::shared_ptr<void> oggetto) {
   const std::unique_lock chiusa(registro.serratura);

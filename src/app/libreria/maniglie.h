@@ -34,26 +34,38 @@ inline Registro registro;
 inline thread_local std::string ultimoErrore;
 
 const char* TestoErrore(int codice);
-int Rifiuta(int codice, std::string_view cosa = {});     // returns the code; the text of the error is the code's, then `cosa`
+int Rifiuta(int codice, std::string_view cosa = {});  // returns the code; the text of the error is the code's, then `cosa`
 int Rifiuta(int codice, const char* nome, std::string_view cosa);
 
 std::uintptr_t NuovaManiglia(GenereManiglia genere, std::shared_ptr<void> oggetto);
-std::shared_ptr<void> TrovaManiglia(GenereManiglia genere, const void* maniglia);   // null: none
+std::shared_ptr<void> TrovaManiglia(GenereManiglia genere, const void* maniglia);  // null: none
 int LiberaManiglia(GenereManiglia genere, const void* maniglia);
 
 struct SuiteLib;
 struct NodoLib;
 struct EsitoLib;
-template <class T> struct DiGenere;
-template <> struct DiGenere<SuiteLib> { static constexpr GenereManiglia genere = GenereManiglia::Suite; };
-template <> struct DiGenere<NodoLib> { static constexpr GenereManiglia genere = GenereManiglia::Nodo; };
-template <> struct DiGenere<EsitoLib> { static constexpr GenereManiglia genere = GenereManiglia::Esito; };
+template <class T>
+struct DiGenere;
+template <>
+struct DiGenere<SuiteLib> {
+  static constexpr GenereManiglia genere = GenereManiglia::Suite;
+};
+template <>
+struct DiGenere<NodoLib> {
+  static constexpr GenereManiglia genere = GenereManiglia::Nodo;
+};
+template <>
+struct DiGenere<EsitoLib> {
+  static constexpr GenereManiglia genere = GenereManiglia::Esito;
+};
 
-template <class T> std::shared_ptr<T> Trova(const void* maniglia) {
+template <class T>
+std::shared_ptr<T> Trova(const void* maniglia) {
   return std::static_pointer_cast<T>(TrovaManiglia(DiGenere<T>::genere, maniglia));
 }
 // Into the caller's pointer, only once everything has succeeded.
-template <class Maniglia, class T> void Consegna(Maniglia** dove, std::shared_ptr<T> oggetto) {
+template <class Maniglia, class T>
+void Consegna(Maniglia** dove, std::shared_ptr<T> oggetto) {
   *dove = reinterpret_cast<Maniglia*>(NuovaManiglia(DiGenere<T>::genere, std::move(oggetto)));
 }
 
@@ -73,7 +85,8 @@ class AmbienteCalcolo {
 };
 
 // Every function of the interface runs in here: no exception crosses it.
-template <class F> int Proteggi(F&& corpo) noexcept {
+template <class F>
+int Proteggi(F&& corpo) noexcept {
   ultimoErrore.clear();
   const AmbienteCalcolo ambiente;
   try {

@@ -19,10 +19,12 @@ double* ComponenteSoll(Nodo& n, int c, int s) {
 
 // ---- places within a joint ----
 
-template <class T> static T& In(Nodo& n, const PostoValore& p) {
+template <class T>
+static T& In(Nodo& n, const PostoValore& p) {
   return *reinterpret_cast<T*>(reinterpret_cast<std::byte*>(&n) + p.scarto);
 }
-template <class T> static const T& In(const Nodo& n, const PostoValore& p) {
+template <class T>
+static const T& In(const Nodo& n, const PostoValore& p) {
   return *reinterpret_cast<const T*>(reinterpret_cast<const std::byte*>(&n) + p.scarto);
 }
 
@@ -68,7 +70,7 @@ static int MettiTesto(NodoLib& n, const PostoValore& p, const char* nome, const 
   const bool sezione = std::string_view(nome) == "Sezione.Nome";
   if (sezione && NumCaratteri(testo) > LungNomeSez) return Rifiuta(QB07_TESTO, nome, "troppo lungo");
   const std::string t = sezione ? AllineaSinistra(testo, LungNomeSez) : std::string(testo);
-  std::string copia = t;                     // everything that may fail goes first
+  std::string copia = t;  // everything that may fail goes first
   In<std::string>(n.dati.variante[0], p).swap(copia);
   In<std::string>(n.dati.variante[1], p) = t;
   if (std::string_view(nome).ends_with(".Nome")) DimenticaGrado(n, p.radice);
@@ -77,13 +79,15 @@ static int MettiTesto(NodoLib& n, const PostoValore& p, const char* nome, const 
 
 // ---- records of the suite's tables: of equal names the last, as a load takes ----
 
-template <class Record> static const Record* InTabella(const Record* tabella, int conteggio, int massimo, std::string_view nome) {
+template <class Record>
+static const Record* InTabella(const Record* tabella, int conteggio, int massimo, std::string_view nome) {
   for (int k = std::min(conteggio, massimo); k >= 1; --k)
     if (Rifila(tabella[k].Nome) == Rifila(nome)) return &tabella[k];
   return nullptr;
 }
 
-template <class Record> static int Prendi(NodoLib& n, Record Nodo::*campo, const Record* r, const char* nome) {
+template <class Record>
+static int Prendi(NodoLib& n, Record Nodo::*campo, const Record* r, const char* nome) {
   if (r == nullptr) return Rifiuta(QB07_NOME, nome);
   for (Nodo& m : n.dati.variante) m.*campo = *r;
   return QB07_OK;
@@ -142,7 +146,8 @@ static int Regole(Nodo& n, const Suite& s, unsigned quali) {
 }
 
 // On copies: a joint keeps all of its values where a rule fails.
-template <class Regola> static int PerEntrambe(NodoLib& n, Regola&& regola) {
+template <class Regola>
+static int PerEntrambe(NodoLib& n, Regola&& regola) {
   const auto nuove = std::make_unique<Nodo[]>(2);
   for (std::size_t m = 0; m < 2; ++m) {
     nuove[m] = n.dati.variante[m];
@@ -192,9 +197,10 @@ static int LeggiSestetto(const qb07_sestetto& da, std::size_t n, SestettoLib& a)
   return QB07_OK;
 }
 
-constexpr std::size_t MAX_SESTETTI = 2'000'000'000;      // numbers of sextets are int
+constexpr std::size_t MAX_SESTETTI = 2'000'000'000;  // numbers of sextets are int
 
-template <class F> static int Leggi(const qb07_nodo* nodo, F&& corpo) {
+template <class F>
+static int Leggi(const qb07_nodo* nodo, F&& corpo) {
   return Proteggi([&]() -> int {
     const std::shared_ptr<NodoLib> n = Trova<NodoLib>(nodo);
     if (n == nullptr) return QB07_MANIGLIA;
@@ -202,7 +208,8 @@ template <class F> static int Leggi(const qb07_nodo* nodo, F&& corpo) {
     return corpo(static_cast<const NodoLib&>(*n));
   });
 }
-template <class F> static int Scrivi(qb07_nodo* nodo, F&& corpo) {
+template <class F>
+static int Scrivi(qb07_nodo* nodo, F&& corpo) {
   return Proteggi([&]() -> int {
     const std::shared_ptr<NodoLib> n = Trova<NodoLib>(nodo);
     if (n == nullptr) return QB07_MANIGLIA;

@@ -37,7 +37,7 @@ static void RitraiDoppio(NodoDoppio& d) {
 // The panels' records as behind the start of that suite.
 static void Prepara(const SuiteLib& s) {
   if (pannelliLib.attiva != &s) suite = s.tabelle->suite;
-  pannelliLib.attiva = nullptr;              // until the load has ended
+  pannelliLib.attiva = nullptr;  // until the load has ended
   RipristinaProgramma(*s.inizio);
   AzzeraLavoro();
   muto.riquadri.clear();

@@ -16,12 +16,12 @@ namespace {
 struct CorsaLib {
   const NodoLib& n;
   unsigned opzioni;
-  std::unique_ptr<Nodo> nodo = std::make_unique<Nodo>();       // the joint with the sextets of one piece
+  std::unique_ptr<Nodo> nodo = std::make_unique<Nodo>();  // the joint with the sextets of one piece
   std::unique_ptr<Lavoro> l = std::make_unique<Lavoro>();
   std::shared_ptr<EsitoLib> esito = std::make_shared<EsitoLib>();
   std::vector<RiquadroMuto> riquadri = {};
   std::vector<RigaControllo> alLimite = {};
-  double TadRd = 0;                          // of the sextets so far
+  double TadRd = 0;  // of the sextets so far
 };
 }  // namespace
 

@@ -77,7 +77,10 @@ bool Sha256File(const std::string& percorso, std::string& sha) {
 // Units, materials of the job; sections, grades, diameters, the option that widens the holes.
 std::string Sha256Suite() {
   const std::string* const cartelle[] = {&suite.DirLavoro, &suite.DirCustom};
-  struct FileSuite { int cartella; const char* nome; };
+  struct FileSuite {
+    int cartella;
+    const char* nome;
+  };
   // clang-format off
   constexpr FileSuite FILE_SUITE[] = {
     {0, "parametrilavoro"}, {0, "propmateriali.tx1"}, {1, "prof_pro"}, {1, "MaterialiNTC08.tx1"}, {1, "QbDiam.txt"}, {1, "OpzioniNodi1-5.txt"},

@@ -19,8 +19,8 @@
 #include <algorithm>
 #include <cmath>
 
-constexpr int LATO_PNG = 4000;                            // pixels of the longer side
-constexpr double GRADI_RADIANTE = 180 / 3.14159265358979323846;   // for the eye only
+constexpr int LATO_PNG = 4000;                                   // pixels of the longer side
+constexpr double GRADI_RADIANTE = 180 / 3.14159265358979323846;  // for the eye only
 
 // ---- copy of the store ----
 
@@ -37,16 +37,17 @@ static void CopiaArchi(FoglioVisto& f) {
   for (int i = 0; i < disegno.NumArchi; ++i) {
     const QPointF c = Punto(disegno.ArcCen[i]), a = Punto(disegno.ArcIni[i]), b = Punto(disegno.ArcFin[i]);
     double ampiezza = Angolo(c, b) - Angolo(c, a);
-    if (ampiezza <= 0.001) ampiezza += 360;               // equal ends: a full circle
-    f.archi.push_back({c.x(), c.y(), std::hypot(a.x() - c.x(), a.y() - c.y()), Angolo(c, a), ampiezza, disegno.ArcCol[i], disegno.ArcTipo[i]});
+    if (ampiezza <= 0.001) ampiezza += 360;  // equal ends: a full circle
+    f.archi.push_back(
+      {c.x(), c.y(), std::hypot(a.x() - c.x(), a.y() - c.y()), Angolo(c, a), ampiezza, disegno.ArcCol[i], disegno.ArcTipo[i]});
   }
 }
 
 static void CopiaTesti(FoglioVisto& f) {
   for (int i = 0; i < disegno.NumTesti; ++i) {
     const QPointF p = Punto(disegno.TesPos[i]);
-    for (const TrattoTesto& t : TrattiTesto(disegno.TesStr[static_cast<std::size_t>(i)], p.x(), p.y(), disegno.TesAng[i], disegno.TesLarg[i] / 10.0,
-                                            disegno.TesAlt[i] / 10.0))
+    for (const TrattoTesto& t : TrattiTesto(disegno.TesStr[static_cast<std::size_t>(i)], p.x(), p.y(), disegno.TesAng[i],
+                                            disegno.TesLarg[i] / 10.0, disegno.TesAlt[i] / 10.0))
       f.linee.push_back({QLineF(t.x1, t.y1, t.x2, t.y2), disegno.TesCol[i], 0});
   }
 }
@@ -89,7 +90,8 @@ bool DisegnaFoglioVisto(FoglioVisto& f) {
 static QPen Penna(int colore, int tipo, double spessore, double scala) {
   QPen p(QColor(QLatin1String(ColoreCarta(colore))), spessore, Qt::SolidLine, Qt::FlatCap);
   QList<qreal> tratti;
-  for (const QString& t : QString(TratteggioCarta(tipo)).split(' ', Qt::SkipEmptyParts)) tratti += std::max(0.5, t.toDouble() * scala / spessore);
+  for (const QString& t : QString(TratteggioCarta(tipo)).split(' ', Qt::SkipEmptyParts))
+    tratti += std::max(0.5, t.toDouble() * scala / spessore);
   if (!tratti.isEmpty()) p.setDashPattern(tratti);
   return p;
 }
@@ -139,7 +141,8 @@ bool SalvaFoglioPdf(const FoglioVisto& f, const QString& file) {
 
 bool SalvaFoglioPng(const FoglioVisto& f, const QString& file) {
   const double lungo = std::max(f.carta.width(), f.carta.height());
-  QImage immagine(static_cast<int>(f.carta.width() / lungo * LATO_PNG), static_cast<int>(f.carta.height() / lungo * LATO_PNG), QImage::Format_RGB32);
+  QImage immagine(static_cast<int>(f.carta.width() / lungo * LATO_PNG), static_cast<int>(f.carta.height() / lungo * LATO_PNG),
+                  QImage::Format_RGB32);
   if (immagine.isNull()) return false;
   immagine.fill(Qt::white);
   QPainter p(&immagine);

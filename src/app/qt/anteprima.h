@@ -19,17 +19,17 @@ struct LineaVista {
   int colore = 0, tipo = 0;
 };
 struct ArcoVisto {
-  double x = 0, y = 0, raggio = 0, inizio = 0, ampiezza = 0;   // degrees, counter-clockwise
+  double x = 0, y = 0, raggio = 0, inizio = 0, ampiezza = 0;  // degrees, counter-clockwise
   int colore = 0, tipo = 0;
 };
 struct FoglioVisto {
-  std::vector<LineaVista> linee;          // the texts' strokes too
+  std::vector<LineaVista> linee;  // the texts' strokes too
   std::vector<ArcoVisto> archi;
-  QRectF carta;                           // corners in sheet coordinates, margin included
+  QRectF carta;  // corners in sheet coordinates, margin included
 };
 
-bool DisegnaFoglioVisto(FoglioVisto& f);                     // draws the sheet and copies it; false: its box was shown
+bool DisegnaFoglioVisto(FoglioVisto& f);  // draws the sheet and copies it; false: its box was shown
 void DipingiFoglio(QPainter& p, const FoglioVisto& f, const QTransform& v);
-bool SalvaFoglioPdf(const FoglioVisto& f, const QString& file);      // fitted to an A3 page
+bool SalvaFoglioPdf(const FoglioVisto& f, const QString& file);  // fitted to an A3 page
 bool SalvaFoglioPng(const FoglioVisto& f, const QString& file);
-bool ApriAnteprima();                     // opens the window, or brings the open one up to date; false: not now, or its box was shown
+bool ApriAnteprima();  // opens the window, or brings the open one up to date; false: not now, or its box was shown

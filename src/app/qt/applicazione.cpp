@@ -8,7 +8,7 @@
 #include <utility>
 
 bool Applicazione::notify(QObject* oggetto, QEvent* evento) {
-  static bool mostrato = false;           // the box may find no memory either
+  static bool mostrato = false;  // the box may find no memory either
   try {
     return QApplication::notify(oggetto, evento);
   } catch (const std::bad_alloc&) {

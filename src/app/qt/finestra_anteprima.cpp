@@ -21,13 +21,13 @@
 
 #include <cmath>
 
-constexpr double PASSO_ZOOM = 1.25, MIN_ZOOM = 0.2, MAX_ZOOM = 60;   // 1: the whole sheet
+constexpr double PASSO_ZOOM = 1.25, MIN_ZOOM = 0.2, MAX_ZOOM = 60;  // 1: the whole sheet
 
 namespace {
 struct Lavagna : QWidget {
   FoglioVisto foglio;
   double zoom = 1;
-  QPointF spostamento;                    // of the sheet's centre from the window's, in pixels
+  QPointF spostamento;  // of the sheet's centre from the window's, in pixels
   QPointF presa;
 
   QTransform Vista() const {
@@ -109,7 +109,8 @@ static void SalvaAnteprima(const FormatoAnteprima& f, const FoglioVisto& foglio)
   std::string percorso;
   int filtro = 1;
   if (!piattaforma.scegliFile(r, percorso, filtro)) return;
-  if (!f.salva(foglio, Testo(RisolviPercorso(percorso)))) Messaggio("Il file " + percorso + " non è stato scritto.", "ERRORE", Icona::Critica);
+  if (!f.salva(foglio, Testo(RisolviPercorso(percorso))))
+    Messaggio("Il file " + percorso + " non è stato scritto.", "ERRORE", Icona::Critica);
 }
 
 // ---- the window ----

@@ -38,8 +38,7 @@ static void AspettaChiusura(FinestraPannello& f) {
   QEventLoop ciclo;
   f.ciclo = &ciclo;
   const int comandi = std::exchange(finestre.comandi, 0);
-  if (finestre.dentroModale != nullptr)
-    QTimer::singleShot(0, f.finestra, [p = f.pannello] { finestre.dentroModale(*p); });
+  if (finestre.dentroModale != nullptr) QTimer::singleShot(0, f.finestra, [p = f.pannello] { finestre.dentroModale(*p); });
   ciclo.exec();
   finestre.comandi = comandi;
   f.ciclo = nullptr;
@@ -48,7 +47,7 @@ static void AspettaChiusura(FinestraPannello& f) {
 // A grid of frames of which some may be out of use: those in use stand in order, two to a row.
 static void Impagina(QWidget& finestra) {
   auto* griglia = finestra.findChild<QGridLayout*>("_griglia");
-  if (griglia == nullptr || griglia->parentWidget()->window() != &finestra) return;     // the other windows are children of the main one
+  if (griglia == nullptr || griglia->parentWidget()->window() != &finestra) return;  // the other windows are children of the main one
   QList<QWidget*> cornici;
   while (QLayoutItem* posto = griglia->takeAt(0)) {
     cornici += posto->widget();

@@ -16,7 +16,8 @@ static std::string Proprieta(Display* d, Window w, Atom nome, Atom tipo) {
   unsigned long quanti = 0, resto = 0;
   unsigned char* dati = nullptr;
   std::string testo;
-  if (XGetWindowProperty(d, w, nome, 0, 4096, False, tipo, &tipoVero, &bit, &quanti, &resto, &dati) == Success && dati != nullptr && bit == 8)
+  if (XGetWindowProperty(d, w, nome, 0, 4096, False, tipo, &tipoVero, &bit, &quanti, &resto, &dati) == Success && dati != nullptr &&
+      bit == 8)
     testo.assign(reinterpret_cast<const char*>(dati), quanti);
   if (dati != nullptr) XFree(dati);
   return testo;
@@ -73,7 +74,7 @@ static void ChiediAlGestore(Display* d, Window w) {
   e.xclient.window = w;
   e.xclient.message_type = XInternAtom(d, "_NET_ACTIVE_WINDOW", False);
   e.xclient.format = 32;
-  e.xclient.data.l[0] = 2;                          // asked for by the user
+  e.xclient.data.l[0] = 2;  // asked for by the user
   XSendEvent(d, DefaultRootWindow(d), False, SubstructureRedirectMask | SubstructureNotifyMask, &e);
 }
 

@@ -27,7 +27,7 @@
 // ---- one event of the user ----
 
 namespace {
-struct ComandoInCorso {                   // counted out also where it ends for lack of memory
+struct ComandoInCorso {  // counted out also where it ends for lack of memory
   ComandoInCorso() { ++finestre.comandi; }
   ~ComandoInCorso() { --finestre.comandi; }
   ComandoInCorso(const ComandoInCorso&) = delete;
@@ -39,7 +39,7 @@ struct ComandoInCorso {                   // counted out also where it ends for 
 template <class F>
 static void SeLibero(const Legame& l, F fai) {
   if (finestre.comandi > 0 || finestre.occupato || finestre.finita || !Raggiungibile(*l.pannello)) {
-    Dipingi(*l.controllo);                // the widget shows again what holds
+    Dipingi(*l.controllo);  // the widget shows again what holds
     return;
   }
   {
@@ -128,15 +128,9 @@ static void CollegaIngresso(Legame& l) {
     case Genere::Spunta:
       QObject::connect(static_cast<QCheckBox*>(w), &QCheckBox::clicked, w, [p](bool si) { Scegli(*p, si ? 1 : 0); });
       break;
-    case Genere::Scelta:
-      QObject::connect(static_cast<QRadioButton*>(w), &QRadioButton::clicked, w, [p] { Scegli(*p, 1); });
-      break;
-    case Genere::Lista:
-      QObject::connect(static_cast<QComboBox*>(w), &QComboBox::activated, w, [p](int k) { Scegli(*p, k); });
-      break;
-    case Genere::Barra:
-      QObject::connect(static_cast<QScrollBar*>(w), &QScrollBar::valueChanged, w, [p](int v) { Scegli(*p, v); });
-      break;
+    case Genere::Scelta: QObject::connect(static_cast<QRadioButton*>(w), &QRadioButton::clicked, w, [p] { Scegli(*p, 1); }); break;
+    case Genere::Lista: QObject::connect(static_cast<QComboBox*>(w), &QComboBox::activated, w, [p](int k) { Scegli(*p, k); }); break;
+    case Genere::Barra: QObject::connect(static_cast<QScrollBar*>(w), &QScrollBar::valueChanged, w, [p](int v) { Scegli(*p, v); }); break;
     case Genere::Schede:
       QObject::connect(static_cast<QTabWidget*>(w), &QTabWidget::currentChanged, w, [p](int k) { Scegli(*p, k); });
       CollegaPagine(*static_cast<QTabWidget*>(w));
@@ -221,7 +215,7 @@ static QScrollBar* BarraVicina(const QWidget& w) {
 
 static bool Rotella(const QWidget& w, QWheelEvent& e) {
   if (dynamic_cast<const QScrollBar*>(&w) != nullptr) return false;
-  if (const auto* lista = dynamic_cast<const QComboBox*>(&w); lista != nullptr && !lista->hasFocus()) return true;   // no choice by accident
+  if (const auto* lista = dynamic_cast<const QComboBox*>(&w); lista != nullptr && !lista->hasFocus()) return true;  // no choice by accident
   QScrollBar* barra = BarraVicina(w);
   if (barra == nullptr || !barra->isEnabled() || !barra->isVisible() || e.angleDelta().y() == 0) return false;
   barra->setValue(barra->value() + (e.angleDelta().y() < 0 ? 1 : -1));
@@ -296,7 +290,7 @@ static void FuocoPreso(QWidget& w, Qt::FocusReason causa) {
 static void FuocoPerso(QWidget& w, Qt::FocusReason causa) {
   const Legame* l = CampoDelPannello(w);
   if (l == nullptr || FuocoDiPassaggio(causa)) return;
-  static_cast<QLineEdit&>(w).setCursorPosition(0);         // of a long text the head shows
+  static_cast<QLineEdit&>(w).setCursorPosition(0);  // of a long text the head shows
   if (finestre.comandi == 0) Accade(*l, Evento::Invio);
 }
 

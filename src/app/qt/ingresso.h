@@ -6,7 +6,7 @@ class QWidget;
 struct Legame;
 struct Pannello;
 
-void CollegaPannello(const Pannello& p);             // signals of its widgets, which are tied
-void CollegaTasto(QAbstractButton& b);              // the shortcut that its property tasto names
-void SpiaIngresso();                                 // the application's filter: pointer, focus, double click, keys, closing
-void PassaPuntatore(const Pannello& p, QWidget& finestra, int x, int y);   // pointer over that place of a window
+void CollegaPannello(const Pannello& p);  // signals of its widgets, which are tied
+void CollegaTasto(QAbstractButton& b);    // the shortcut that its property tasto names
+void SpiaIngresso();                      // the application's filter: pointer, focus, double click, keys, closing
+void PassaPuntatore(const Pannello& p, QWidget& finestra, int x, int y);  // pointer over that place of a window

@@ -62,7 +62,7 @@ static void DipingiCampo(Legame& l) {
   const QString t = Testo(l.controllo->testo);
   if (w.text() == t) return;
   w.setText(t);
-  if (!w.hasFocus()) w.setCursorPosition(0);         // of a long text the head shows
+  if (!w.hasFocus()) w.setCursorPosition(0);  // of a long text the head shows
 }
 
 static void DipingiComando(Legame& l) { static_cast<QAbstractButton*>(l.oggetto)->setText(Didascalia(*l.oggetto, l.controllo->testo)); }
@@ -124,7 +124,9 @@ static void DipingiSchede(Legame& l) {
 static void DipingiImmagine(Legame& l) { static_cast<Quadro*>(l.oggetto)->Mostra(l.controllo->tela); }
 
 template <class T>
-static bool Di(const QWidget& w) { return dynamic_cast<const T*>(&w) != nullptr; }
+static bool Di(const QWidget& w) {
+  return dynamic_cast<const T*>(&w) != nullptr;
+}
 
 namespace {
 struct Classe {
@@ -191,13 +193,13 @@ static void PreparaOggetto(Legame& l) {
   const Genere g = l.riga->genere;
   if (g != Genere::Cornice && g != Genere::Schede && !l.oggetto->property("cede").toBool()) {
     QSizePolicy misura = l.oggetto->sizePolicy();
-    misura.setRetainSizeWhenHidden(true);            // a row that hides leaves its place
+    misura.setRetainSizeWhenHidden(true);  // a row that hides leaves its place
     l.oggetto->setSizePolicy(misura);
   }
   if (auto* etichetta = dynamic_cast<QLabel*>(l.oggetto)) etichetta->setTextFormat(Qt::PlainText);
   if (auto* lista = dynamic_cast<QComboBox*>(l.oggetto)) {
     lista->setMaxVisibleItems(24);
-    lista->setFocusPolicy(Qt::StrongFocus);          // a wheel that brought the focus would choose with it
+    lista->setFocusPolicy(Qt::StrongFocus);  // a wheel that brought the focus would choose with it
   }
   l.oggetto->setMouseTracking(true);
 }

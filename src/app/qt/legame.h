@@ -25,23 +25,23 @@ struct Legame {
   const RigaPannello* riga = nullptr;
   Controllo* controllo = nullptr;
   QWidget* oggetto = nullptr;
-  QWidget* unita = nullptr;               // the unit beside a field, which is enabled with it; nullptr: none
-  QButtonGroup* gruppo = nullptr;         // of an exclusive choice
-  std::vector<std::string> voci;          // entries that the widget shows now
+  QWidget* unita = nullptr;        // the unit beside a field, which is enabled with it; nullptr: none
+  QButtonGroup* gruppo = nullptr;  // of an exclusive choice
+  std::vector<std::string> voci;   // entries that the widget shows now
 };
 
 struct StatoLegami {
   std::unordered_map<const Controllo*, Legame> perControllo;
   std::unordered_map<const QObject*, Legame*> perOggetto;
 };
-inline StatoLegami legami;                // filled with the windows, emptied with them
+inline StatoLegami legami;  // filled with the windows, emptied with them
 
 QString NomeOggetto(const RigaPannello& r, int indice);
 QStringList DifferenzeForma(const Pannello& p, const QWidget& forma);
-void LegaPannello(const Pannello& p, QWidget& forma);     // the form must be without differences
+void LegaPannello(const Pannello& p, QWidget& forma);  // the form must be without differences
 void SciogliLegami();
 
-Legame* LegameDi(const Controllo& c);                     // nullptr: not tied
-Legame* LegameDi(const QObject* o);                       // of the widget itself or the nearest one around it
-void Dipingi(const Controllo& c);                         // no event of ours follows
+Legame* LegameDi(const Controllo& c);  // nullptr: not tied
+Legame* LegameDi(const QObject* o);    // of the widget itself or the nearest one around it
+void Dipingi(const Controllo& c);      // no event of ours follows
 void DipingiPannello(const Pannello& p);

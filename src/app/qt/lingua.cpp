@@ -159,7 +159,7 @@ struct Riserva : QTranslator {
 }  // namespace
 
 void PreparaLingua() {
-  std::setlocale(LC_NUMERIC, "C");        // the toolkit takes the desktop's locale into the process
+  std::setlocale(LC_NUMERIC, "C");  // the toolkit takes the desktop's locale into the process
   QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
   qApp->installTranslator(new Riserva(qApp));
   auto* traduzione = new QTranslator(qApp);

@@ -2,4 +2,4 @@
 // program itself reads and writes stay apart from the locale.
 #pragma once
 
-void PreparaLingua();        // once, behind the creation of the application
+void PreparaLingua();  // once, behind the creation of the application

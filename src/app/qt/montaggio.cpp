@@ -104,6 +104,6 @@ QStringList CreaFinestre() {
 
 void DistruggiFinestre() {
   SciogliLegami();
-  if (!finestre.elenco.empty()) delete finestre.elenco.front().finestra;    // the others are its children
+  if (!finestre.elenco.empty()) delete finestre.elenco.front().finestra;  // the others are its children
   finestre.elenco.clear();
 }

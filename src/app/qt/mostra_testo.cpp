@@ -8,8 +8,8 @@
 #include "core/testo.h"
 #include "model/suite.h"
 
-#include <QAction>
 #include <QAbstractTextDocumentLayout>
+#include <QAction>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
@@ -53,9 +53,9 @@ static bool ApriConIlDesktop(const QString& file, const char* genere) {
 
 // ---- the window of our own ----
 
-constexpr int TABULAZIONE = 8;                            // the columns of the reports count on it
-constexpr double BORDO_STAMPA = 20;                       // mm on each side: those that the toolkit leaves
-constexpr double ARROTONDAMENTO = 0.97;                   // letters are whole dots wide
+constexpr int TABULAZIONE = 8;           // the columns of the reports count on it
+constexpr double BORDO_STAMPA = 20;      // mm on each side: those that the toolkit leaves
+constexpr double ARROTONDAMENTO = 0.97;  // letters are whole dots wide
 
 static QString TestoDelFile(const QString& file) {
   FileLettura f;
@@ -70,7 +70,7 @@ static void Cerca(QPlainTextEdit& testo, QLineEdit& che, bool indietro) {
   if (che.text().isEmpty()) return;
   const QTextDocument::FindFlags come = indietro ? QTextDocument::FindBackward : QTextDocument::FindFlags();
   bool trovato = testo.find(che.text(), come);
-  if (!trovato) {                                       // once more from the other end
+  if (!trovato) {  // once more from the other end
     QTextCursor c = testo.textCursor();
     c.movePosition(indietro ? QTextCursor::End : QTextCursor::Start);
     testo.setTextCursor(c);
@@ -89,7 +89,7 @@ static qreal Tabulazione(const QFont& carattere) { return QFontMetricsF(caratter
 // On paper letters are of broken widths, on which no tab stop can be told.
 static QString SenzaTabulazioni(const QString& testo) {
   QString t;
-  qsizetype inizio = 0;                                   // of the line
+  qsizetype inizio = 0;  // of the line
   for (const QChar c : testo) {
     if (c != '\t') t += c;
     else t += QString(TABULAZIONE - (t.size() - inizio) % TABULAZIONE, ' ');
@@ -197,5 +197,6 @@ void MostraFileTesto(const std::string& percorso) {
 void MostraFileAiuto(const std::string& percorso) {
   const QString file = Testo(RisolviPercorso(percorso));
   if (QFileInfo::exists(file) && ApriConIlDesktop(file, "application/pdf")) return;
-  Messaggio(QFileInfo::exists(file) ? "La guida è nel file " + Utf8(file) : "Manca il file della guida: " + Utf8(file), TitoloProg, Icona::Informazione);
+  Messaggio(QFileInfo::exists(file) ? "La guida è nel file " + Utf8(file) : "Manca il file della guida: " + Utf8(file), TitoloProg,
+            Icona::Informazione);
 }

@@ -9,7 +9,7 @@ class QFont;
 class QPagedPaintDevice;
 class QWidget;
 
-void MostraFileTesto(const std::string& percorso);     // suite path
+void MostraFileTesto(const std::string& percorso);  // suite path
 void MostraFileAiuto(const std::string& percorso);
 // Own window: fixed-width font, search, print; deletes itself when closed. One a file: a file shown anew is read again where it is open.
 QWidget* FinestraTesto(const QString& file);
@@ -18,4 +18,4 @@ void StampaDocumento(const QString& testo, const QFont& carattere, QPagedPaintDe
 
 // Windows of other programs, by their title. False, and nothing: none of that title, or a desktop that does not tell.
 bool AttivaFinestraEsterna(const std::string& titolo);
-void TastiAFinestraEsterna(const std::string& titolo, const std::string& tasti);   // "^v" is control-V
+void TastiAFinestraEsterna(const std::string& titolo, const std::string& tasti);  // "^v" is control-V

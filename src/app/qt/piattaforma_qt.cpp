@@ -76,9 +76,7 @@ static bool MostraRiquadro(const std::string& testo, const std::string& titolo, 
   return box.clickedButton() == ok;
 }
 
-static void QtMessaggio(const std::string& testo, const std::string& titolo, Icona icona) {
-  MostraRiquadro(testo, titolo, icona, false);
-}
+static void QtMessaggio(const std::string& testo, const std::string& titolo, Icona icona) { MostraRiquadro(testo, titolo, icona, false); }
 
 static bool QtDomanda(const std::string& testo, const std::string& titolo, Icona icona) {
   return MostraRiquadro(testo, titolo, icona, true);
@@ -138,7 +136,7 @@ static void QtTimer(Temporizzatore quale, int ms, void (*scaduto)()) {
     t = new QTimer(qApp);
     t->setObjectName(nome);
     t->setSingleShot(true);
-    t->setTimerType(Qt::PreciseTimer);       // a coarse one may come 5 per cent early
+    t->setTimerType(Qt::PreciseTimer);  // a coarse one may come 5 per cent early
   }
   t->disconnect();
   if (ms <= 0 || scaduto == nullptr) {

@@ -8,8 +8,9 @@
 #include <QStringList>
 
 void MontaPiattaformaQt();
-char DecimaleDelDesktop();                     // decimal mark of the user's locale
-QStringList FiltriDialogo(const std::string& filtro);   // "text|pattern|text|pattern" as the toolkit's name filters
+char DecimaleDelDesktop();                             // decimal mark of the user's locale
+QStringList FiltriDialogo(const std::string& filtro);  // "text|pattern|text|pattern" as the toolkit's name filters
 
-bool EseguiProgrammaQt(const std::string& programma, const std::string& argomento);     // input is dropped and the windows stay painted until it ends
+bool EseguiProgrammaQt(const std::string& programma,
+                       const std::string& argomento);  // input is dropped and the windows stay painted until it ends
 bool AvviaProgrammaQt(const std::string& programma, const std::string& argomento);

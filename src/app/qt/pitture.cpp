@@ -28,7 +28,9 @@ QTransform VistaSu(const QRectF& r, const QRectF& posto) {
 
 // ---- strokes ----
 
-static void Linea(FoglioPittura& f, double x1, double y1, double x2, double y2) { f.p.drawLine(f.v.map(QPointF(x1, y1)), f.v.map(QPointF(x2, y2))); }
+static void Linea(FoglioPittura& f, double x1, double y1, double x2, double y2) {
+  f.p.drawLine(f.v.map(QPointF(x1, y1)), f.v.map(QPointF(x2, y2)));
+}
 
 static void Penna(FoglioPittura& f, const QColor& c, double spessore = 1.4, Qt::PenStyle stile = Qt::SolidLine) {
   f.p.setPen(QPen(c, spessore, stile, Qt::RoundCap, Qt::RoundJoin));
@@ -187,7 +189,7 @@ static void Fondazione(FoglioPittura& f, double fondo) {
   Rettangolo(f, 60, 330, 880, fondo - 330, cemento);
   Penna(f, f.linea, 1);
   Linea(f, 60, 330, 940, 330);
-  Rettangolo(f, 200, 255, 600, 40, f.piastra);               // base plate, on its mortar
+  Rettangolo(f, 200, 255, 600, 40, f.piastra);  // base plate, on its mortar
 }
 
 static void Dadi(FoglioPittura& f, double x) {
@@ -284,8 +286,13 @@ void DipingiPittura(QPainter& p, const QString& nome, const QWidget& w, const QR
   const bool scuro = qGray(c.color(QPalette::Window).rgb()) < 128;
   for (const RigaPittura& r : PITTURE) {
     if (nome != QLatin1String(r.nome)) continue;
-    FoglioPittura f{p, VistaSu(r.riquadro, posto), c.color(QPalette::WindowText), scuro ? QColor(120, 190, 255) : QColor(20, 80, 150),
-             scuro ? QColor(82, 116, 156) : QColor(176, 196, 216), scuro ? QColor(88, 94, 102) : QColor(236, 238, 240), QColor(192, 0, 0)};
+    FoglioPittura f{p,
+                    VistaSu(r.riquadro, posto),
+                    c.color(QPalette::WindowText),
+                    scuro ? QColor(120, 190, 255) : QColor(20, 80, 150),
+                    scuro ? QColor(82, 116, 156) : QColor(176, 196, 216),
+                    scuro ? QColor(88, 94, 102) : QColor(236, 238, 240),
+                    QColor(192, 0, 0)};
     if (!w.isEnabled()) p.setOpacity(0.45);
     p.save();
     r.dipingi(f);
@@ -345,7 +352,7 @@ static void SegnoTermina(QPainter& p) {
 namespace {
 struct RigaIcona {
   const char* nome;
-  void (*dipingi)(QPainter& p);           // on 17 by 17
+  void (*dipingi)(QPainter& p);  // on 17 by 17
 };
 }  // namespace
 

@@ -10,7 +10,7 @@ class QWidget;
 
 // Picture units to a place of the widget: the same scale on both axes, centred. A height below 0: y upward.
 QTransform VistaSu(const QRectF& riquadro, const QRectF& posto);
-void DipingiPittura(QPainter& p, const QString& nome, const QWidget& w, const QRectF& posto);   // an unknown name paints nothing
+void DipingiPittura(QPainter& p, const QString& nome, const QWidget& w, const QRectF& posto);  // an unknown name paints nothing
 QIcon IconaComando(const QString& nome, const QWidget& w);
 QIcon IconaProgramma();
-void PreparaPitture(QWidget& finestra);             // icons of the commands that carry the property disegno
+void PreparaPitture(QWidget& finestra);  // icons of the commands that carry the property disegno

@@ -8,10 +8,10 @@
 #include <algorithm>
 #include <cmath>
 
-constexpr double GRADI = 180 / 3.14159265358979323846;   // for the eye only
-constexpr double SPESSORE = 1.4;                          // pen, device-independent pixels
+constexpr double GRADI = 180 / 3.14159265358979323846;  // for the eye only
+constexpr double SPESSORE = 1.4;                        // pen, device-independent pixels
 constexpr double BORDO = 6;
-constexpr double MARGINE = 1.2;                           // of the sketch: canvas over drawing, as in its own scale
+constexpr double MARGINE = 1.2;  // of the sketch: canvas over drawing, as in its own scale
 
 Quadro::Quadro(QWidget* padre) : QWidget(padre) { setMinimumSize(40, 20); }
 
@@ -44,7 +44,9 @@ static QSizeF Ingombro(const Tela& t) {
 static QRectF Inquadratura(const Tela& t) {
   if (t.sx == t.dx || t.sy == t.dy) return QRectF(0, 0, t.larghezza, t.altezza);
   const QSizeF i = MARGINE * Ingombro(t);
-  const auto stretto = [](double estremo, double vicino) { return vicino > 0 ? std::copysign(std::min(std::fabs(estremo), vicino), estremo) : estremo; };
+  const auto stretto = [](double estremo, double vicino) {
+    return vicino > 0 ? std::copysign(std::min(std::fabs(estremo), vicino), estremo) : estremo;
+  };
   return QRectF(QPointF(stretto(t.sx, i.width()), stretto(t.sy, i.height())), QPointF(stretto(t.dx, i.width()), stretto(t.dy, i.height())));
 }
 

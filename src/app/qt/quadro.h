@@ -9,7 +9,7 @@
 
 #include <vector>
 
-struct Campitura {                        // an area under the strokes, in the canvas' user units
+struct Campitura {  // an area under the strokes, in the canvas' user units
   QPainterPath forma;
   QColor colore;
 };
@@ -17,7 +17,7 @@ struct Campitura {                        // an area under the strokes, in the c
 class Quadro : public QWidget {
  public:
   explicit Quadro(QWidget* padre = nullptr);
-  void Mostra(Tela* t);             // nullptr: no strokes
+  void Mostra(Tela* t);  // nullptr: no strokes
   Tela* Mostrata() const { return tela; }
   void Campiture(std::vector<Campitura> c) { campiture = std::move(c); }
   QSize sizeHint() const override { return {220, 220}; }

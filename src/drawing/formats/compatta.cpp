@@ -16,7 +16,7 @@
 namespace {
 struct Segmento {
   double x1, y1, x2, y2, lunghezza;
-  double alone;                    // a point farther than this from the segment does not lie on it
+  double alone;  // a point farther than this from the segment does not lie on it
 };
 }  // namespace
 
@@ -38,7 +38,7 @@ static bool SulSegmento(const Segmento& s, double x, double y) {
 }
 
 namespace {
-struct Griglia {                   // lines by the cells that their surroundings touch
+struct Griglia {  // lines by the cells that their surroundings touch
   double x0 = 0, y0 = 0, passo = 1;
   int nx = 1, ny = 1;
   std::vector<int> inizio, righe;  // cell c holds righe[inizio[c] .. inizio[c + 1])
@@ -58,8 +58,9 @@ static void PerCella(const Griglia& g, const Segmento& s, F f) {
   const int c1 = Cella(sinistra - a, g.x0, g.passo, g.nx), c2 = Cella(destra + a, g.x0, g.passo, g.nx);
   for (int c = c1; c <= c2; ++c) {
     double ya = s.y1, yb = s.y2;
-    if (c1 != c2 && destra > sinistra) {                 // the stretch of the segment whose halo reaches this column
-      const double xa = std::clamp(g.x0 + c * g.passo - a, sinistra, destra), xb = std::clamp(g.x0 + (c + 1) * g.passo + a, sinistra, destra);
+    if (c1 != c2 && destra > sinistra) {  // the stretch of the segment whose halo reaches this column
+      const double xa = std::clamp(g.x0 + c * g.passo - a, sinistra, destra),
+                   xb = std::clamp(g.x0 + (c + 1) * g.passo + a, sinistra, destra);
       ya = s.y1 + (xa - s.x1) * pendenza;
       yb = s.y1 + (xb - s.x1) * pendenza;
     }
@@ -134,7 +135,9 @@ static void TogliLineeCoperte() {
 
 static void TogliArchiDoppi() {
   Disegno& d = disegno;
-  const auto chiave = [&](int i) { return std::array<std::int32_t, 6>{d.ArcCen[i], d.ArcIni[i], d.ArcCen2[i], d.ArcFin[i], d.ArcCol[i], d.ArcTipo[i]}; };
+  const auto chiave = [&](int i) {
+    return std::array<std::int32_t, 6>{d.ArcCen[i], d.ArcIni[i], d.ArcCen2[i], d.ArcFin[i], d.ArcCol[i], d.ArcTipo[i]};
+  };
   std::vector<int> ordine(static_cast<std::size_t>(d.NumArchi));
   for (std::size_t i = 0; i < ordine.size(); ++i) ordine[i] = static_cast<int>(i);
   std::stable_sort(ordine.begin(), ordine.end(), [&](int a, int b) { return chiave(a) < chiave(b); });
@@ -173,7 +176,7 @@ static void TogliTestiVuoti() {
 
 // ---- pass 4: merging of coordinates ------------------------------------------------------------------------------------------
 
-constexpr double PASSO_UNIONE = 0.01;         // mm; cells much larger than the tolerance, so that a point mostly looks into one
+constexpr double PASSO_UNIONE = 0.01;  // mm; cells much larger than the tolerance, so that a point mostly looks into one
 
 namespace {
 struct Casella {
@@ -195,8 +198,8 @@ struct HashCasella {
 static std::vector<int> PrimeVicine() {
   const Disegno& d = disegno;
   std::vector<int> prima(static_cast<std::size_t>(d.NumCoord));
-  std::vector<int> successiva(static_cast<std::size_t>(d.NumCoord), -1);      // next coordinate of the same cell, ascending
-  std::unordered_map<Casella, std::pair<int, int>, HashCasella> celle;        // first and last coordinate of the cell
+  std::vector<int> successiva(static_cast<std::size_t>(d.NumCoord), -1);  // next coordinate of the same cell, ascending
+  std::unordered_map<Casella, std::pair<int, int>, HashCasella> celle;    // first and last coordinate of the cell
   celle.reserve(static_cast<std::size_t>(d.NumCoord));
   for (int k = 0; k < d.NumCoord; ++k) {
     const double x = d.CoordX[k], y = d.CoordY[k];
@@ -232,7 +235,7 @@ static void UnisciCoordinate() {
   porta(d.ArcCen, d.NumArchi);
   porta(d.ArcIni, d.NumArchi);
   porta(d.ArcCen2, d.NumArchi);
-  porta(d.TesPos, d.NumTesti);     // the ends of arcs and the circles keep their own: a coordinate more, no effect on the drawing
+  porta(d.TesPos, d.NumTesti);  // the ends of arcs and the circles keep their own: a coordinate more, no effect on the drawing
 }
 
 // ---- pass 5: unused coordinates ----------------------------------------------------------------------------------------------

@@ -28,10 +28,10 @@ void CalcolaEstensioni() {
 }
 
 static void Testata(std::string& t) {
-  t += "                   4\r\n";              // version
+  t += "                   4\r\n";  // version
   RigaZone(t, disegno.EstXMin, disegno.EstXMax);
   RigaZone(t, disegno.EstYMin, disegno.EstYMax);
-  t += "-10000.000000        10000.000000\r\n"; // height range, always the same
+  t += "-10000.000000        10000.000000\r\n";  // height range, always the same
 }
 
 static void Tabelle(std::string& t) {
@@ -59,7 +59,8 @@ bool ScriviDis(const std::string& nomeFile, int silenzioso) {
   FileScrittura f;
   bool esito = ApriScrittura(f, nomeFile);
   if (esito) {
-    f.testo.reserve(static_cast<std::size_t>(48 * (disegno.NumCoord + disegno.NumLinee + 2 * disegno.NumTesti + 2 * disegno.NumArchi + 16)));
+    f.testo.reserve(
+      static_cast<std::size_t>(48 * (disegno.NumCoord + disegno.NumLinee + 2 * disegno.NumTesti + 2 * disegno.NumArchi + 16)));
     Testata(f.testo);
     Tabelle(f.testo);
     esito = ChiudiScrittura(f);

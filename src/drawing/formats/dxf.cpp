@@ -81,11 +81,10 @@ static void Testata(const Dxf& f) {
   Coppia(e, " 10" RIGA, d.EstXMax + m);
   Coppia(e, " 20" RIGA, d.EstYMax + m);
   Esce(f, e);
-  f.t->append(" 30" RIGA "0.0" RIGA " 0" RIGA "ENDSEC" RIGA
-              " 0" RIGA "SECTION" RIGA " 2" RIGA "TABLES" RIGA " 0" RIGA "TABLE" RIGA " 2" RIGA "LAYER" RIGA " 70" RIGA "1" RIGA
-              " 0" RIGA "LAYER" RIGA " 2" RIGA "0" RIGA " 70" RIGA "0" RIGA " 62" RIGA "7" RIGA " 6" RIGA "CONTINUOUS" RIGA
-              " 0" RIGA "ENDTAB" RIGA " 0" RIGA "ENDSEC" RIGA
-              " 0" RIGA "SECTION" RIGA " 2" RIGA "ENTITIES" RIGA);
+  f.t->append(" 30" RIGA "0.0" RIGA " 0" RIGA "ENDSEC" RIGA " 0" RIGA "SECTION" RIGA " 2" RIGA "TABLES" RIGA " 0" RIGA "TABLE" RIGA
+              " 2" RIGA "LAYER" RIGA " 70" RIGA "1" RIGA " 0" RIGA "LAYER" RIGA " 2" RIGA "0" RIGA " 70" RIGA "0" RIGA " 62" RIGA "7" RIGA
+              " 6" RIGA "CONTINUOUS" RIGA " 0" RIGA "ENDTAB" RIGA " 0" RIGA "ENDSEC" RIGA " 0" RIGA "SECTION" RIGA " 2" RIGA
+              "ENTITIES" RIGA);
 }
 
 static void MettiColore(const Dxf& f, Entita& e, int colore) { Coppia(e, " 62" RIGA, ColoreDxf(colore, f.mono)); }
@@ -144,7 +143,8 @@ static void ScriviTestiALinee(const Dxf& f) {
   const Disegno& d = disegno;
   for (int i = 0; i < d.NumTesti; ++i) {
     const int p = d.TesPos[i];
-    for (const TrattoTesto& t : TrattiTesto(d.TesStr[static_cast<std::size_t>(i)], d.CoordX[p], d.CoordY[p], d.TesAng[i], d.TesLarg[i] / 10.0, d.TesAlt[i] / 10.0)) {
+    for (const TrattoTesto& t : TrattiTesto(d.TesStr[static_cast<std::size_t>(i)], d.CoordX[p], d.CoordY[p], d.TesAng[i],
+                                            d.TesLarg[i] / 10.0, d.TesAlt[i] / 10.0)) {
       Entita e;
       MettiLinea(e, t.x1, t.y1, t.x2, t.y2);
       if (ColoreDxf(d.TesCol[i], f.mono) != 7) MettiColore(f, e, d.TesCol[i]);

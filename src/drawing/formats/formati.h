@@ -7,11 +7,11 @@
 
 struct Formato {
   const char* tipo;
-  const char* filtro;              // of the file dialog, "text|pattern"; empty: not offered there
+  const char* filtro;  // of the file dialog, "text|pattern"; empty: not offered there
   bool (*esporta)(const std::string& nomeFile, int silenzioso);
 };
 constexpr int NumFormati = 4;
-extern const Formato FORMATI[NumFormati];              // the row is the filter that the user chose, less one
+extern const Formato FORMATI[NumFormati];  // the row is the filter that the user chose, less one
 
 // tipo "DIS", "DXF" or "SVG", in any case; any other: nothing, false.
 bool EsportaDisegno(const std::string& nomeFile, int silenzioso, std::string_view tipo);

@@ -32,7 +32,7 @@ static void Testata(std::string& t) {
   const Disegno& d = disegno;
   t += "                   4\r\n                   5                   2                   0\r\n";
   for (int i = 0; i < 6; ++i) t += ZERO_ALLINEATO;
-  RigaZone(t, d.EstXMin, d.EstXMax);           // as they stand: of the last DIS or DXF, or 0
+  RigaZone(t, d.EstXMin, d.EstXMax);  // as they stand: of the last DIS or DXF, or 0
   RigaZone(t, d.EstYMin, d.EstYMax);
 }
 
@@ -68,7 +68,7 @@ static void TestiEQuote(std::string& t) {
     RigaZone(t, d.QuoStile[i] - 1, d.QuoDist[i], "0");
     t.append(d.QuoTesto[static_cast<std::size_t>(i)]).append("\r\n");
   }
-  RigaZone(t, 0);                              // polylines: none
+  RigaZone(t, 0);  // polylines: none
 }
 
 bool ScriviGrb(const std::string& nomeFile, int silenzioso) {

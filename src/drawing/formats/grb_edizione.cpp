@@ -11,7 +11,7 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-constexpr int STILE_QUOTE_DETTAGLIO = 25, STILE_TESTI = 26, STILE_QUOTE = 27;        // drawing options
+constexpr int STILE_QUOTE_DETTAGLIO = 25, STILE_TESTI = 26, STILE_QUOTE = 27;  // drawing options
 
 static std::int16_t Stile(int opzione) { return InCorto(std::trunc(suite.ParNodo[opzione])); }
 
@@ -19,7 +19,8 @@ static void PostoInPiu(std::vector<std::string>& v, int i) {
   if (v.size() <= static_cast<std::size_t>(i)) v.resize(static_cast<std::size_t>(i) + 1);
 }
 
-void TestoGrb(const std::string& testo, double x1, double y1, double x2, double y2, double angolo, std::int16_t allineamento, std::int16_t stile) {
+void TestoGrb(const std::string& testo, double x1, double y1, double x2, double y2, double angolo, std::int16_t allineamento,
+              std::int16_t stile) {
   Disegno& d = disegno;
   if (d.Interrotto) return;
   if (d.NumTesti == MaxTestiDis - 1) Messaggio("Superato il numero massimo di testi", TitoloProg, Icona::Esclamazione);
@@ -40,7 +41,7 @@ void TestoGrb(const std::string& testo, double x1, double y1, double x2, double 
 void QuotaGrb(const std::string& testo, double x1, double y1, double x2, double y2, double distanza, std::int16_t stile) {
   Disegno& d = disegno;
   if (d.Interrotto) return;
-  if (d.NumQuote == QuoteGrbAmmesse) {         // each one that is lost says so; texts are lost behind one message
+  if (d.NumQuote == QuoteGrbAmmesse) {  // each one that is lost says so; texts are lost behind one message
     Messaggio("Superato il numero massimo di quote", TitoloProg, Icona::Esclamazione);
     return;
   }

@@ -7,8 +7,8 @@
 
 #include "drawing/edizione.h"
 
-constexpr int QuoteGrbAmmesse = 999;           // the tables hold one more, which stays free
-constexpr const char* TESTO_QUOTA_GRB = "Stringa_di_default";   // of a dimension that shows its measure
+constexpr int QuoteGrbAmmesse = 999;                           // the tables hold one more, which stays free
+constexpr const char* TESTO_QUOTA_GRB = "Stringa_di_default";  // of a dimension that shows its measure
 
 enum AllineaGrb : std::int16_t { ALLINEA_INIZIO = 0, ALLINEA_CENTRO = 1, ALLINEA_FINE = 2 };
 
@@ -16,6 +16,7 @@ enum AllineaGrb : std::int16_t { ALLINEA_INIZIO = 0, ALLINEA_CENTRO = 1, ALLINEA
 bool EdizioneGrb(Edizione& e);
 
 // A text between two points; angolo in degrees.
-void TestoGrb(const std::string& testo, double x1, double y1, double x2, double y2, double angolo, std::int16_t allineamento, std::int16_t stile);
+void TestoGrb(const std::string& testo, double x1, double y1, double x2, double y2, double angolo, std::int16_t allineamento,
+              std::int16_t stile);
 // A dimension between two points; empty text: the measure.
 void QuotaGrb(const std::string& testo, double x1, double y1, double x2, double y2, double distanza, std::int16_t stile);

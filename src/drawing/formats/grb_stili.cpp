@@ -8,9 +8,7 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-double ConvStile(double v, double f, std::int16_t u) {
-  return f * (u == 0 ? v / 1000 : u == 1 ? v / 10 : v);
-}
+double ConvStile(double v, double f, std::int16_t u) { return f * (u == 0 ? v / 1000 : u == 1 ? v / 10 : v); }
 
 static bool SaltaRighe(FileLettura& f, int n) {
   std::string riga;
@@ -30,8 +28,7 @@ static bool LeggiNumeroStili(FileLettura& f, std::int16_t& n) {
 static bool LeggiStile(FileLettura& f, int i, double fattore, std::int16_t unita) {
   double larghezza = 0, altezza = 0, terzo = 0;
   std::int16_t id = 0;
-  if (!SaltaRighe(f, 1) || !LeggiValore(f, larghezza) || !LeggiValore(f, altezza) || !LeggiValore(f, terzo) ||
-      !LeggiValore(f, id))
+  if (!SaltaRighe(f, 1) || !LeggiValore(f, larghezza) || !LeggiValore(f, altezza) || !LeggiValore(f, terzo) || !LeggiValore(f, id))
     return false;
   stiliGrb.LargStile[i] = ConvStile(larghezza, fattore, unita);
   stiliGrb.AltStile[i] = ConvStile(altezza, fattore, unita);
@@ -42,8 +39,8 @@ static bool LeggiStile(FileLettura& f, int i, double fattore, std::int16_t unita
 static bool LeggiModello(FileLettura& f) {
   double fattore = 0;
   std::int16_t unita = 0, terzo = 0, n = 0;
-  if (!SaltaRighe(f, 1) || !LeggiValore(f, fattore) || !LeggiValore(f, unita) || !LeggiValore(f, terzo) ||
-      !SaltaRighe(f, 1) || !LeggiNumeroStili(f, n))
+  if (!SaltaRighe(f, 1) || !LeggiValore(f, fattore) || !LeggiValore(f, unita) || !LeggiValore(f, terzo) || !SaltaRighe(f, 1) ||
+      !LeggiNumeroStili(f, n))
     return false;
   stiliGrb.NumStili = n;
   for (int i = 1; i <= n; ++i)
@@ -59,6 +56,6 @@ bool LeggiStiliGrb() {
   else if (!LeggiModello(f)) guasto = "Errore in lettura del file ";
   if (!guasto) return true;
   Messaggio(guasto + nome + "- verranno usati i parametri disegno della versione autonoma.", TitoloProg, Icona::Critica);
-  passi = {};                                 // dealt with: the start goes on
+  passi = {};  // dealt with: the start goes on
   return false;
 }

@@ -9,8 +9,8 @@
 constexpr int MaxStiliGrb = 100;
 
 struct StiliGrb {
-  std::int16_t NumStili = 0;                  // the template's count; 0 without a template
-  double LargStile[MaxStiliGrb + 1] = {}, AltStile[MaxStiliGrb + 1] = {};   // character width and height
+  std::int16_t NumStili = 0;                                               // the template's count; 0 without a template
+  double LargStile[MaxStiliGrb + 1] = {}, AltStile[MaxStiliGrb + 1] = {};  // character width and height
   std::int16_t IdStile[MaxStiliGrb + 1] = {};
 };
 inline StiliGrb stiliGrb;

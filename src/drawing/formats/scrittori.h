@@ -18,14 +18,15 @@ bool ScriviDis(const std::string& nomeFile, int silenzioso);
 bool SalvaDxf(const std::string& nomeFile, int testoLinee, int mono, double scala, int spezzaTratti, int silenzioso);
 int ColoreDxf(int colore, int mono);
 const char* NomeTipoDxf(int tipo);
-double AngoloArco(double px, double py, double cx, double cy);   // degrees, 0 included, 360 excluded
+double AngoloArco(double px, double py, double cx, double cy);  // degrees, 0 included, 360 excluded
 
-bool SalvaSvg(const std::string& nomeFile, int silenzioso);      // for looking: mm, y upward, a white page
+bool SalvaSvg(const std::string& nomeFile, int silenzioso);  // for looking: mm, y upward, a white page
 
 bool ScriviGrb(const std::string& nomeFile, int silenzioso);
-bool EsportaGrb(const std::string& nomeFile, int silenzioso);   // the sheet drawn anew in its edition, then written
-bool ComandoGrb(const std::string& nomeFile, int silenzioso);   // the same as a command, with its box of a failure
-std::string Riga4(const std::string& a, const std::string& b, const std::string& c, const std::string& d);   // a line of four right-aligned texts
+bool EsportaGrb(const std::string& nomeFile, int silenzioso);  // the sheet drawn anew in its edition, then written
+bool ComandoGrb(const std::string& nomeFile, int silenzioso);  // the same as a command, with its box of a failure
+std::string Riga4(const std::string& a, const std::string& b, const std::string& c,
+                  const std::string& d);  // a line of four right-aligned texts
 
 // The box of a failed write.
 void ErroreScrittura(const std::string& nomeFile, int silenzioso);

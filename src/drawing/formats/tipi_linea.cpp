@@ -11,7 +11,7 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-constexpr double MaxRipetizioni = 2000;       // repeats of its pattern from which on a line stays whole
+constexpr double MaxRipetizioni = 2000;  // repeats of its pattern from which on a line stays whole
 
 // The number at the head of the next line that is no remark.
 static bool LeggiNumero(FileLettura& f, double& v) {
@@ -39,7 +39,7 @@ static bool LeggiTipo(FileLettura& f, int tipo) {
 
 bool LeggiTipiLinea() {
   tipiLinea = {};
-  const StatoPassi prima = passi;             // the file may be missing
+  const StatoPassi prima = passi;  // the file may be missing
   FileLettura f;
   bool esito = ApriLettura(f, suite.DirCustom + "\\tipilinea.txt");
   for (int tipo = 0; esito && tipo < NumTipiLinea; ++tipo) esito = LeggiTipo(f, tipo);
@@ -62,7 +62,7 @@ bool SpezzaLinea(double x1, double y1, double x2, double y2, int tipo, StatoTrat
     const double intero = tipiLinea.TipiTratto[tipo][stato.tratto] / 10 * scala;
     double tratto = stato.resto > 0 ? stato.resto : intero;
     const double resto = corsa + tratto - L;
-    fine = resto > TOLL_GEO;                  // cut by the line's end; what is left begins the next line
+    fine = resto > TOLL_GEO;  // cut by the line's end; what is left begins the next line
     if (fine) tratto = L - corsa;
     const bool pieno = stato.tratto % 2 == 0 || (ultimoPieno && corsa + tratto > L - TOLL_GEO);
     if (pieno) {

@@ -6,25 +6,25 @@
 #include <cstdint>
 #include <vector>
 
-constexpr int NumTipiLinea = 5;    // 0 continuous, 1 axis, 2 dashed, 3 dash and two dots, 4 hidden
-constexpr int MaxTratti = 11;      // strokes of a pattern
-constexpr int MaxTrattiRiga = 10000;   // strokes gathered of one line
+constexpr int NumTipiLinea = 5;       // 0 continuous, 1 axis, 2 dashed, 3 dash and two dots, 4 hidden
+constexpr int MaxTratti = 11;         // strokes of a pattern
+constexpr int MaxTrattiRiga = 10000;  // strokes gathered of one line
 
 struct TipiLinea {
   int TipiNTratti[NumTipiLinea] = {};
-  double TipiTratto[NumTipiLinea][MaxTratti] = {};       // tenths of mm
-  double TipiLungh[NumTipiLinea] = {};                   // tenths of mm, the whole pattern
+  double TipiTratto[NumTipiLinea][MaxTratti] = {};  // tenths of mm
+  double TipiLungh[NumTipiLinea] = {};              // tenths of mm, the whole pattern
 };
 inline TipiLinea tipiLinea;
-bool LeggiTipiLinea();             // false: no file, or one that ends early; complete groups count
+bool LeggiTipiLinea();  // false: no file, or one that ends early; complete groups count
 
 struct TrattoLinea {
   double x1, y1, x2, y2;
 };
 // Where the pattern stands: it goes on from one line to the next.
 struct StatoTratteggio {
-  int tratto = 0;                  // stroke being drawn
-  double resto = 0;                // what is left of it, mm; 0: all of it
+  int tratto = 0;    // stroke being drawn
+  double resto = 0;  // what is left of it, mm; 0: all of it
 };
 // The full strokes of a line. False: the line stays whole (no pattern, no length, or 2000 repeats and more). ultimoPieno: a gap at the
 // line's end is drawn too.
