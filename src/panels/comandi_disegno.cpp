@@ -51,5 +51,3 @@ void ScegliFileDisegno() {
 }
 
 void InsDati_Gen_Dis(int) { ScegliFileDisegno(); }
-
-bool ScriviSvg(const std::string& percorso) { return EsportaDisegno(percorso, 1, "SVG"); }

@@ -1,6 +1,5 @@
 // panels/comandi_disegno.h - the main panel's commands on the executive drawing.
 #pragma once
-#include <string>
 
 struct EsitoDisegno {      // how the last drawing command ended; both false: the file was written
   bool annullato = false;  // the dialog was left by Annulla, nothing changed
@@ -10,4 +9,3 @@ inline EsitoDisegno esitoDisegno;
 
 void ScegliFileDisegno();  // the dialog, then the drawing in the format of the filter chosen
 void InsDati_Gen_Dis(int);
-bool ScriviSvg(const std::string& percorso);  // the sheet as a picture, without a success box

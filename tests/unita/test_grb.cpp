@@ -466,7 +466,7 @@ TEST_F(GenDis, TipoInOgniMaiuscola) {
   EXPECT_EQ(registratore.eventi, std::vector<std::string>{"[messaggio] nessuna | SALVA FILE DXF | File " + cartella + "\\a.dxf salvato."});
   EXPECT_FALSE(EsportaDisegno(cartella + "\\a.grb", 2, "GRB"));  // has its own command
   EXPECT_FALSE(EsportaDisegno(cartella + "\\a.pdf", 2, "PDF"));
-  EXPECT_TRUE(ScriviSvg(cartella + "\\a.svg"));
+  EXPECT_TRUE(EsportaDisegno(cartella + "\\a.svg", 1, "SVG"));
   EXPECT_NE(File("/a.svg").find("</svg>"), std::string::npos);
 }
 

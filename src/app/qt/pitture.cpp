@@ -12,7 +12,7 @@ namespace {
 struct FoglioPittura {
   QPainter& p;
   QTransform v;
-  QColor linea, quota, ferro, piastra, rosso;
+  QColor linea, quota, ferro, piastra;
 };
 }  // namespace
 
@@ -291,8 +291,7 @@ void DipingiPittura(QPainter& p, const QString& nome, const QWidget& w, const QR
                     c.color(QPalette::WindowText),
                     scuro ? QColor(120, 190, 255) : QColor(20, 80, 150),
                     scuro ? QColor(82, 116, 156) : QColor(176, 196, 216),
-                    scuro ? QColor(88, 94, 102) : QColor(236, 238, 240),
-                    QColor(192, 0, 0)};
+                    scuro ? QColor(88, 94, 102) : QColor(236, 238, 240)};
     if (!w.isEnabled()) p.setOpacity(0.45);
     p.save();
     r.dipingi(f);
