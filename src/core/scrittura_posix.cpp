@@ -142,7 +142,8 @@ std::errc MettiAlPosto(const std::string& sistema, std::string_view byte, Tenuta
   if (e == std::errc{}) e = ScriviAccanto(p, byte, tenuta, accanto);
   if (e == std::errc{} && Ripeti([&] { return std::rename(accanto.c_str(), p.percorso.c_str()); }) != 0) e = Errore();
   if (e != std::errc{} && !accanto.empty()) Ripeti([&] { return unlink(accanto.c_str()); });
-  if (e == std::errc{} && cartella >= 0 && !SulDisco(cartella)) e = Errore();  // the new file stands, but a power cut may undo it: told
+  if (e == std::errc{} && cartella >= 0 && !SulDisco(cartella))
+    e = Errore();  // the new file stands, but a power cut may undo it: a failure
   if (cartella >= 0) Chiudi(cartella);
   return e;
 }

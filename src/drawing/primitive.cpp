@@ -151,7 +151,7 @@ void DisArco(Tela* tela, double x, double y, double diametro, Colore colore, dou
     return;
   }
   if (d.Interrotto) return;
-  // Arcs share the lines' text: the user is told of lines.
+  // Arcs share the lines' text: a store full of arcs speaks of lines.
   if (d.NumArchi == MaxArchiDis - 1) CapacitaEsaurita("Si è raggiunto il numero massimo di linee.");
   if (d.NumArchi == MaxArchiDis) return;
   const int i = d.NumArchi++;

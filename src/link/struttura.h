@@ -1,5 +1,5 @@
 // link/struttura.h - the job's structure file and section file, as far as a joint needs them: which bars meet at a node, which
-// section a bar has. The suite owns the files; fields not told here are skipped by count.
+// section a bar has. The suite owns the files; fields that no joint needs are skipped by count.
 // Layout    version line; count and n1 records; count and n2 nodes; count and n3 bars of two lines; the count of load conditions.
 // Failure   a file that cannot be opened shows its own box; a truncated one yields what it holds. No count is trusted: every loop
 //           stops at the file's end.

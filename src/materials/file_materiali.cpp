@@ -15,7 +15,7 @@
 
 // --- the catalogue ---------------------------------------------------------------------------------------------------------
 
-// A number of the catalogue. A word without a number, or one that overflows, is a failed step: v stays, nothing is told.
+// A number of the catalogue. A word without a number, or one that overflows, is a failed step: v stays, without a box.
 static void NumeroCatalogo(std::string_view parola, double& v) {
   if (!ValLocale(parola, suite.Decimale, v)) passi.fallito = true;
 }

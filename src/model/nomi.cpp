@@ -6,7 +6,7 @@
 
 #include "model/stato.h"
 
-// offsetof is told for these layouts.
+// offsetof is defined for these layouts.
 static_assert(std::is_standard_layout_v<Sezione> && std::is_standard_layout_v<MatAcciaio> && std::is_standard_layout_v<MatCls> &&
               std::is_standard_layout_v<MatViti> && std::is_standard_layout_v<MatCA>);
 

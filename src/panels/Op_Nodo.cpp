@@ -14,7 +14,7 @@
 #include "panels/visualizzatore.h"
 
 namespace {
-// Entries of ParNodo that are told apart by name.
+// Entries of ParNodo that the code names.
 enum Voce { ALTEZZA_QUOTE = 7, DISTANZA_TESTO = 13, QUOTE = 15, QUOTE_INF = 16, DISTANZA_SEGNO = 17, DISTINTA = 18 };
 }  // namespace
 

@@ -107,7 +107,7 @@ void InsDati_ComboCalcestruzzo(int) {
 
 // ---- the job's materials ----
 
-// The labels of the materials' panel. What cannot be shown, a partial factor of 0, is told when that panel opens.
+// The labels of the materials' panel. What cannot be shown, a partial factor of 0, has its box when that panel opens.
 static void AggiornaProprieta() {
   if (FaultAritmetico()) return;
   SettaMateriali();

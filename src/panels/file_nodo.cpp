@@ -1,6 +1,6 @@
 // panels/file_nodo.cpp - the commands Salva Nodo and Carica Nodo.
 // A load runs in the mode in which a failed step is skipped: the panel is brought in line with whatever was read, and the
-// failure is told once, at the end. A save writes aside and renames, so that a failure leaves the former file whole.
+// failure has one box, at the end. A save writes aside and renames, so that a failure leaves the former file whole.
 #include "panels/file_nodo.h"
 
 #include <algorithm>

@@ -76,7 +76,7 @@ static EsitoVerifica FermaPerFault() {
   return EsitoVerifica::Interrotta;
 }
 
-// Questions only while none was refused; what forbids a verification is told in any case. A fault counts where its check was reached.
+// Questions only while none was refused; what forbids a verification shows its box in any case. A fault counts where its check was reached.
 static bool ChiediGeometria(const RigheGeometria& righe, bool& fault) {
   bool esito = true;
   for (const RigaGeometria& r : righe) {

@@ -6,7 +6,7 @@
 
 #include "panels/lavoro_finestre.h"
 
-static_assert(std::is_standard_layout_v<Saldatura>);  // offsetof is told for this layout
+static_assert(std::is_standard_layout_v<Saldatura>);  // offsetof is defined for this layout
 
 // clang-format off
 static constexpr RigaNome CAMPI_SALDATURA[] = {

@@ -8,11 +8,11 @@
 #include "model/stato.h"
 #include "model/suite.h"
 
-constexpr int SILENZIO_RIUSCITA = 1;  // no box of success; a failed write is told
+constexpr int SILENZIO_RIUSCITA = 1;  // no box of success; a failed write shows its own
 
 static std::string FileGuardato() { return suite.DirProgra + "\\nodo.dis"; }
 
-// What the viewer reads at its start. A failed write is not told: the viewer starts all the same.
+// What the viewer reads at its start. A failed write has no box: the viewer starts all the same.
 static void ScriviIngresso() {
   FileScrittura f;
   if (!ApriScrittura(f, suite.DirProgra + "\\lumvet.inp")) return;

@@ -3,5 +3,5 @@
 #include <string>
 
 void Errore(const std::string& testo);  // "errore: ..." on standard error, one line
-// The quiet host mounted and the whole start; its boxes are told on standard error. False: it ended, the reason is told.
+// Mounts the host that gathers boxes and runs the whole start; its boxes go to standard error. False: it ended, the reason stands there.
 bool AvviaPerDati();

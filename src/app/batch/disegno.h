@@ -1,5 +1,5 @@
 // app/batch/disegno.h - a node's executive drawing, in the format of the output's extension.
-// Returns   0 written, 2 not written: node not loaded, or a failure told by its box.
+// Returns   0 written, 2 not written: node not loaded, or a failure that showed its box.
 #pragma once
 #include <string>
 

@@ -35,7 +35,7 @@ struct Verbo {
   const char* opzioni = "";     // its own ones, separated by blanks, beside those of every verb
 };
 
-// Options that the verb does not know are wrong usage, told by `motivo`. With --help or --version the rest may be missing.
+// Options that the verb does not know are wrong usage, named in `motivo`. With --help or --version the rest may be missing.
 bool LeggiArgomenti(int argc, const char* const* argv, std::span<const Verbo> verbi, Opzioni& o, std::string& motivo);
 char DecimaleSistema();                         // decimal mark of the user's locale
 std::string Uso(std::span<const Verbo> verbi);  // every verb, every option

@@ -26,6 +26,12 @@ struct ProgrammaAvviato {
   std::string finestra;  // title of its window: the one looked for in vain before the start
 };
 
+// What the handler of a failed allocation needs, made while there is memory.
+struct StatoMemoria {
+  std::string riga;         // its message as an event line
+  void* riserva = nullptr;  // given back before the message goes out
+};
+
 struct StatoOspite {
   Opzioni opzioni;
   std::deque<bool> risposte;      // to the next questions; then as the options say
@@ -33,11 +39,12 @@ struct StatoOspite {
   long long orologio = 0;         // the timers' time, ms since the start
   TimerOspite timer[2];           // by Temporizzatore
   std::vector<ProgrammaAvviato> avviati;
-  std::string finestraCercata;                        // the last window that was not found
-  bool avviato = false;                               // the start has ended well
-  bool dati = false;                                  // the output is data or information: failures go to standard error, as "errore: ..."
-  bool progresso = false;                             // a count stands on the terminal's line
-  bool lavorante = false;                             // a worker: its output is a channel
+  std::string finestraCercata;  // the last window that was not found
+  bool avviato = false;         // the start has ended well
+  bool dati = false;            // the output is data or information: failures go to standard error, as "errore: ..."
+  bool progresso = false;       // a count stands on the terminal's line
+  bool lavorante = false;       // a worker: its output is a channel
+  StatoMemoria memoria;
   bool nonVerificato = false;                         // a verification of this run found a sextet that is not verified
   void (*dentroModale)(const Pannello& p) = nullptr;  // works inside a modal panel until it closes; null: nobody does
 };

@@ -31,7 +31,7 @@ const char* TestoErrore(int codice) {
   return codice >= 0 && codice < static_cast<int>(std::size(TESTI)) ? TESTI[codice] : "codice sconosciuto";
 }
 
-// Out of memory for its own text, an error is told by its code alone.
+// Without memory for its text, an error has its code alone.
 int Rifiuta(int codice, std::string_view cosa) {
   try {
     ultimoErrore = TESTI[codice];

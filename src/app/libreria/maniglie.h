@@ -1,5 +1,5 @@
 // app/libreria/maniglie.h - handles, errors and the guard of every function of the library.
-// Handles   numbers that are never used twice, dressed as pointers and never followed: one that was given back is told for good.
+// Handles   numbers that are never used twice, dressed as pointers and never followed: one that was given back is refused for good.
 // State     registro: what each handle stands for. ultimoErrore: of the calling thread.
 #pragma once
 #if defined(_WIN32)

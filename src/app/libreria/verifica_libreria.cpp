@@ -94,7 +94,7 @@ static std::string NelElenco(std::string testo, std::size_t prima) {
   return std::string(TESTA) + std::to_string(prima + static_cast<std::size_t>(s)) + std::string(static_cast<const char*>(letto.ptr));
 }
 
-// What is only told, the message on the diameter, comes once: with the first piece.
+// The message on the diameter comes once: with the first piece.
 static void PrendiDiagnosi(CorsaLib& c, std::size_t prima) {
   for (const Diagnosi& d : c.l->diagnosi)
     if (prima == 0 || d.icona != Icona::Informazione) c.riquadri.push_back({false, false, NelElenco(d.testo, prima)});

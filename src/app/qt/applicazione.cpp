@@ -8,13 +8,12 @@
 #include <utility>
 
 bool Applicazione::notify(QObject* oggetto, QEvent* evento) {
-  static bool mostrato = false;  // the box may find no memory either
   try {
     return QApplication::notify(oggetto, evento);
   } catch (const std::bad_alloc&) {
-    if (std::exchange(mostrato, true)) return false;
+    if (std::exchange(riquadroInCorso, true)) return false;
     Messaggio(TESTO_MEMORIA, TitoloProg, Icona::Critica);
-    mostrato = false;
+    riquadroInCorso = false;
     return false;
   }
 }

@@ -7,4 +7,7 @@ class Applicazione : public QApplication {
  public:
   using QApplication::QApplication;
   bool notify(QObject* oggetto, QEvent* evento) override;
+
+ private:
+  bool riquadroInCorso = false;  // the box may find no memory either
 };

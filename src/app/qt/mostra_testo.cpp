@@ -86,7 +86,7 @@ static qreal Tabulazione(const QFont& carattere) { return QFontMetricsF(caratter
 
 // ---- on paper ----
 
-// On paper letters are of broken widths, on which no tab stop can be told.
+// On paper letters are of broken widths, on which no tab stop falls exactly.
 static QString SenzaTabulazioni(const QString& testo) {
   QString t;
   qsizetype inizio = 0;  // of the line
