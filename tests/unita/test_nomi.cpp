@@ -257,6 +257,8 @@ TEST_F(Nomi, AltreStanze) {
   collegamento.SezioneImp.Nome = "IPE200";
   collegamento.SezioniStr[2].H = 120;
   collegamento.AsteNodo[1] = -12;
+  static const Disegno VUOTO;
+  disegno = VUOTO;
   disegno.NumLinee = 3;
   disegno.CoordY[0] = 2.5;
   insDati.StatoTxt = "Opzioni";
